@@ -1,0 +1,89 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace corvalis::coder {
+
+using Bytes = std::vector<std::uint8_t>;
+
+/// What became of one thing the Coder took from the line.
+struct Event {
+  enum class Kind { kEnq, kWrite, kRead, kRefused };
+  Kind kind = Kind::kEnq;
+  Bytes received = {};  ///< the frame, or what was delimited of it
+  int error = 0;        ///< 1 to 11 for `kRefused`, else 0
+  Bytes answered = {};  ///< the body of the answer for `kRead`, else empty
+};
+
+/// A simulated RDS encoder: delimits and checks frames, keeps every item it is sent in a memory,
+/// answers reads from it and refuses what a Coder refuses, by error number.
+///
+/// An ENQ is acknowledged and drops the addressing. A frame is judged in this order, the first that
+/// fits deciding: start (9), command (3), length and end (6), checksum (1), addressing (8), may it
+/// be read (7) or written (10), index (2), body (10), address (11).
+///
+/// A run of garbage, and a frame that could not be delimited, is refused once; from then on bytes
+/// are dropped silently until an ENQ, a good frame, or a pause of the line.
+///
+/// The clock time is kept as it was sent; it does not run on.
+class Coder {
+ public:
+  /// `id` is the Coder ID, up to 5 characters, blanks are added on the right. An `open` Coder
+  /// takes commands without having been addressed.
+  explicit Coder(std::string id = "?????", bool open = false);
+
+  /// Takes bytes from the line, in any portions, and returns what the Coder answers to them.
+  [[nodiscard]] Bytes Take(std::span<const std::uint8_t> bytes);
+  /// The same, with one answer for each ENQ and each frame, taken or refused.
+  [[nodiscard]] std::vector<Bytes> TakeApart(std::span<const std::uint8_t> bytes);
+
+  /// The line has been silent for a while: a frame that stopped half way is refused, and the next
+  /// byte is the start of something new. Returns what the Coder answers.
+  [[nodiscard]] Bytes LinePause();
+  /// The same, with the answers apart.
+  [[nodiscard]] std::vector<Bytes> LinePauseApart();
+
+  /// True while an unfinished frame is held or the rest of garbage is being dropped, so while
+  /// `LinePause` would change something.
+  [[nodiscard]] bool InFrame() const;
+
+  /// True from an accepted Address frame until the next ENQ, or Address frame that is refused with
+  /// error 11. An open Coder takes commands all the same.
+  [[nodiscard]] bool Addressed() const;
+  /// The Coder ID, 5 characters.
+  [[nodiscard]] const std::string& Id() const;
+
+  /// The body bytes held for an item, as on the line; nullopt for an unknown command or index, and
+  /// for Address, which is no item.
+  [[nodiscard]] std::optional<Bytes> Item(std::uint8_t command, std::uint8_t index = 0) const;
+  /// Puts an item into the memory as if it had been sent, whatever its characters. False if the
+  /// command is unknown, the index too big or the body's length wrong.
+  bool SetItem(std::uint8_t command, std::uint8_t index, std::span<const std::uint8_t> body);
+
+  /// Called for each ENQ and each frame, taken or refused, before its answer leaves. It may look
+  /// at the Coder and must not give it bytes.
+  std::function<void(const Event&)> Happened;
+
+ private:
+  std::vector<Bytes> Digest(bool pause);
+  [[nodiscard]] Bytes Execute(Bytes frame, bool read);
+  [[nodiscard]] int Refused(const Bytes& frame, bool read) const;
+  [[nodiscard]] int Store(const Bytes& frame);
+  [[nodiscard]] Bytes Refuse(int error, Bytes received);
+  void Report(const Event& event) const;
+
+  std::string id_;
+  bool open_;
+  bool addressed_ = false;
+  bool hunting_ = false;  // garbage has been refused; its rest is dropped
+  Bytes held_;            // taken from the line and not yet judged
+  std::map<std::uint8_t, std::vector<Bytes>> memory_;  // by command, then by index
+};
+
+}  // namespace corvalis::coder

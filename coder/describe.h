@@ -1,0 +1,26 @@
+#pragma once
+
+#include <string>
+
+#include "coder/coder.h"
+
+namespace corvalis::coder {
+
+/// One line of words, without a line end, for what the Coder took, such as
+///
+///     ENQ
+///     PI <- 5201 (country 5, coverage 2, programme 01)
+///     Enable 3 read -> 0105 (group 3A on, repetitions 5)
+///     refused, error 1 (checksum wrong): 02 01 00 35 32 30 31 03 00
+[[nodiscard]] std::string Describe(const Event& event);
+
+/// The memory in words, one line with a line end for each item: name, index in two hexadecimal
+/// digits, bytes of the body, and the body as a text in which what is not printable is a dot:
+///
+///     PI 00: 35 32 30 31  "5201"
+[[nodiscard]] std::string Dump(const Coder& coder);
+
+/// Bytes as two upper-case hexadecimal digits each, blanks between.
+[[nodiscard]] std::string HexText(const Bytes& bytes);
+
+}  // namespace corvalis::coder

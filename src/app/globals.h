@@ -1,0 +1,40 @@
+#pragma once
+
+#include <memory>
+
+#include "config/config_data.h"
+#include "config/language_data.h"
+
+namespace corvalis {
+
+/// The single instances of the program, in their orders. `MainForm` alone has one. A class that
+/// joins gets its line in each of these operations.
+class Globals {
+ public:
+  Globals() = default;
+  ~Globals();
+  Globals(const Globals&) = delete;
+  Globals& operator=(const Globals&) = delete;
+
+  /// The station record; it stays until the process ends.
+  void CreateConfigData();
+  /// The texts; each call loads them into a new instance.
+  void CreateLanguageData();
+  /// The data classes, at the end of the start.
+  void CreateDataClasses();
+  /// The data classes and the texts, when the main menu goes.
+  void Release();
+
+  /// The data classes load themselves from the file, in the order of Open.
+  void LoadForOpen();
+  /// The same in the order of New.
+  void LoadForNew();
+  /// The record and the data classes store themselves, in the order of Save.
+  void Store();
+
+ private:
+  std::unique_ptr<ConfigData> config_data_;
+  std::unique_ptr<LanguageData> language_data_;
+};
+
+}  // namespace corvalis

@@ -1,0 +1,220 @@
+#include "app/main_form.h"
+
+#include <string>
+
+#include "app/wait_form.h"
+#include "link/serial_management.h"
+#include "platform/platform.h"
+
+namespace corvalis {
+
+namespace {
+
+constexpr const char* kDesignCaption =
+    "  Main Menu                                 -CORVALIS-        ";
+constexpr const char* kVersion = "V2.02.60724.1";
+constexpr const char* kExtension = ".rds";
+constexpr int kTimer1Ms = 1000;
+
+}  // namespace
+
+MainForm::MainForm()
+    : window(this, "MainForm"),
+      marks(window),
+      Text_KOR(window, "Text_KOR"),
+      Drive1(window, "Drive1"),
+      Dir1(window, "Dir1"),
+      File1(window, "File1", kExtension),
+      Text105(window, "Text105", TextBox::Content::kFileName),
+      NewButton(window, "NewButton"),
+      OpenButton(window, "OpenButton"),
+      SaveButton(window, "SaveButton"),
+      RS232CButton(window, "RS232CButton"),
+      ConnectionButton(window, "ConnectionButton"),
+      TaPtyMsButton(window, "TaPtyMsButton"),
+      EditGroupsButton(window, "EditGroupsButton"),
+      CtTpDiPiButton(window, "CtTpDiPiButton"),
+      PsnRtPinAfButton(window, "PsnRtPinAfButton"),
+      EonLiButton(window, "EonLiButton"),
+      TdcIhButton(window, "TdcIhButton"),
+      Timer1(window, "Timer1", kTimer1Ms),
+      MSComm1(*Machine().port) {
+  Timer1.SetEnabled(false);
+  Text_KOR.SetCaption("KOR");
+  Text_KOR.SetVisible(false);
+  MSComm1.CommEventRaised = OnComm;
+  window.Unloading = [this] { Unload(); };
+
+  Drive1.Click = [this] { DriveChanged(); };
+  Dir1.Change = [this] { DirChanged(); };
+  File1.Click = [this] { FileClicked(); };
+  File1.PathChange = [this] { File1.Refresh(); };
+  Text105.LostFocus = [this] { CompleteFileName(); };
+  NewButton.Click = [this] { New(); };
+  OpenButton.Click = [this] { Open(); };
+  SaveButton.Click = [this] { Save(); };
+
+  CtTpDiPiButton.Click = [this] {
+    if (!ct_tp_di_pi_) ct_tp_di_pi_ = std::make_unique<CtTpDiPiForm>(window);
+    ct_tp_di_pi_->Load();
+  };
+  // A screen that isn't there yet can't be opened.
+  for (Button* button : {&RS232CButton, &ConnectionButton, &TaPtyMsButton, &EditGroupsButton,
+                         &CtTpDiPiButton, &PsnRtPinAfButton, &EonLiButton, &TdcIhButton}) {
+    button->SetEnabled(static_cast<bool>(button->Click));
+  }
+}
+
+MainForm::~MainForm() {
+  MSComm1.CommEventRaised = nullptr;
+  ReleaseLink();
+  ReleaseWaitForm();
+}
+
+void MainForm::Load() {
+  const ProfileStore::Series series(*Machine().profiles);
+  window.Show();
+  window.SetEnabled(false);
+  window.SetCaption(std::string(kDesignCaption) + kVersion);
+  globals_.CreateConfigData();
+  InitMain();
+  ShowWait();
+  OpenLink(MSComm1);
+  if (!configData->Modem() && LinkOpen) ProbeCoder();
+  ShowFolder();
+  Text105.SetText(configData->File());
+  MatchFile();
+  EnableServices();
+  AddressSent = false;
+  globals_.CreateDataClasses();
+  HideWait();
+  FocusBack();
+}
+
+void MainForm::InitMain() {
+  marks.Follow();
+  Text_KOR.SetVisible(configData->KOR());
+  globals_.CreateLanguageData();
+  const LanguageData& texts = *languageData;
+  const auto set = [](Control& control, const std::string& caption, const std::string& tip) {
+    control.SetCaption(caption);
+    control.SetToolTip(tip);
+  };
+  set(RS232CButton, texts.MainSetupKey(), texts.MainSetupTip());
+  set(ConnectionButton, texts.MainConnectionKey(), texts.MainConnectionTip());
+  set(TaPtyMsButton, texts.MainTAKey(), texts.MainTATip());
+  set(EditGroupsButton, texts.MainGroupKey(), texts.MainGroupTip());
+  set(CtTpDiPiButton, texts.MainClockKey(), texts.MainClockTip());
+  set(PsnRtPinAfButton, texts.MainPSNKey(), texts.MainPSNTip());
+  set(EonLiButton, texts.MainEONKey(), texts.MainEONTip());
+  set(TdcIhButton, texts.MainTDCKey(), texts.MainTDCTip());
+  set(NewButton, texts.MainNewKey(), texts.MainNewTip());
+  set(OpenButton, texts.MainOpenKey(), texts.MainOpenTip());
+  set(SaveButton, texts.MainSaveKey(), texts.MainSaveTip());
+  Text105.SetToolTip(texts.MainFileNameBoxTip());
+  Drive1.SetToolTip(texts.MainDriverBoxTip());
+  Dir1.SetToolTip(texts.MainDirListBoxTip());
+  File1.SetToolTip(texts.MainFileListBoxTip());
+}
+
+void MainForm::New() {
+  const ProfileStore::Series series(*Machine().profiles);
+  window.SetEnabled(false);
+  ShowWait();
+  configData->GetIniFile();
+  globals_.LoadForNew();
+  ShowFolder();  // Save writes into the record's folder: the panel must say which one
+  HideWait();
+  EditGroupsButton.SetEnabled(false);
+  FocusBack();
+}
+
+void MainForm::Open() {
+  const ProfileStore::Series series(*Machine().profiles);
+  window.SetEnabled(false);
+  configData->SetFile(Text105.Text());
+  configData->GetIni();
+  languageData->InitLanguage();
+  InitMain();
+  ShowWait();
+  OpenLink(MSComm1);
+  if (LinkOpen) ProbeCoder();
+  globals_.LoadForOpen();
+  EnableServices();
+  HideWait();
+  FocusBack();
+}
+
+void MainForm::Save() {
+  window.SetEnabled(false);
+  ShowWait();
+  {
+    const ProfileStore::Series series(*Machine().profiles);
+    configData->SetFile(Text105.Text());
+    globals_.Store();
+  }
+  File1.Refresh();
+  HideWait();
+  FocusBack();
+}
+
+void MainForm::Unload() {
+  window.SetEnabled(false);
+  if (configData->Modem() ? configData->ModemHookOn() : LinkOpen) SendEnq();
+  ReleaseLink();
+  globals_.Release();
+  if (Ended) Ended();
+}
+
+void MainForm::DriveChanged() {
+  if (!Dir1.SetPath(Drive1.Drive())) return;
+  configData->SetDrive(Drive1.Drive());
+}
+
+void MainForm::DirChanged() {
+  File1.SetPath(Dir1.Path());
+  MatchFile();
+  configData->SetPath(Dir1.Path());
+}
+
+void MainForm::FileClicked() {
+  configData->SetFile(File1.FileName());
+  Text105.SetText(configData->File());
+}
+
+void MainForm::CompleteFileName() {
+  if (!Text105.Text().ends_with(kExtension)) Text105.SetText(Text105.Text() + kExtension);
+}
+
+void MainForm::ShowFolder() {
+  // Choosing a place would go to its top, and take the record along.
+  const std::string drive = configData->Drive();
+  const std::string path = configData->Path();
+  Drive1.Refresh();
+  Drive1.SetDrive(path);
+  Dir1.SetPath(path);
+  configData->SetDrive(drive);
+  configData->SetPath(path);
+}
+
+void MainForm::MatchFile() {
+  for (int i = 0; i < File1.Count(); ++i) {
+    if (File1.Entry(i) == configData->File()) File1.SetIndex(i);
+  }
+}
+
+void MainForm::EnableServices() {
+  EditGroupsButton.SetEnabled(EditGroupsButton.Click && configData->GroupsEnable());
+  EonLiButton.SetEnabled(EonLiButton.Click && configData->EonEnable());
+}
+
+void MainForm::ShowWait() { TheWaitForm().window.Show(&window); }
+
+void MainForm::HideWait() { TheWaitForm().window.Hide(); }
+
+void MainForm::FocusBack() {
+  window.SetEnabled(true);
+  window.SetFocus();
+}
+
+}  // namespace corvalis

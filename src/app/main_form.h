@@ -1,0 +1,74 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "app/brand_marks.h"
+#include "app/globals.h"
+#include "platform/serial_port.h"
+#include "screen/button.h"
+#include "screen/control.h"
+#include "screen/file_lists.h"
+#include "screen/text_box.h"
+#include "screen/timer.h"
+#include "screen/window.h"
+#include "station/ct_tp_di_pi_form.h"
+
+namespace corvalis {
+
+/// The main menu: the first and the last screen. It creates and releases every global object, owns
+/// the port, holds the file panel with New, Open and Save, and opens the working screens.
+class MainForm {
+ public:
+  MainForm();
+  ~MainForm();
+  MainForm(const MainForm&) = delete;
+  MainForm& operator=(const MainForm&) = delete;
+
+  /// Starts the program. Returns when the screen can be used.
+  void Load();
+  /// Loads all captions and tool-tips of this screen again.
+  void InitMain();
+
+  /// The screen has been closed and everything released: the program ends.
+  std::function<void()> Ended;
+
+  Window window;
+  BrandMarks marks;
+  Label Text_KOR;
+  DriveList Drive1;
+  DirList Dir1;
+  FileList File1;
+  TextBox Text105;
+  Button NewButton, OpenButton, SaveButton;
+  Button RS232CButton, ConnectionButton, TaPtyMsButton, EditGroupsButton;
+  Button CtTpDiPiButton, PsnRtPinAfButton, EonLiButton, TdcIhButton;
+  Timer Timer1;
+  SerialPort& MSComm1;
+
+  /// The screens that have been opened; null before.
+  [[nodiscard]] CtTpDiPiForm* OpenedCtTpDiPi() const { return ct_tp_di_pi_.get(); }
+
+ private:
+  void New();
+  void Open();
+  void Save();
+  void Unload();
+
+  void DriveChanged();
+  void DirChanged();
+  void FileClicked();
+  void CompleteFileName();
+
+  void ShowFolder();
+  void MatchFile();
+  void EnableServices();
+  void ShowWait();
+  void HideWait();
+  void FocusBack();
+
+  Globals globals_;
+  std::unique_ptr<CtTpDiPiForm> ct_tp_di_pi_;
+};
+
+}  // namespace corvalis

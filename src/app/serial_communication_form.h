@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+
+#include "screen/button.h"
+#include "screen/progress_bar.h"
+#include "screen/timer.h"
+#include "screen/window.h"
+
+namespace corvalis {
+
+/// True allows exactly one close of a transfer screen; each attempt to close uses it up.
+extern bool TransferCloseAllowed;
+
+/// Shown during a transfer to or from the Coder, one for each transfer, and the only way to abort
+/// it. The operator can't close it.
+class SerialCommunicationForm {
+ public:
+  /// `abort` is called when the operator presses ESC.
+  explicit SerialCommunicationForm(std::function<void()> abort);
+
+  Window window;
+  ProgressBar ProgressBar1;
+  Timer Timer1;
+  Button Command1;
+};
+
+}  // namespace corvalis

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <functional>
+
+#include "screen/window.h"
+
+namespace corvalis {
+
+/// What one transfer is made of.
+struct Transfer {
+  /// Asked before anything is shown; false drops the transfer. May be empty.
+  std::function<bool()> may_start;
+  std::function<void()> work;
+  /// The operator asks to abort. The work sees to it at its next wait.
+  std::function<void()> abort;
+};
+
+/// The road of every operation that talks to the Coder: disables `screen`, shows the transfer
+/// screen in front of it, does the work, closes the transfer screen, enables `screen` and gives it
+/// the focus.
+void RunTransfer(Window& screen, const Transfer& transfer);
+
+}  // namespace corvalis

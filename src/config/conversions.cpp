@@ -1,0 +1,123 @@
+#include "config/conversions.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdlib>
+
+namespace corvalis {
+
+namespace {
+
+constexpr std::string_view kHexDigits = "0123456789ABCDEF";
+
+int HexDigit(char c) {
+  if (c >= '0' && c <= '9') return c - '0';
+  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+  return -1;
+}
+
+}  // namespace
+
+std::int32_t HexToLong(std::string_view text) {
+  if (text.empty()) return -1;
+  constexpr std::int64_t kMax = std::numeric_limits<std::int32_t>::max();
+  std::int64_t value = 0;
+  for (const char c : text) {
+    const int digit = HexDigit(c);
+    if (digit < 0) return -1;
+    value = std::min(value * 16 + digit, kMax);
+  }
+  return static_cast<std::int32_t>(value);
+}
+
+std::string LongToHex(std::int32_t value, std::int16_t width) {
+  std::string text;
+  for (auto rest = static_cast<std::uint32_t>(value); rest != 0; rest /= 16) {
+    text.insert(text.begin(), kHexDigits[rest % 16]);
+  }
+  const auto wanted = static_cast<std::size_t>(std::max<std::int16_t>(width, 0));
+  if (text.size() < wanted) text.insert(0, wanted - text.size(), '0');
+  return text;
+}
+
+std::string BitsToHex(std::string_view bits, std::int16_t width) {
+  std::string padded((4 - bits.size() % 4) % 4, '0');
+  padded += bits;
+  std::string text;
+  int groups = 0;
+  for (std::size_t i = 0; i < padded.size(); i += 4, ++groups) {
+    const std::string group = padded.substr(i, 4);
+    if (group.find_first_not_of("01") != std::string::npos) continue;
+    unsigned value = 0;
+    for (const char bit : group) value = value * 2 + (bit == '1' ? 1 : 0);
+    text += kHexDigits[value];
+  }
+  for (; groups < width; ++groups) text.insert(text.begin(), '0');
+  return text;
+}
+
+std::string HexToBits(std::string_view hex, std::int16_t width) {
+  std::string bits;
+  int count = 0;
+  for (const char c : hex) {
+    ++count;
+    const std::size_t digit = kHexDigits.find(c);
+    if (digit == std::string_view::npos) continue;
+    for (unsigned mask = 8; mask != 0; mask /= 2) bits += (digit & mask) != 0 ? '1' : '0';
+  }
+  for (; 4 * count < width; ++count) bits.insert(bits.begin(), '0');
+  return bits;
+}
+
+std::string PinCode(std::int16_t day, std::chrono::minutes time_of_day) {
+  const auto minutes = static_cast<std::int32_t>(time_of_day.count());
+  return LongToHex(day * 2048 + minutes / 60 * 64 + minutes % 60, 4);
+}
+
+bool IsWholeNumber(std::string_view text) { return ParseDecimal<std::int16_t>(text).has_value(); }
+
+std::int16_t PickListCount(std::int16_t first, std::int16_t second, std::int16_t fallback) {
+  if (first > 0) return first;
+  return second > 0 ? second : fallback;
+}
+
+std::string GetToken(std::string_view text, std::int16_t index, std::string_view separator) {
+  if (index < 0) return {};
+  for (;; --index) {
+    const std::size_t end = separator.empty() ? std::string_view::npos : text.find(separator);
+    if (index == 0) return std::string(text.substr(0, end));
+    if (end == std::string_view::npos) return {};
+    text.remove_prefix(end + separator.size());
+  }
+}
+
+template <std::signed_integral Int>
+std::optional<Int> ParseDecimal(std::string_view text) {
+  if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+  Int value = 0;
+  const char* end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, value);
+  if (error != std::errc() || stop != end) return std::nullopt;
+  return value;
+}
+template std::optional<std::int16_t> ParseDecimal(std::string_view text);
+template std::optional<std::int32_t> ParseDecimal(std::string_view text);
+
+std::string Digits(int value, int width) {
+  const std::string digits = std::to_string(std::abs(static_cast<long>(value)));
+  const auto wanted = static_cast<std::size_t>(std::max(width, 0));
+  std::string text(value < 0 ? 1 : 0, '-');
+  if (digits.size() < wanted) text.append(wanted - digits.size(), '0');
+  return text += digits;
+}
+
+std::string UpperCase(std::string_view text) {
+  std::string upper(text);
+  for (char& c : upper) {
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  }
+  return upper;
+}
+
+}  // namespace corvalis

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <concepts>
+#include <cstdint>
+#include <limits>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "platform/clock.h"
+
+namespace corvalis {
+
+/// How numbers and bit strings become the printable bytes of the line, the file and the screens.
+/// Nothing here reports anything or depends on the locale.
+
+/// The value of hexadecimal digits of either case; -1 at the first other character, and for an
+/// empty text. A value beyond 32 bits gives the largest 32-bit one.
+[[nodiscard]] std::int32_t HexToLong(std::string_view text);
+
+/// Upper-case hexadecimal digits, at least `width` of them; more where the value needs more. The
+/// value must not be negative. A value of 0 with width 0 gives an empty text.
+[[nodiscard]] std::string LongToHex(std::int32_t value, std::int16_t width);
+
+/// One upper-case digit for each group of four of the "0" and "1" in `bits`, aligned to the right
+/// and filled with "0" to `width` digits. A group of other characters gives no digit, but counts.
+[[nodiscard]] std::string BitsToHex(std::string_view bits, std::int16_t width);
+
+/// Four bits for each of "0" to "9" and "A" to "F"; any other character gives nothing, but counts.
+/// For each digit that is missing to `width` bits, one "0" (one bit, not four) is put in front.
+[[nodiscard]] std::string HexToBits(std::string_view hex, std::int16_t width);
+
+/// The programme item number of a day (0 to 31) and a time: day, hour and minute in 5, 5 and 6
+/// bits, as four hexadecimal digits.
+[[nodiscard]] std::string PinCode(std::int16_t day, std::chrono::minutes time_of_day);
+
+/// True for a decimal integer of 16 bits, with or without a sign.
+[[nodiscard]] bool IsWholeNumber(std::string_view text);
+
+/// The first of the three that is greater than 0; `fallback` in any case if the others aren't.
+[[nodiscard]] std::int16_t PickListCount(std::int16_t first, std::int16_t second,
+                                         std::int16_t fallback);
+
+/// The token of that index, from 0, between separators; empty beyond the last one. Empty tokens
+/// count.
+[[nodiscard]] std::string GetToken(std::string_view text, std::int16_t index,
+                                   std::string_view separator);
+
+/// The decimal number that the whole text is, with or without a sign; nullopt for anything else
+/// and for a number beyond `Int`.
+template <std::signed_integral Int>
+[[nodiscard]] std::optional<Int> ParseDecimal(std::string_view text);
+extern template std::optional<std::int16_t> ParseDecimal(std::string_view text);
+extern template std::optional<std::int32_t> ParseDecimal(std::string_view text);
+
+/// At least `width` decimal digits, filled with "0", behind the sign of a negative value: the
+/// formats "0", "00" and "000" of the screens.
+[[nodiscard]] std::string Digits(int value, int width);
+
+/// ASCII letters in upper case.
+[[nodiscard]] std::string UpperCase(std::string_view text);
+
+/// `value` as an `Int`; nullopt if it does not fit.
+template <std::integral Int>
+[[nodiscard]] constexpr std::optional<Int> Narrow(std::int32_t value) {
+  if (value < std::numeric_limits<Int>::min() || value > std::numeric_limits<Int>::max()) {
+    return std::nullopt;
+  }
+  return static_cast<Int>(value);
+}
+
+}  // namespace corvalis

@@ -1,0 +1,19 @@
+#include "config/ini_management.h"
+
+#include "config/config_data.h"
+#include "platform/platform.h"
+
+namespace corvalis {
+
+std::string ReadIniKey(std::string_view section, std::string_view key) {
+  std::string value = Machine().profiles->Read(configData->FullFileName(), section, key);
+  Machine().pump->RunPending();
+  return value;
+}
+
+void WriteIniKey(std::string_view section, std::string_view key, std::string_view value) {
+  Machine().profiles->Write(configData->FullFileName(), section, key, value);
+  Machine().pump->RunPending();
+}
+
+}  // namespace corvalis

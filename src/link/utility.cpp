@@ -1,0 +1,34 @@
+#include "link/utility.h"
+
+#include "link/link_box.h"
+#include "platform/platform.h"
+#include "screen/keys.h"
+
+namespace corvalis {
+
+int FrequencyKeyFilter(std::string_view text, int& key, int max_length, int sel_length,
+                       int sel_start, bool point_allowed) {
+  if (key == kKeyBackspace) return key;
+  if (key >= '0' && key <= '9') {
+    if (static_cast<int>(text.size()) < max_length || sel_length != 0) return key;
+  } else if ((key == '.' || key == ',') && point_allowed) {
+    const std::size_t found = text.find('.');
+    const int point = static_cast<int>(found) + 1;
+    if (found == std::string_view::npos || (sel_start <= point && point < sel_start + sel_length)) {
+      return key = '.';
+    }
+  }
+  Machine().dialogs->Beep();
+  return key = kKeyCancelled;
+}
+
+void CommitGridRow(Grid& grid) {
+  const int row = grid.Row();
+  const int column = grid.Column();
+  grid.MoveTo(row == 0 ? 1 : 0, column);
+  grid.MoveTo(row, column);
+}
+
+void WarnBeforeAddress() { ShowLinkBox("Before send Address", kCommunicationManagementTitle); }
+
+}  // namespace corvalis

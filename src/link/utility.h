@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string_view>
+
+#include "config/conversions.h"
+#include "screen/grid.h"
+
+namespace corvalis {
+
+/// A key struck in a number box that takes a frequency. Returns the key to use, and writes it back
+/// to `key`: back space, a digit while the text is shorter than `max_length` or something is
+/// selected, and "." (also for ",") if `point_allowed` and the text holds no point, or the point
+/// lies in the selection. Any other key beeps and becomes 0.
+int FrequencyKeyFilter(std::string_view text, int& key, int max_length, int sel_length,
+                       int sel_start, bool point_allowed);
+
+/// Makes a grid store the cell being edited, before its contents are read: goes to another row and
+/// back.
+void CommitGridRow(Grid& grid);
+
+/// Tells the operator that a one-way link needs the Coder to be addressed first.
+void WarnBeforeAddress();
+
+}  // namespace corvalis

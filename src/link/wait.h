@@ -1,0 +1,23 @@
+#pragma once
+
+namespace corvalis {
+
+/// One wait of the link, on the seconds since midnight. It knows nothing of midnight: a wait that
+/// runs into the next day does not expire by itself.
+class Wait {
+ public:
+  /// Takes the time. `seconds` may have a fraction.
+  explicit Wait(double seconds);
+
+  /// Lets events run: at the first call those that are pending, at the next ones sleeping until
+  /// something came or the time is over.
+  void Pump();
+  /// True once the clock is past the start plus the seconds given.
+  [[nodiscard]] bool Expired() const;
+
+ private:
+  double deadline_;
+  bool first_ = true;
+};
+
+}  // namespace corvalis

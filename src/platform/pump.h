@@ -1,0 +1,20 @@
+#pragma once
+
+namespace corvalis {
+
+/// Lets the port's events, the operator's events and the timers run. There is one thread: nothing
+/// of these runs outside a pump.
+class Pump {
+ public:
+  virtual ~Pump() = default;
+
+  /// Runs what is pending and returns at once.
+  virtual void RunPending() = 0;
+
+  /// Sleeps until something came and was run, or until `Clock::Timer()` is past `deadline`
+  /// (seconds since midnight). A deadline of 86400 or more is never reached, as the clock falls
+  /// back to 0 at midnight: only an event ends such a call.
+  virtual void RunUntil(double deadline) = 0;
+};
+
+}  // namespace corvalis

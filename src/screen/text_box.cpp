@@ -1,0 +1,69 @@
+#include "screen/text_box.h"
+
+#include <algorithm>
+
+#include "screen/keys.h"
+
+namespace corvalis {
+
+void TextBox::SetText(const std::string& text) {
+  if (text_ == text) return;
+  text_ = text;
+  sel_start_ = 0;
+  sel_length_ = 0;
+  Redraw();
+  if (Change) Change();
+}
+
+void TextBox::Select(int start, int length) {
+  const int size = static_cast<int>(text_.size());
+  sel_start_ = std::clamp(start, 0, size);
+  sel_length_ = std::clamp(length, 0, size - sel_start_);
+  Redraw();
+}
+
+bool TextBox::RefusedByForm(int& key) const {
+  if (KeyPress) KeyPress(key);
+  return key == kKeyCancelled;
+}
+
+void TextBox::TypeKey(int key) {
+  if (!TakesEvents() || locked_ || RefusedByForm(key)) return;
+  if (key == kKeyBackspace) {
+    if (sel_length_ == 0) {
+      if (sel_start_ == 0) return;
+      --sel_start_;
+      sel_length_ = 1;
+    }
+    Replace("");
+  } else if (key >= ' ') {
+    Replace(std::string(1, static_cast<char>(key)));
+  }
+}
+
+void TextBox::Type(const std::string& keys) {
+  for (const char key : keys) TypeKey(static_cast<unsigned char>(key));
+}
+
+void TextBox::Edit(const std::string& text, int caret) {
+  if (!TakesEvents() || locked_) return;
+  if (text_ != text) {
+    text_ = text;
+    if (Change) Change();
+  }
+  Select(caret, 0);
+}
+
+void TextBox::Paste(const std::string& text) {
+  int key = kKeyPaste;
+  if (TakesEvents() && !locked_ && !RefusedByForm(key)) Replace(text);
+}
+
+void TextBox::Replace(const std::string& insertion) {
+  std::string text = text_;
+  text.replace(static_cast<std::size_t>(sel_start_), static_cast<std::size_t>(sel_length_),
+               insertion);
+  Edit(text, sel_start_ + static_cast<int>(insertion.size()));
+}
+
+}  // namespace corvalis

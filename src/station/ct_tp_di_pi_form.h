@@ -1,0 +1,26 @@
+#pragma once
+
+#include "screen/window.h"
+#include "station/pi_ecc_lic_tab.h"
+
+namespace corvalis {
+
+/// The screen of the values that identify the station, one tab for each group of them. It lives on
+/// once created and is then only loaded and closed.
+class CtTpDiPiForm {
+ public:
+  /// `main_menu` is disabled while this screen is open, and gets the focus back.
+  explicit CtTpDiPiForm(Window& main_menu);
+
+  /// Opens the screen.
+  void Load();
+
+  Window window;
+  PiEccLicTab pi_ecc_lic;
+
+ private:
+  Window& main_menu_;
+  bool loaded_before_ = false;
+};
+
+}  // namespace corvalis

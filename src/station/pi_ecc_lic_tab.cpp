@@ -1,0 +1,315 @@
+#include "station/pi_ecc_lic_tab.h"
+
+#include <cctype>
+#include <string>
+#include <vector>
+
+#include "config/config_data.h"
+#include "config/conversions.h"
+#include "config/language_data.h"
+#include "link/transfer.h"
+#include "platform/platform.h"
+#include "screen/keys.h"
+#include "station/country_table.h"
+#include "station/language_codes.h"
+
+namespace corvalis {
+
+namespace {
+
+constexpr int kPiDigits = 4;
+constexpr std::int16_t kMaxProgramNum = 255;
+
+/// The coverage areas, by coverage code.
+const std::vector<std::string> kCoverages{"Local",
+                                          "International",
+                                          "National",
+                                          "Supra - Regional",
+                                          "Regional 1",
+                                          "Regional 2",
+                                          "Regional 3",
+                                          "Regional 4",
+                                          "Regional 5",
+                                          "Regional 6",
+                                          "Regional 7 + ARI",
+                                          "Regional 8 + ARI",
+                                          "Regional 9 + ARI",
+                                          "Regional 10 + ARI",
+                                          "Regional 11 + ARI",
+                                          "Regional 12 + ARI"};
+
+// Both are built the first time that the screen opens, and then stay.
+const CountryIndex& CountriesByName() {
+  static const CountryIndex index;
+  return index;
+}
+
+const LanguageCodeIndex& LanguagesByName() {
+  static const LanguageCodeIndex index;
+  return index;
+}
+
+std::string CountryName(int row) {
+  return std::string(Countries()[static_cast<std::size_t>(row)].name);
+}
+
+void RefuseKey(int& key) {
+  Machine().dialogs->Beep();
+  key = kKeyCancelled;
+}
+
+// Selects an entry, or none if there is no such entry.
+void SelectLine(ListBox& list, int line) {
+  list.SetIndex(line >= 0 && line < list.Count() ? line : ListBox::kNone);
+}
+
+}  // namespace
+
+PiEccLicTab::PiEccLicTab(Window& window)
+    : CountryLabel(window, "CountryLabel"),
+      CoverageLabel(window, "CoverageLabel"),
+      IDNumberLabel(window, "IDNumberLabel"),
+      PiLabel(window, "PiLabel"),
+      EccLabel(window, "EccLabel"),
+      LicLabel(window, "LicLabel"),
+      CountryListLabel(window, "CountryListLabel"),
+      CountryCombo(window, "CountryCombo"),
+      CoverageCombo(window, "CoverageCombo"),
+      IDNumberText(window, "IDNumberText"),
+      VScroll3(window, "VScroll3"),
+      PiText(window, "PiText"),
+      EccText(window, "EccText"),
+      LicCombo(window, "LicCombo"),
+      CountryList(window, "CountryList"),
+      ReadPiCommand(window, "ReadPiCommand"),
+      SendPiCommand(window, "SendPiCommand"),
+      SendPiBurstCommand(window, "SendPiBurstCommand"),
+      ReadEccCommand(window, "ReadEccCommand"),
+      SendEccCommand(window, "SendEccCommand"),
+      SendEccBurstCommand(window, "SendEccBurstCommand"),
+      ReadLicCommand(window, "ReadLicCommand"),
+      SendLicCommand(window, "SendLicCommand"),
+      SendLicBurstCommand(window, "SendLicBurstCommand"),
+      window_(window) {
+  CountryCombo.Click = [this] { ChooseCountry(); };
+  CountryCombo.LostFocus = [this] { ShowCountry(); };
+  CoverageCombo.Click = [this] { ChooseCoverage(); };
+  CoverageCombo.LostFocus = [this] { ShowCoverage(); };
+  LicCombo.Click = [this] { ChooseLanguage(); };
+  LicCombo.LostFocus = [this] { ShowLanguage(); };
+  for (ListBox* list : {&CountryCombo, &CoverageCombo, &LicCombo}) list->KeyPress = RefuseKey;
+
+  IDNumberText.SetLocked(true);
+  VScroll3.StepUp = [this] { StepProgramNum(+1); };
+  VScroll3.StepDown = [this] { StepProgramNum(-1); };
+
+  PiText.KeyPress = [this](int& key) { FilterPiKey(key); };
+  PiText.LostFocus = [this] { TakePi(); };
+  EccText.SetLocked(true);
+
+  ReadPiCommand.Click = [this] { RunRead(window_, [this] { ReadPi(); }); };
+  ReadEccCommand.Click = [this] { RunRead(window_, [this] { ReadEcc(); }); };
+  ReadLicCommand.Click = [this] { RunRead(window_, [this] { ReadLic(); }); };
+
+  const auto send = [this](Button& once, Button& burst, void (ConfigData::*operation)()) {
+    const auto work = [operation] { (configData->*operation)(); };
+    once.Click = [this, work] { RunSend(window_, work); };
+    burst.Click = [this, work] { RunBurst(window_, configData->Burst(), work); };
+  };
+  send(SendPiCommand, SendPiBurstCommand, &ConfigData::SetPiRds);
+  send(SendEccCommand, SendEccBurstCommand, &ConfigData::SetEccRds);
+  send(SendLicCommand, SendLicBurstCommand, &ConfigData::SetLicRds);
+}
+
+void PiEccLicTab::InitCaptions() {
+  const LanguageData& texts = *languageData;
+  const auto set = [](Control& control, const std::string& caption, const std::string& tip) {
+    control.SetCaption(caption);
+    control.SetToolTip(tip);
+  };
+  set(CountryLabel, texts.PiEccLicCountryKey(), texts.PiEccLicCountryTip());
+  set(CoverageLabel, texts.PiEccLicCoverageKey(), texts.PiEccLicCoverageTip());
+  set(IDNumberLabel, texts.PiEccLicIDNumberKey(), texts.PiEccLicIDNumberTip());
+  // The abbreviations of the standard are the same in every language.
+  set(PiLabel, "PI", texts.PiEccLicPITip());
+  set(EccLabel, "ECC", texts.PiEccLicECCTip());
+  set(LicLabel, "LIC", texts.PiEccLicLicTip());
+  set(CountryListLabel, "", texts.PiEccLicCountryListTip());
+  CountryCombo.SetToolTip(texts.PiEccLicCountryTip());
+  CoverageCombo.SetToolTip(texts.PiEccLicCoverageTip());
+  IDNumberText.SetToolTip(texts.PiEccLicIDNumberTip());
+  VScroll3.SetToolTip(texts.PiEccLicIDNumberTip());
+  PiText.SetToolTip(texts.PiEccLicPITip());
+  EccText.SetToolTip(texts.PiEccLicECCTip());
+  LicCombo.SetToolTip(texts.PiEccLicLicTip());
+  CountryList.SetToolTip(texts.PiEccLicCountryListTip());
+  set(ReadPiCommand, texts.PiEccLicReadPIKey(), texts.PiEccLicReadPITip());
+  set(SendPiCommand, texts.PiEccLicSendPIKey(), texts.PiEccLicSendPITip());
+  set(SendPiBurstCommand, texts.PiEccLicSendPIBurstKey(), texts.PiEccLicSendPIBurstTip());
+  set(ReadEccCommand, texts.PiEccLicReadECCKey(), texts.PiEccLicReadECCTip());
+  set(SendEccCommand, texts.PiEccLicSendECCKey(), texts.PiEccLicSendECCTip());
+  set(SendEccBurstCommand, texts.PiEccLicSendECCBurstKey(), texts.PiEccLicSendECCBurstTip());
+  set(ReadLicCommand, texts.PiEccLicReadLICKey(), texts.PiEccLicReadLICTip());
+  set(SendLicCommand, texts.PiEccLicSendLICKey(), texts.PiEccLicSendLICTip());
+  set(SendLicBurstCommand, texts.PiEccLicSendLICBurstKey(), texts.PiEccLicSendLICBurstTip());
+}
+
+void PiEccLicTab::Open() {
+  const bool satellite = configData->Satellite();
+  const auto show = [satellite](Button& read, Button& send, Button& burst, bool offered) {
+    read.SetVisible(offered && !satellite);
+    send.SetVisible(offered);
+    burst.SetVisible(offered && satellite);
+  };
+  show(ReadPiCommand, SendPiCommand, SendPiBurstCommand, true);
+  show(ReadEccCommand, SendEccCommand, SendEccBurstCommand, configData->EccEnable());
+  show(ReadLicCommand, SendLicCommand, SendLicBurstCommand, configData->LicEnable());
+  EccText.SetEnabled(configData->EccEnable());
+  LicCombo.SetEnabled(configData->LicEnable());
+
+  FillLists();
+  ShowPiParts();
+  ShowEcc(configData->Ecc());
+  ShowLanguage();
+}
+
+void PiEccLicTab::FillLists() {
+  std::vector<std::string> names;
+  for (int line = 0; line < kCountries; ++line) {
+    names.push_back(CountryName(CountriesByName().RowOfLine(line)));
+  }
+  CountryCombo.Fill(names);
+
+  CoverageCombo.Fill(kCoverages);
+
+  names.clear();
+  for (int line = 0; line < LanguagesByName().NamedLines(); ++line) {
+    names.emplace_back(LanguageOfCode(LanguagesByName().CodeOfLine(line)));
+  }
+  LicCombo.Fill(names);
+}
+
+void PiEccLicTab::ChooseCountry() {
+  if (CountryCombo.Index() == ListBox::kNone) return;
+  const int row = CountriesByName().RowOfLine(CountryCombo.Index());
+  const CountryRecord& country = Countries()[static_cast<std::size_t>(row)];
+  configData->SetCountry(country.country);
+  configData->SetEcc(country.ecc);
+  FillCountryList();
+  ShowPi();
+  ShowEcc(configData->Ecc());
+}
+
+void PiEccLicTab::ChooseCoverage() {
+  if (CoverageCombo.Index() == ListBox::kNone) return;
+  configData->SetCoverage(static_cast<std::int16_t>(CoverageCombo.Index()));
+  ShowPi();
+}
+
+void PiEccLicTab::ChooseLanguage() {
+  if (LicCombo.Index() == ListBox::kNone) return;
+  configData->SetLic(static_cast<std::uint8_t>(LanguagesByName().CodeOfLine(LicCombo.Index())));
+}
+
+void PiEccLicTab::StepProgramNum(int step) {
+  const int number = configData->ProgramNum() + step;
+  if (number < 0 || number > kMaxProgramNum) return;
+  configData->SetProgramNum(static_cast<std::int16_t>(number));
+  ShowProgramNum();
+  ShowPi();
+}
+
+void PiEccLicTab::FilterPiKey(int& key) const {
+  if (key == kKeyBackspace) return;
+  const bool full = PiText.Text().size() >= kPiDigits && PiText.SelLength() == 0;
+  if (full || key < 0 || key > 127 || std::isxdigit(key) == 0) {
+    RefuseKey(key);
+  } else {
+    key = std::toupper(key);
+  }
+}
+
+void PiEccLicTab::TakePi() {
+  const std::int32_t pi = HexToLong(PiText.Text());
+  if (PiText.Text().size() != kPiDigits || pi < 0) {
+    RefusePi();
+    return;
+  }
+  PiText.SetText(LongToHex(pi, kPiDigits));
+  if (PiText.Text().front() == '0') {  // there is no country code 0
+    RefusePi();
+    return;
+  }
+  configData->SetProgramNum(static_cast<std::int16_t>(pi & 0xFF));
+  configData->SetCoverage(static_cast<std::int16_t>(pi >> 8 & 0xF));
+  configData->SetCountry(static_cast<std::uint8_t>(pi >> 12));
+  ShowPi();
+  FillCountryList();
+  ShowCountry();
+  ShowCoverage();
+  // IDNumberText keeps the old number here, until a step or a read moves it.
+}
+
+void PiEccLicTab::RefusePi() {
+  Machine().dialogs->Beep();
+  PiText.SelectAll();
+  PiText.SetFocus();
+}
+
+void PiEccLicTab::FillCountryList() {
+  const int first = CountryKey(configData->Country(), 0);
+  std::vector<std::string> names;
+  for (int i = 0; i < kKeysPerCountryCode; ++i) {
+    const std::uint16_t row = CountriesByName().RowOfKey(first + i);
+    if (row != kNoRow) names.push_back(CountryName(row));
+  }
+  CountryList.Fill(names);
+}
+
+void PiEccLicTab::ShowCountry() {
+  const int key = CountryKey(configData->Country(), configData->Ecc());
+  SelectLine(CountryCombo, CountriesByName().LineOfKey(key));
+}
+
+void PiEccLicTab::ShowCoverage() { SelectLine(CoverageCombo, configData->Coverage()); }
+
+void PiEccLicTab::ShowLanguage() {
+  const int code = configData->Lic();
+  SelectLine(LicCombo, code < kLanguageCodes ? LanguagesByName().LineOfCode(code) : ListBox::kNone);
+}
+
+void PiEccLicTab::ShowProgramNum() { IDNumberText.SetText(Digits(configData->ProgramNum(), 3)); }
+
+void PiEccLicTab::ShowPi() {
+  const int pi =
+      configData->Country() * 4096 + configData->Coverage() * 256 + configData->ProgramNum();
+  PiText.SetText(LongToHex(pi & 0xFFFF, kPiDigits));
+}
+
+void PiEccLicTab::ShowPiParts() {
+  ShowCountry();
+  ShowCoverage();
+  ShowProgramNum();
+  FillCountryList();
+  ShowPi();
+}
+
+void PiEccLicTab::ShowEcc(int ecc) { EccText.SetText(LongToHex(ecc, 2)); }
+
+void PiEccLicTab::ReadPi() {
+  configData->GetPiRds();
+  ShowPiParts();
+}
+
+void PiEccLicTab::ReadEcc() {
+  configData->GetEccRds();
+  ShowCountry();
+  ShowEcc(configData->Ecc() | 0xE0);  // an ECC of another group shows in its 0xE form after a read
+}
+
+void PiEccLicTab::ReadLic() {
+  configData->GetLicRds();
+  ShowLanguage();
+}
+
+}  // namespace corvalis

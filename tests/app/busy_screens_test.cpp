@@ -1,0 +1,94 @@
+// The wait screen, the transfer screen and the bracket around every transfer.
+
+#include <gtest/gtest.h>
+
+#include "app/serial_communication_form.h"
+#include "app/transfer_bracket.h"
+#include "app/wait_form.h"
+#include "link/serial_management.h"
+#include "link/transfer.h"
+#include "support/test_machine.h"
+
+namespace corvalis::test {
+namespace {
+
+class BusyScreens : public LinkTest {
+ protected:
+  BusyScreens() { screen.Show(); }
+  Window screen{this, "Screen"};
+};
+
+TEST_F(BusyScreens, TransferScreenClosesOnceForEachPermission) {
+  Start(kLocal);
+  SerialCommunicationForm form([] {});
+  form.window.Show(&screen);
+  TransferCloseAllowed = false;
+  form.window.Close();
+  EXPECT_TRUE(form.window.Visible());
+  TransferCloseAllowed = true;
+  EXPECT_TRUE(form.window.Unload());
+  EXPECT_FALSE(TransferCloseAllowed);
+  EXPECT_FALSE(form.window.Unload());
+}
+
+TEST_F(BusyScreens, EscByButtonAndByKey) {
+  Start(kLocal);
+  int aborts = 0;
+  SerialCommunicationForm form([&] { ++aborts; });
+  form.window.Show(&screen);
+  EXPECT_EQ(form.Command1.Caption(), "ESC");
+  EXPECT_EQ(form.Command1.ToolTip(), "Serial transmission interruption!");
+  form.Command1.Press();
+  form.Command1.TypeKey(27);
+  form.Command1.TypeKey('x');
+  EXPECT_EQ(aborts, 2);
+}
+
+TEST_F(BusyScreens, BracketGoesItsRoad) {
+  Start(kLocal);
+  std::string order;
+  const auto say = [&](const std::string& what) {
+    order += what + (screen.Enabled() ? "+ " : "- ");
+  };
+  screen.RaiseAsked = [&] { say("focus"); };
+  RunTransfer(screen, {.may_start =
+                           [&] {
+                             say("asked");
+                             return true;
+                           },
+                       .work = [&] { say("work"); },
+                       .abort = [] {}});
+  EXPECT_EQ(order, "asked- work- focus+ ");
+  order.clear();
+  RunTransfer(screen,
+              {.may_start = [] { return false; }, .work = [&] { say("work"); }, .abort = {}});
+  EXPECT_EQ(order, "focus+ ");
+}
+
+TEST_F(BusyScreens, EscWhileNothingWaitsAbortsTheNextTransfer) {
+  Start(kLocal);
+  Open();
+  port.answer = [](const Bytes&) { return Bytes{}; };
+  EscPressed = true;
+  RunSend(screen, [] { configData->SetPiRds(); });
+  EXPECT_EQ(LinkError, kErrorAborted);
+  EXPECT_TRUE(dialogs.boxes.empty());
+  EXPECT_TRUE(screen.Enabled());
+}
+
+TEST_F(BusyScreens, WaitFormShowsBrandAndMessageAndMoves) {
+  WriteFile(machine.settings_folder + "/Firm.ini", "[Firm]\nFirm=TULM\n");
+  Start(kLocal);
+  WaitForm& form = TheWaitForm();
+  EXPECT_TRUE(form.marks.Logo_Tulm.Visible());
+  EXPECT_FALSE(form.marks.Logo_KOR.Visible());
+  EXPECT_EQ(form.WaitMessage.Caption(), "Wait please!");
+  EXPECT_EQ(form.window.Caption(), " Wait");
+  form.WaitTimer.Fire();
+  EXPECT_EQ(form.WaitBar.Value(), 1);
+  EXPECT_EQ(&TheWaitForm(), &form);
+  ReleaseWaitForm();
+}
+
+}  // namespace
+}  // namespace corvalis::test

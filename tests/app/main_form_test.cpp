@@ -1,0 +1,229 @@
+// The main menu from start to end, with the Coder in memory.
+
+#include "app/main_form.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "app/wait_form.h"
+#include "link/serial_management.h"
+#include "support/test_machine.h"
+
+namespace corvalis::test {
+namespace {
+
+class MainFormTest : public MachineTest {
+ protected:
+  MainFormTest() : line(the_coder, coder::Faults{}) { port.line = &line; }
+  ~MainFormTest() override { form.reset(); }
+
+  void Run(const std::string& file) {
+    WriteFile(ProgramFile(), file);
+    form = std::make_unique<MainForm>();
+    form->Load();
+  }
+
+  coder::Coder the_coder{"?????", true};
+  coder::Line line;
+  std::unique_ptr<MainForm> form;
+};
+
+const std::vector<Bytes> kOneEnq{{kEnq}};
+
+TEST_F(MainFormTest, StartOnALocalLink) {
+  Run("[Serial Setup]\nSatellite=Off\nBaudrate=4800\nParity=E\nStopBit=1\nSerialPort=2\n");
+  EXPECT_EQ(form->window.Caption(),
+            "  Main Menu                                 -CORVALIS-        V2.02.60724.1");
+  EXPECT_EQ(port.Settings(), "4800,E,8,1");
+  EXPECT_EQ(port.CommPort(), 2);
+  EXPECT_EQ(port.written, kOneEnq);
+  EXPECT_TRUE(LinkOpen);
+  EXPECT_TRUE(form->window.Enabled());
+  EXPECT_FALSE(TheWaitForm().window.Visible());
+  EXPECT_EQ(form->Text105.Text(), "corvalis.rds");
+  EXPECT_EQ(form->Dir1.Path(), machine.program_folder);
+  EXPECT_EQ(form->File1.FileName(), "corvalis.rds");
+  EXPECT_EQ(form->SaveButton.Caption(), "SAVE");
+  EXPECT_EQ(form->File1.ToolTip(), "Select the file configuration");
+  EXPECT_EQ(configData->Path(), machine.program_folder);
+}
+
+TEST_F(MainFormTest, StartByKindOfLink) {
+  struct Case {
+    const char* name;
+    const char* file;
+    bool silent, missing;
+    std::size_t written;
+    bool open;
+    std::size_t boxes;
+  };
+  const Case cases[] = {
+      {"satellite with nothing connected", "", true, false, 1, true, 0},
+      {"local, silent Coder", "[Serial Setup]\nSatellite=Off\n", true, false, 1, false, 1},
+      {"modem", "[Serial Setup]\nSatellite=Off\nModem=On\n", true, false, 0, true, 0},
+      {"no such port", "", false, true, 0, false, 1}};
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.name);
+    form.reset();
+    port.written.clear();
+    dialogs.boxes.clear();
+    port.missing.clear();
+    port.SetPortOpen(false);
+    if (c.silent) port.answer = [](const Bytes&) { return Bytes{}; };
+    if (c.missing) port.missing[1] = "No such file or directory";
+    Run(c.file);
+    EXPECT_EQ(port.written.size(), c.written);
+    EXPECT_EQ(LinkOpen, c.open);
+    EXPECT_EQ(dialogs.boxes.size(), c.boxes);
+    EXPECT_TRUE(form->window.Enabled());
+  }
+}
+
+TEST_F(MainFormTest, ScreensThatAreNotThereCantBeOpened) {
+  Run("[RDS Setup]\nGroups Enable=On\nEON Enable=On\n");
+  for (const Button* button :
+       {&form->RS232CButton, &form->ConnectionButton, &form->TaPtyMsButton, &form->EditGroupsButton,
+        &form->PsnRtPinAfButton, &form->EonLiButton, &form->TdcIhButton}) {
+    EXPECT_FALSE(button->Enabled()) << button->Name();
+    EXPECT_TRUE(button->Visible()) << button->Name();
+  }
+  form->CtTpDiPiButton.Press();
+  ASSERT_NE(form->OpenedCtTpDiPi(), nullptr);
+  EXPECT_TRUE(form->OpenedCtTpDiPi()->window.Visible());
+  EXPECT_FALSE(form->window.Enabled());
+  form->OpenedCtTpDiPi()->window.Close();
+  EXPECT_TRUE(form->window.Enabled());
+}
+
+TEST_F(MainFormTest, SaveWritesUnderTheNameInTheBox) {
+  Run("");
+  const std::pair<const char*, const char*> cases[] = {{"station", "station.rds"},
+                                                       {"STATION.RDS", "STATION.RDS.rds"},
+                                                       {"ready.rds", "ready.rds"},
+                                                       {"", ".rds"}};
+  for (const auto& [typed, saved] : cases) {
+    form->window.MoveFocus(&form->Text105);
+    form->Text105.SelectAll();
+    form->Text105.TypeKey(8);
+    form->Text105.Type(typed);
+    form->SaveButton.Press();
+    EXPECT_EQ(form->Text105.Text(), saved);
+    EXPECT_EQ(configData->File(), saved);
+    const std::string path = machine.program_folder + "/" + saved;
+    EXPECT_EQ(profiles.Read(path, "PI", "Country"), "5");
+  }
+  EXPECT_EQ(form->File1.Count(), 4);  // corvalis.rds among them; the hidden one is not shown
+  EXPECT_TRUE(form->window.Enabled());
+}
+
+TEST_F(MainFormTest, OpenLoadsTheFileAndOpensThePortAnew) {
+  Run("[Serial Setup]\nSatellite=Off\n");
+  WriteFile(machine.program_folder + "/other.rds",
+            "[PI]\nCountry=A\n[Serial Setup]\nSatellite=Off\nSerialPort=3\nModem=On\n");
+  form->File1.Refresh();
+  form->File1.Choose(1);
+  EXPECT_EQ(form->Text105.Text(), "other.rds");
+  port.written.clear();
+  form->OpenButton.Press();
+  EXPECT_EQ(configData->Country(), 0xA);
+  EXPECT_EQ(port.CommPort(), 3);
+  EXPECT_EQ(port.written, kOneEnq);  // here a modem makes no exception
+  EXPECT_TRUE(LinkOpen);
+}
+
+TEST_F(MainFormTest, NewGoesBackToTheDefaultFileAndLeavesTheLink) {
+  Run("[PI]\nCountry=7\n[Serial Setup]\nSatellite=Off\n");
+  const std::string elsewhere = folder + "/elsewhere";
+  std::filesystem::create_directory(elsewhere);
+  WriteFile(elsewhere + "/a.rds", "[PI]\nCountry=1\n[Serial Setup]\nSatellite=Off\n");
+  form->Dir1.SetPath(elsewhere);
+  EXPECT_EQ(configData->Path(), elsewhere);
+  form->File1.Choose(0);
+  form->OpenButton.Press();
+  EXPECT_EQ(configData->Country(), 1);
+  port.written.clear();
+  form->NewButton.Press();
+  EXPECT_EQ(configData->Country(), 7);
+  EXPECT_EQ(configData->FullFileName(), ProgramFile());
+  EXPECT_EQ(form->Dir1.Path(), machine.program_folder);  // where Save would write now
+  EXPECT_TRUE(port.written.empty());
+  EXPECT_FALSE(form->EditGroupsButton.Enabled());
+}
+
+TEST_F(MainFormTest, FolderPanelGoesDownAndUp) {
+  Run("");
+  std::filesystem::create_directories(folder + "/program/sub");
+  form->Dir1.SetPath(machine.program_folder);
+  const int sub = form->Dir1.Count() - 1;
+  EXPECT_EQ(form->Dir1.Entry(sub), "sub");
+  form->Dir1.Open(sub);
+  EXPECT_EQ(configData->Path(), machine.program_folder + "/sub");
+  EXPECT_EQ(form->File1.Count(), 0);
+  form->Dir1.Open(form->Dir1.Here() - 1);
+  EXPECT_EQ(configData->Path(), machine.program_folder);
+  EXPECT_EQ(form->File1.FileName(), "corvalis.rds");
+  form->Drive1.Choose(0);
+  EXPECT_EQ(configData->Path(), "/");
+  EXPECT_EQ(configData->Drive(), "/");
+}
+
+TEST_F(MainFormTest, FolderThatCantBeWrittenLosesAndShowsNothing) {
+  Run("");
+  configData->SetPath(folder + "/not there");
+  form->SaveButton.Press();
+  EXPECT_TRUE(dialogs.boxes.empty());
+  EXPECT_TRUE(form->window.Enabled());
+}
+
+TEST_F(MainFormTest, EndSendsEnqWhereTheCoderCanBeReached) {
+  struct Case {
+    const char* file;
+    bool hook;
+    std::size_t enqs;
+  };
+  const Case cases[] = {{"[Serial Setup]\nSatellite=Off\n", false, 2},
+                        {"", false, 2},
+                        {"[Serial Setup]\nSatellite=Off\nModem=On\n", false, 0},
+                        {"[Serial Setup]\nSatellite=Off\nModem=On\n", true, 1}};
+  for (const Case& c : cases) {
+    form.reset();
+    port.SetPortOpen(false);
+    port.written.clear();
+    Run(c.file);
+    configData->SetModemHookOn(c.hook);
+    bool ended = false;
+    form->Ended = [&] { ended = true; };
+    form->window.Close();
+    EXPECT_TRUE(ended);
+    EXPECT_EQ(port.written, std::vector<Bytes>(c.enqs, Bytes{kEnq}));
+    EXPECT_EQ(languageData, nullptr);
+    EXPECT_NE(configData, nullptr);  // stays until the process ends
+  }
+}
+
+TEST_F(MainFormTest, MenuCantBeClosedWhileItIsBusy) {
+  Run("[Serial Setup]\nSatellite=Off\n");
+  bool ended = false;
+  form->Ended = [&] { ended = true; };
+  port.answer = [](const Bytes&) { return Bytes{}; };
+  time.After(1, [this] {
+    form->window.Close();
+    form->SaveButton.Press();
+  });
+  form->OpenButton.Press();  // waits for the answer to its ENQ
+  EXPECT_FALSE(ended);
+  EXPECT_TRUE(form->window.Visible());
+  EXPECT_EQ(ReadFile(ProgramFile()), "[Serial Setup]\nSatellite=Off\n");
+}
+
+TEST_F(MainFormTest, BrandMark) {
+  WriteFile(machine.settings_folder + "/Firm.ini", "[Firm]\r\nFirm=KOR\r\n");
+  Run("");
+  EXPECT_TRUE(form->marks.Logo_KOR.Visible());
+  EXPECT_TRUE(form->Text_KOR.Visible());
+  EXPECT_FALSE(form->marks.Logo_DOX.Visible());
+}
+
+}  // namespace
+}  // namespace corvalis::test

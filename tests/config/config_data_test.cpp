@@ -1,0 +1,282 @@
+// The station record and its file.
+
+#include "config/config_data.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <random>
+
+#include "support/test_machine.h"
+
+namespace corvalis::test {
+namespace {
+
+using namespace std::chrono;
+
+class ConfigDataTest : public MachineTest {
+ protected:
+  ~ConfigDataTest() override { Drop(); }
+
+  // A new record from a default file of this text.
+  void Load(const std::string& file) {
+    Drop();
+    WriteFile(ProgramFile(), file);
+    configData = new ConfigData;
+  }
+
+  // Another file on top of what the record holds.
+  static void LoadOver(const std::string& file) {
+    WriteFile(configData->FullFileName(), file);
+    configData->GetIni();
+  }
+
+  static void Drop() { delete std::exchange(configData, nullptr); }
+};
+
+TEST_F(ConfigDataTest, DefaultsWithoutAFile) {
+  configData = new ConfigData;
+  const ConfigData& c = *configData;
+  EXPECT_EQ(std::tuple(c.Country(), c.Coverage(), c.ProgramNum(), c.Ecc(), c.Lic()),
+            std::tuple(5, 0, 0, 0xE0, 0x15));
+  EXPECT_EQ(std::tuple(c.CtOffset(), c.DatePsn(), c.HourPsn()), std::tuple(2, 8, 9));
+  EXPECT_EQ(
+      std::tuple(c.Satellite(), c.Burst(), c.CommPort(), c.Baudrate(), c.Parity(), c.StopBit()),
+      std::tuple(true, 3, 1, 9600, "N", 2));
+  EXPECT_EQ(std::tuple(c.Modem(), c.ModemTone(), c.ModemTel(), c.ModemHookOn(), c.ModemDlg()),
+            std::tuple(false, true, "800,12345678", false, ""));
+  EXPECT_EQ(std::tuple(c.Mono(), c.ArtificialHead(), c.Compressed(), c.StaticPty()),
+            std::tuple(false, false, false, true));
+  EXPECT_EQ(std::tuple(c.AfMethodA(), c.PsnPagesEnable(), c.PsnPlanEnable(), c.EonEnable(),
+                       c.EccEnable(), c.LicEnable(), c.PtynEnable(), c.TmcEnable()),
+            std::tuple(true, true, true, true, true, true, true, true));
+  EXPECT_FALSE(c.GroupsEnable());
+  EXPECT_FALSE(c.GroupsBEnable());
+  EXPECT_EQ(std::tuple(c.Tp(), c.Ta(), c.Music(), c.Pty(), c.Pi()),
+            std::tuple(false, false, true, 0, 0));
+  EXPECT_EQ(std::tuple(c.PresetPassword(), c.PresetNewPassword()), std::tuple("?????", "?????"));
+  EXPECT_EQ(std::tuple(c.NumIniLang(), c.LanguageDflt(), c.LanguageName(0), c.LanguageFileName()),
+            std::tuple(1, 0, "Custom", "Language.ini"));
+  EXPECT_EQ(
+      std::tuple(c.Path(), c.File(), c.Drive()),
+      std::tuple(machine.program_folder, "corvalis.rds", machine.program_folder.substr(0, 3)));
+  EXPECT_EQ(c.DateValue(), DateTime(local_days{2026y / November / 15} + 12h));
+  EXPECT_EQ(c.DayOfWeek(), 7);
+  EXPECT_FALSE(std::filesystem::exists(ProgramFile()));
+}
+
+TEST_F(ConfigDataTest, TablesEndInAnIndexError) {
+  Load("");
+  EXPECT_EQ(configData->FirstCountryOfGroup(5), 25);
+  EXPECT_THROW(static_cast<void>(configData->FirstCountryOfGroup(16)), std::out_of_range);
+  EXPECT_THROW(static_cast<void>(configData->FirstCountryOfGroup(-1)), std::out_of_range);
+  EXPECT_THROW(static_cast<void>(configData->LanguageName(21)), std::out_of_range);
+}
+
+// Every key is found in the file, goes to the field whose getter is named like it, and comes back
+// from the record at its place.
+TEST_F(ConfigDataTest, WholeFileGoesThroughTheRecord) {
+  const std::string file =
+      "[CT]\r\nDate Psn Number=11\r\nHour Psn Number=12\r\nClock Time Offset=-3\r\n"
+      "[PI]\r\nCountry=A\r\nCoverage=F\r\nProgram Number=FE\r\nExtended Country Code=F3\r\n"
+      "Language Identification Code=7F\r\n"
+      "[DI]\r\nMono=On\r\nArtificial Head=On\r\nCompressed=On\r\nStatic PTY=Off\r\n"
+      "[Serial "
+      "Setup]\r\nSatellite=Off\r\nBurst=10\r\nSerialPort=4\r\nBaudrate=19200\r\nParity=E\r\n"
+      "StopBit=1\r\nModem=On\r\nModemTone=Off\r\nModemTel=0,123 456\r\n"
+      "[RDS Setup]\r\nAF Method A=Off\r\nPSN Pages Enable=On\r\nPSN Plan Enable=Off\r\n"
+      "EON Enable=Off\r\nECC Enable=Off\r\nLIC Enable=Off\r\nPTYN Enable=Off\r\nTMC Enable=Off\r\n"
+      "Groups Enable=On\r\nGroups B Enable=On\r\nTP=On\r\nTA=On\r\nMusic=Off\r\nPTY=31\r\n"
+      "PresetPsn=On\r\nPresetAf=Off\r\nPresetTp=On\r\nPresetRt=Off\r\nPresetIh=On\r\nPresetPi="
+      "Off\r\n"
+      "PresetCt=On\r\nPresetPin=Off\r\nPresetDi=On\r\nPresetTdc=Off\r\nPresetTmc=On\r\n"
+      "PresetEon=Off\r\nPresetLi=On\r\nPresetLic=Off\r\nPresetEcc=On\r\nPresetPtyn=Off\r\n"
+      "PresetAddress=AB1\r\nPresetNewAddress=CD2\r\n"
+      "[Language]\r\nDefault=1\r\nName0=English\r\nFileName0=English.ini\r\nName1=Deutsch\r\n"
+      "FileName1=Deutsch.ini\r\n";
+  Load(file);
+  const ConfigData& c = *configData;
+  EXPECT_EQ(std::tuple(c.DatePsn(), c.HourPsn(), c.CtOffset()), std::tuple(11, 12, -3));
+  EXPECT_EQ(std::tuple(c.Country(), c.Coverage(), c.ProgramNum(), c.Ecc(), c.Lic()),
+            std::tuple(10, 15, 254, 0xF3, 0x7F));
+  EXPECT_EQ(std::tuple(c.Mono(), c.ArtificialHead(), c.Compressed(), c.StaticPty()),
+            std::tuple(true, true, true, false));
+  EXPECT_EQ(std::tuple(c.Satellite(), c.Burst(), c.CommPort(), c.Baudrate(), c.Parity(),
+                       c.StopBit(), c.Modem(), c.ModemTone(), c.ModemTel()),
+            std::tuple(false, 10, 4, 19200, "E", 1, true, false, "0,123 456"));
+  EXPECT_EQ(std::tuple(c.AfMethodA(), c.PsnPagesEnable(), c.PsnPlanEnable(), c.EonEnable(),
+                       c.EccEnable(), c.LicEnable(), c.PtynEnable(), c.TmcEnable()),
+            std::tuple(false, true, false, false, false, false, false, false));
+  EXPECT_EQ(std::tuple(c.GroupsEnable(), c.GroupsBEnable(), c.Tp(), c.Ta(), c.Music(), c.Pty()),
+            std::tuple(true, true, true, true, false, 31));
+  EXPECT_EQ(std::tuple(c.PresetPsn(), c.PresetTp(), c.PresetIh(), c.PresetCt(), c.PresetDi(),
+                       c.PresetTmc(), c.PresetLi(), c.PresetEcc()),
+            std::tuple(true, true, true, true, true, true, true, true));
+  EXPECT_EQ(std::tuple(c.PresetAf(), c.PresetRt(), c.PresetPi(), c.PresetPin(), c.PresetTdc(),
+                       c.PresetEon(), c.PresetLic(), c.PresetPtyn()),
+            std::tuple(false, false, false, false, false, false, false, false));
+  EXPECT_EQ(std::tuple(c.PresetPassword(), c.PresetNewPassword(), c.LanguageFileName()),
+            std::tuple("AB1", "CD2", "Deutsch.ini"));
+
+  std::filesystem::remove(ProgramFile());
+  configData->SetIni();
+  EXPECT_EQ(ReadFile(ProgramFile()), file);
+}
+
+TEST_F(ConfigDataTest, ValuesByTheirKind) {
+  struct Case {
+    const char* line;
+    std::function<int()> field;
+    int value;
+  };
+  const auto mono = [] { return configData->Mono() ? 1 : 0; };
+  const auto country = [] { return static_cast<int>(configData->Country()); };
+  const auto ecc = [] { return static_cast<int>(configData->Ecc()); };
+  const auto burst = [] { return static_cast<int>(configData->Burst()); };
+  const auto pi = [] { return static_cast<int>(configData->Pi()); };
+  // The record held, before each line: Mono true, Country 3, Ecc 0xD1, Burst 7, Pi 70000.
+  const Case cases[] = {
+      {"[DI]\nMono=on", mono, 1},
+      {"[DI]\nMono=ON", mono, 1},
+      {"[DI]\nMono=1", mono, 0},
+      {"[DI]\nMono=Yes", mono, 0},
+      {"[DI]\nMono=", mono, 0},  // present, but empty: the default
+      {"[PI]\nCountry=c", country, 12},
+      {"[PI]\nCountry=G", country, -1},
+      {"[PI]\nCountry=FFFF", country, 3},  // too large for 16 bits: what it held
+      {"[PI]\nCountry=FFFFFFFFFF", country, 3},
+      {"[PI]\nExtended Country Code=G", ecc, 0xD1},
+      {"[PI]\nExtended Country Code=100", ecc, 0xD1},
+      {"[PI]\nExtended Country Code=", ecc, 0xE0},
+      {"[PI]\nExtended Country Code=0a", ecc, 10},
+      {"[Serial Setup]\nBurst=ten", burst, 7},
+      {"[Serial Setup]\nBurst=40000", burst, 7},
+      {"[Serial Setup]\nBurst=-2", burst, -2},
+      {"[Serial Setup]\nBurst=+4", burst, 4},
+      {"", burst, 3},
+      {"[RDS Setup]\nPI=80000", pi, 80000},
+      {"[RDS Setup]\nPI=9999999999", pi, 70000},
+  };
+  for (const Case& c : cases) {
+    Load(
+        "[DI]\nMono=On\n[PI]\nCountry=3\nExtended Country Code=D1\n[Serial Setup]\nBurst=7\n"
+        "[RDS Setup]\nPI=70000\n");
+    LoadOver(c.line);
+    EXPECT_EQ(c.field(), c.value) << c.line;
+  }
+}
+
+TEST_F(ConfigDataTest, RulesBetweenFields) {
+  Load(
+      "[RDS Setup]\nPSN Plan Enable=On\nPSN Pages Enable=Off\n"
+      "[Serial Setup]\nSatellite=On\nModem=On\nParity=even\n");
+  EXPECT_FALSE(configData->PsnPlanEnable());
+  EXPECT_FALSE(configData->Modem());
+  EXPECT_EQ(configData->Parity(), "e");
+  Load("");
+  configData->SetPsnPageEnable(false);
+  EXPECT_TRUE(configData->PsnPagesEnable());
+}
+
+TEST_F(ConfigDataTest, Languages) {
+  struct Case {
+    const char* file;
+    int count;
+    int preset;
+    const char* name0;
+    const char* written;  // keys of the section after SetIni, but Default
+  };
+  const Case cases[] = {
+      {"", 1, 0, "Custom", "Name0 FileName0 "},
+      {"Name0=A\nFileName0=a.ini\nName2=C\nFileName2=c.ini", 2, 0, "A", "Name0 FileName0 "},
+      {"Default=25\nName0=A\nFileName0=a.ini", 1, 0, "A", "Name0 FileName0 "},
+      {"Default=-1", 1, 0, "Custom", "Name0 FileName0 "},
+      {"Default=2\nName2=C\nFileName2=c.ini", 1, 2, "Custom", "Name0 FileName0 "},
+      {"Default=1\nName1=B", 1, 0, "Custom", "Name0 FileName0 "},
+      {"Name0=A\nFileName0=a.ini\nName1=B\nFileName1=b.ini", 2, 0, "A",
+       "Name0 FileName0 Name1 FileName1 "},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.file);
+    Load(std::string("[Language]\n") + c.file);
+    EXPECT_EQ(configData->NumIniLang(), c.count);
+    EXPECT_EQ(configData->LanguageDflt(), c.preset);
+    EXPECT_EQ(configData->LanguageName(0), c.name0);
+    std::filesystem::remove(ProgramFile());
+    configData->SetIni();
+    std::string written;
+    const std::string text = ReadFile(ProgramFile());
+    for (std::size_t at = text.find("[Language]");
+         (at = text.find('\n', at)) != std::string::npos;) {
+      const std::size_t end = text.find('=', ++at);
+      if (end == std::string::npos) break;
+      if (text.compare(at, end - at, "Default") != 0) written += text.substr(at, end - at) + " ";
+    }
+    EXPECT_EQ(written, c.written);
+  }
+}
+
+TEST_F(ConfigDataTest, PiOfTheSetupIsReadAndNeverWritten) {
+  Load("[RDS Setup]\r\nPI=5\r\n");
+  configData->SetPi(77);
+  configData->SetIni();
+  EXPECT_EQ(profiles.Read(ProgramFile(), "RDS Setup", "PI"), "5");
+}
+
+TEST_F(ConfigDataTest, BrandByExactComparison) {
+  const std::pair<const char*, const char*> cases[] = {
+      {"VARN", "Varn"},   {"KOR", "KOR"}, {"ZEL", "ZEL"}, {"BRENO", "Breno"}, {"TULM", "Tulm"},
+      {"PAXEN", "Paxen"}, {"DOX", "DOX"}, {"NEU", ""},    {"kor", ""},        {"", ""}};
+  for (const auto& [value, brand] : cases) {
+    WriteFile(machine.settings_folder + "/Firm.ini", std::string("[Firm]\r\nFirm=") + value);
+    Load("");
+    const ConfigData& c = *configData;
+    const std::string shown = std::string(c.KOR() ? "KOR" : "") + (c.Varn() ? "Varn" : "") +
+                              (c.ZEL() ? "ZEL" : "") + (c.Breno() ? "Breno" : "") +
+                              (c.Tulm() ? "Tulm" : "") + (c.Paxen() ? "Paxen" : "") +
+                              (c.DOX() ? "DOX" : "");
+    EXPECT_EQ(shown, brand) << value;
+  }
+}
+
+TEST_F(ConfigDataTest, HostileFileLoadsWithoutHarm) {
+  std::mt19937 random(7);
+  std::string noise(200'000, '\0');
+  for (char& c : noise) c = static_cast<char>(random());
+  // Every key of the record with every kind of wrong value.
+  Load("");
+  configData->SetIni();
+  const std::string keys = ReadFile(ProgramFile());
+  std::vector<std::string> files{noise, "[PI]\r\nCountry=" + std::string(10'000'000, '9'),
+                                 std::string(10'000'000, '[')};
+  for (const char* value : {"", "G", "-", "99999999999999999999", "-32769", "\x01\x02\xFF", ";;;;",
+                            "On;Off", "1.5", " "}) {
+    std::string file;
+    for (std::size_t at = 0; at < keys.size();) {
+      const std::size_t end = keys.find('\n', at);
+      const std::string line = keys.substr(at, end - at);
+      file +=
+          line.substr(0, line.find('=') + 1) + (line.find('=') == std::string::npos ? line : value);
+      file += "\r\n";
+      at = end + 1;
+    }
+    files.push_back(file);
+  }
+  for (const std::string& file : files) {
+    Load(file);
+    EXPECT_GE(configData->NumIniLang(), 1);
+    EXPECT_FALSE(configData->LanguageFileName().empty());
+    EXPECT_LE(configData->Parity().size(), 1U);
+    EXPECT_LE(configData->ModemTel().size(), 1023U);
+  }
+}
+
+TEST_F(ConfigDataTest, ConversionErrorsOfEveryKeyKeepWhatWasLoadedBefore) {
+  Load("[CT]\nDate Psn Number=33\n[PI]\nLanguage Identification Code=3C\n[RDS Setup]\nPTY=9\n");
+  LoadOver("[CT]\nDate Psn Number=x\n[PI]\nLanguage Identification Code=x\n[RDS Setup]\nPTY=1.5\n");
+  EXPECT_EQ(std::tuple(configData->DatePsn(), configData->Lic(), configData->Pty()),
+            std::tuple(33, 0x3C, 9));
+}
+
+}  // namespace
+}  // namespace corvalis::test

@@ -1,0 +1,81 @@
+#include "config/conversions.h"
+
+#include <gtest/gtest.h>
+
+namespace corvalis {
+namespace {
+
+TEST(Conversions, HexToLong) {
+  const std::pair<const char*, std::int32_t> cases[] = {{"0", 0},
+                                                        {"fF", 255},
+                                                        {"00g", -1},
+                                                        {"g", -1},
+                                                        {"", -1},
+                                                        {" 1", -1},
+                                                        {"7FFFFFFF", 0x7FFFFFFF},
+                                                        {"FFFFFFFFFF", 0x7FFFFFFF},
+                                                        {"-1", -1},
+                                                        {"0001A", 26},
+                                                        {"0x1", -1}};
+  for (const auto& [text, value] : cases) EXPECT_EQ(HexToLong(text), value) << text;
+}
+
+TEST(Conversions, LongToHex) {
+  struct Case {
+    std::int32_t value;
+    std::int16_t width;
+    const char* text;
+  };
+  const Case cases[] = {{0x2F, 1, "2F"}, {0x2F, 4, "002F"},           {0, 2, "00"},
+                        {0, 0, ""},      {0x7FFFFFFF, 2, "7FFFFFFF"}, {10, 1, "A"}};
+  for (const Case& c : cases) EXPECT_EQ(LongToHex(c.value, c.width), c.text);
+}
+
+TEST(Conversions, BitsAndHex) {
+  const std::tuple<const char*, std::int16_t, const char*> to_hex[] = {
+      {"101", 1, "5"}, {"", 2, "00"}, {"11110000", 1, "F0"}, {"1", 3, "001"}, {"1x111111", 2, "F"}};
+  for (const auto& [bits, width, hex] : to_hex) EXPECT_EQ(BitsToHex(bits, width), hex) << bits;
+  // A missing digit is filled with one bit, and a lower-case one gives nothing but counts.
+  const std::tuple<const char*, std::int16_t, const char*> to_bits[] = {
+      {"F", 8, "01111"}, {"5A", 8, "01011010"}, {"a", 4, ""}, {"", 8, "00"}};
+  for (const auto& [hex, width, bits] : to_bits) EXPECT_EQ(HexToBits(hex, width), bits) << hex;
+}
+
+TEST(Conversions, PinCode) {
+  using std::chrono::minutes;
+  EXPECT_EQ(PinCode(0, minutes(0)), "0000");
+  EXPECT_EQ(PinCode(31, minutes(23 * 60 + 59)), "FDFB");
+  EXPECT_EQ(PinCode(1, minutes(60 + 1)), "0841");
+}
+
+TEST(Conversions, IsWholeNumber) {
+  for (const char* whole : {"0", "12", "-12", "+12", "32767", "-32768"}) {
+    EXPECT_TRUE(IsWholeNumber(whole)) << whole;
+  }
+  for (const char* other : {"", "12.0", "12,0", "1e3", "32768", "abc", "1 2", "-", "+-1", "0x10"}) {
+    EXPECT_FALSE(IsWholeNumber(other)) << other;
+  }
+}
+
+TEST(Conversions, PickListCountTakesTheFirstCountThereIs) {
+  EXPECT_EQ(PickListCount(7, 9, 50), 7);
+  EXPECT_EQ(PickListCount(-1, 9, 50), 9);
+  EXPECT_EQ(PickListCount(-1, 0, 50), 50);
+}
+
+TEST(Conversions, GetToken) {
+  const std::tuple<const char*, std::int16_t, const char*> cases[] = {
+      {"a,,b", 0, "a"}, {"a,,b", 1, ""}, {"a,,b", 2, "b"},
+      {"a,,b", 3, ""},  {"", 0, ""},     {"a", -1, ""}};
+  for (const auto& [text, index, token] : cases) EXPECT_EQ(GetToken(text, index, ","), token);
+  EXPECT_EQ(GetToken("a; b; c", 1, "; "), "b");
+}
+
+TEST(Conversions, Digits) {
+  const std::tuple<int, int, const char*> cases[] = {
+      {0, 3, "000"}, {5, 1, "5"}, {255, 3, "255"}, {1000, 3, "1000"}, {-5, 2, "-05"}};
+  for (const auto& [value, width, text] : cases) EXPECT_EQ(Digits(value, width), text);
+}
+
+}  // namespace
+}  // namespace corvalis

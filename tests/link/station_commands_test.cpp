@@ -1,0 +1,279 @@
+// The bytes of the station commands, and what is made of the answers.
+
+#include "link/station_commands.h"
+
+#include <gtest/gtest.h>
+
+#include "config/config_data.h"
+#include "link/serial_management.h"
+#include "support/test_machine.h"
+
+namespace corvalis::test {
+namespace {
+
+using namespace std::chrono;
+
+constexpr std::array<std::uint8_t, kTdcPayload> kPayload{2, 3, 5, 6, 0x15, 0, 0xFF, 'A'};
+
+class StationCommands : public LinkTest {
+ protected:
+  void SetUp() override {
+    Start(kLocal);
+    Open();
+  }
+
+  // The Coder answers the next read with this body.
+  void Answer(std::uint8_t code, std::uint8_t index, const std::string& body) {
+    port.answer = [=](const Bytes&) {
+      Bytes frame{kStart, code, index};
+      for (const char c : body) frame.push_back(static_cast<std::uint8_t>(c));
+      frame.push_back(kEnd);
+      frame.push_back(FrameChecksum(frame));
+      frame.insert(frame.begin(), kAck);
+      return frame;
+    };
+  }
+
+  std::string Request() {
+    const Bytes& bytes = port.written.back();
+    std::string text;
+    for (const std::uint8_t byte : bytes) {
+      constexpr char kDigits[] = "0123456789ABCDEF";
+      text += {kDigits[byte / 16], kDigits[byte % 16], ' '};
+    }
+    text.pop_back();
+    return text;
+  }
+};
+
+TEST_F(StationCommands, WriteTheseBytes) {
+  const DateTime sunday = local_days{2026y / November / 15} + 13h + 45min + 59s;
+  const std::pair<std::function<void()>, const char*> cases[] = {
+      {[] { SendPi(0xD, 2, 0x0A); }, "02 01 00 44 32 30 41 03 07"},
+      {[] { SendTp(true); }, "02 02 00 31 03 32"},
+      {[] { SendTa(false); }, "02 0E 00 30 03 3F"},
+      {[] { SendMs(true); }, "02 0F 00 31 03 3F"},
+      {[] { SendDi(0x1F); }, "02 04 00 46 03 43"},
+      {[] { SendPty(31); }, "02 0D 00 31 46 03 7B"},
+      {[] { SendEcc(0xE0); }, "02 19 00 45 30 03 6D"},
+      {[] { SendLic(0x15); }, "02 1A 00 31 35 03 1F"},
+      {[] { SendLi(true, false, true, 0x0AB); }, "02 1B 00 31 30 31 30 41 42 03 19"},
+      {[=] { SendCt(sunday, 7, 8, 99, -24); },
+       "02 10 00 32 36 31 31 31 35 37 31 33 34 35 30 38 39 39 30 30 03 2C"},
+      {[=] { SendCt(sunday, 7, 8, 9, 24); },
+       "02 10 00 32 36 31 31 31 35 37 31 33 34 35 30 38 30 39 34 38 03 29"},
+      {[] { SendEnable(31, true, 0xC3); }, "02 09 1F 30 31 43 33 03 66"},
+      {[] { SendTdc(3, kPayload, false); }, "02 11 03 30 02 03 05 06 15 00 FF 41 03 88"},
+  };
+  for (const auto& [send, bytes] : cases) {
+    send();
+    // Each checksum is the XOR of the bytes before it, by hand for the first ones.
+    EXPECT_EQ(FrameChecksum(port.written.back()), 0) << bytes;
+    EXPECT_EQ(Request().substr(0, Request().size() - 3),
+              std::string(bytes).substr(0, std::string(bytes).size() - 3));
+  }
+  SendPi(0xD, 2, 0x0A);
+  EXPECT_EQ(Request(), "02 01 00 44 32 30 41 03 07");
+}
+
+TEST_F(StationCommands, ReadPi) {
+  Answer(0x01, 0, "D20A");
+  std::int16_t country = 5;
+  std::int16_t coverage = 5;
+  std::int16_t number = 5;
+  ReadPi(country, coverage, number);
+  EXPECT_EQ(Request(), "02 01 00 03 00");
+  EXPECT_EQ(std::tuple(country, coverage, number), std::tuple(0xD, 2, 0x0A));
+  Answer(0x01, 0, "G2x0");
+  ReadPi(country, coverage, number);
+  EXPECT_EQ(std::tuple(country, coverage, number), std::tuple(-1, 2, -1));
+}
+
+TEST_F(StationCommands, ReadSwitchesDifferInWhatTheyTakeAsTrue) {
+  const std::tuple<char, bool, bool> cases[] = {
+      {'0', false, false}, {'1', true, true}, {'2', false, true}};
+  for (const auto& [byte, tp_wanted, ta_wanted] : cases) {
+    bool tp = !tp_wanted;
+    bool ta = !ta_wanted;
+    bool ms = !ta_wanted;
+    Answer(0x02, 0, {byte});
+    ReadTp(tp);
+    Answer(0x0E, 0, {byte});
+    ReadTa(ta);
+    Answer(0x0F, 0, {byte});
+    ReadMs(ms);
+    EXPECT_EQ(std::tuple(tp, ta, ms), std::tuple(tp_wanted, ta_wanted, ta_wanted)) << byte;
+  }
+}
+
+TEST_F(StationCommands, ReadTheOthers) {
+  std::uint8_t byte = 1;
+  Answer(0x19, 0, "E0");
+  ReadEcc(byte);
+  EXPECT_EQ(byte, 224);
+  Answer(0x1A, 0, "zz");
+  ReadLic(byte);
+  EXPECT_EQ(byte, 224);  // no digits: what it held
+
+  std::int16_t value = 0;
+  Answer(0x04, 0, "B");
+  ReadDi(value);
+  EXPECT_EQ(Request(), "02 04 00 03 05");
+  EXPECT_EQ(value, 11);
+  Answer(0x0D, 0, "1F");
+  ReadPty(value);
+  EXPECT_EQ(value, 31);
+
+  bool active = false;
+  Answer(0x09, 5, "x1C3");
+  ReadEnable(5, active, value);
+  EXPECT_EQ(Request(), "02 09 05 03 0D");
+  EXPECT_TRUE(active);
+  EXPECT_EQ(value, 0xC3);
+
+  bool la = false;
+  bool egi = true;
+  bool il = false;
+  Answer(0x1B, 0, "101FFF");
+  ReadLi(la, egi, il, value);
+  EXPECT_EQ(std::tuple(la, egi, il, value), std::tuple(true, false, true, 0xFFF));
+
+  std::array<std::uint8_t, kTdcPayload> payload{};
+  Answer(0x11, 31, "1" + std::string(kPayload.begin(), kPayload.end()));
+  ReadTdc(31, payload, active);
+  EXPECT_EQ(Request(), "02 11 1F 03 0F");
+  EXPECT_EQ(payload, kPayload);
+}
+
+TEST_F(StationCommands, ReadCt) {
+  DateTime when{};
+  std::int16_t day = 0;
+  std::int16_t date_psn = 0;
+  std::int16_t hour_psn = 0;
+  std::int16_t offset = 0;
+  const std::pair<const char*, year> years[] = {{"29", 2029y}, {"30", 1930y}, {"00", 2000y}};
+  for (const auto& [digits, year] : years) {
+    Answer(0x10, 0,
+           std::string(digits) +
+               "0228"
+               "7"
+               "2359"
+               "08"
+               "09"
+               "00");
+    ReadCt(when, day, date_psn, hour_psn, offset);
+    EXPECT_EQ(when, DateTime(local_days{year / February / 28} + 23h + 59min));
+  }
+  EXPECT_EQ(std::tuple(day, date_psn, hour_psn, offset), std::tuple(7, 8, 9, -24));
+
+  const DateTime before = when;
+  for (const char* impossible : {"260230"
+                                 "1"
+                                 "1200",
+                                 "261301"
+                                 "1"
+                                 "1200",
+                                 "260101"
+                                 "1"
+                                 "2460"}) {
+    Answer(0x10, 0,
+           std::string(impossible) +
+               "11"
+               "12"
+               "48");
+    ReadCt(when, day, date_psn, hour_psn, offset);
+    EXPECT_EQ(when, before);
+    EXPECT_EQ(offset, 24);
+  }
+  EXPECT_TRUE(dialogs.boxes.empty());
+}
+
+TEST_F(StationCommands, FailedReadsTouchNothing) {
+  port.answer = [](const Bytes&) { return Bytes{'?'}; };
+  const auto& c = *configData;
+  const auto all = [&c] {
+    return std::tuple(c.Country(), c.Coverage(), c.ProgramNum(), c.Ecc(), c.Lic(), c.Tp(), c.Mono(),
+                      c.ArtificialHead(), c.Compressed(), c.StaticPty(), c.DateValue(),
+                      c.CtOffset());
+  };
+  const auto before = all();
+  const std::pair<void (ConfigData::*)(), const char*> reads[] = {
+      {&ConfigData::GetPiRds, "PI"},   {&ConfigData::GetEccRds, "ECC"},
+      {&ConfigData::GetLicRds, "LIC"}, {&ConfigData::GetTpRds, "TP"},
+      {&ConfigData::GetDiRds, "DI"},   {&ConfigData::GetCtRds, "CT"}};
+  for (const auto& [read, label] : reads) {
+    (configData->*read)();
+    EXPECT_EQ(all(), before);
+    EXPECT_EQ(dialogs.boxes.back().text, std::string(label) + ":   [ TX ] not acknowledge   ");
+  }
+}
+
+TEST_F(StationCommands, RecordDoesNothingWhileTheLinkIsClosed) {
+  LinkOpen = false;
+  LinkError = 77;
+  configData->SetPiRds();
+  configData->GetPiRds();
+  configData->GetDiRds();
+  configData->SetCtRds();
+  EXPECT_TRUE(port.written.empty());
+  EXPECT_EQ(LinkError, 77);
+}
+
+TEST_F(StationCommands, DiValueHasTwoInvertedBits) {
+  struct Case {
+    bool mono, head, compressed, is_static;
+    char digit;
+  };
+  const Case cases[] = {{false, false, false, true, '1'},  {true, false, false, true, '0'},
+                        {false, true, false, true, '3'},   {false, false, true, true, '5'},
+                        {false, false, false, false, '9'}, {true, true, true, false, 'E'}};
+  for (const Case& c : cases) {
+    configData->SetMono(c.mono);
+    configData->SetArtificialHead(c.head);
+    configData->SetCompressed(c.compressed);
+    configData->SetStaticPty(c.is_static);
+    configData->SetDiRds();
+    EXPECT_EQ(port.written.back()[3], c.digit);
+
+    configData->SetMono(!c.mono);
+    configData->SetArtificialHead(!c.head);
+    configData->SetCompressed(!c.compressed);
+    configData->SetStaticPty(!c.is_static);
+    configData->GetDiRds();  // the Coder kept it
+    EXPECT_EQ(std::tuple(configData->Mono(), configData->ArtificialHead(), configData->Compressed(),
+                         configData->StaticPty()),
+              std::tuple(c.mono, c.head, c.compressed, c.is_static));
+  }
+}
+
+TEST_F(StationCommands, EveryItemComesBackFromTheCoderAsItWasSent) {
+  configData->SetCountry(0xA);
+  configData->SetCoverage(15);
+  configData->SetProgramNum(255);
+  configData->SetEcc(0xF3);
+  configData->SetLic(0x7F);
+  configData->SetTp(true);
+  configData->SetDateValue(local_days{2029y / December / 31} + 23h + 59min);
+  configData->SetDayOfWeek(1);
+  configData->SetCtOffset(-3);
+  for (const auto send : {&ConfigData::SetPiRds, &ConfigData::SetEccRds, &ConfigData::SetLicRds,
+                          &ConfigData::SetTpRds, &ConfigData::SetCtRds}) {
+    (configData->*send)();
+    ASSERT_EQ(LinkError, kLinkOk);
+  }
+  const ConfigData sent = *configData;
+  *configData = ConfigData();
+  for (const auto read : {&ConfigData::GetPiRds, &ConfigData::GetEccRds, &ConfigData::GetLicRds,
+                          &ConfigData::GetTpRds, &ConfigData::GetCtRds}) {
+    (configData->*read)();
+    ASSERT_EQ(LinkError, kLinkOk);
+  }
+  const auto all = [](const ConfigData& c) {
+    return std::tuple(c.Country(), c.Coverage(), c.ProgramNum(), c.Ecc(), c.Lic(), c.Tp(),
+                      c.DateValue(), c.DayOfWeek(), c.CtOffset());
+  };
+  EXPECT_EQ(all(*configData), all(sent));
+}
+
+}  // namespace
+}  // namespace corvalis::test

@@ -1,0 +1,111 @@
+#include "link/utility.h"
+
+#include <gtest/gtest.h>
+
+#include "screen/window.h"
+#include "support/test_machine.h"
+
+namespace corvalis::test {
+namespace {
+
+class UtilityTest : public MachineTest {};
+
+TEST_F(UtilityTest, FrequencyKeyFilter) {
+  struct Case {
+    const char* text;
+    int key;
+    int max, sel_length, sel_start;
+    bool point;
+    int result;
+  };
+  const Case cases[] = {{"98.5", 8, 5, 0, 4, true, 8},     {"98.5", '1', 5, 0, 4, true, '1'},
+                        {"98.55", '1', 5, 0, 5, true, 0},  {"98.55", '1', 5, 1, 4, true, '1'},
+                        {"98", ',', 5, 0, 2, true, '.'},   {"98", '.', 5, 0, 2, false, 0},
+                        {"98.5", '.', 5, 0, 4, true, 0},   {"98.5", '.', 5, 2, 2, true, '.'},
+                        {"98.5", '.', 5, 4, 0, true, '.'}, {"98.5", '.', 5, 1, 3, true, '.'},
+                        {"98.5", '.', 5, 2, 0, true, 0},   {"98", 'A', 5, 2, 0, true, 0},
+                        {"98", ' ', 5, 2, 0, true, 0}};
+  for (const Case& c : cases) {
+    const int beeps = dialogs.beeps;
+    int key = c.key;
+    EXPECT_EQ(FrequencyKeyFilter(c.text, key, c.max, c.sel_length, c.sel_start, c.point), c.result)
+        << c.text << " " << c.key;
+    EXPECT_EQ(key, c.result);
+    EXPECT_EQ(dialogs.beeps - beeps, c.result == 0 ? 1 : 0);
+  }
+}
+
+TEST_F(UtilityTest, WarnBeforeAddress) {
+  WarnBeforeAddress();
+  ASSERT_EQ(dialogs.boxes.size(), 1U);
+  EXPECT_EQ(dialogs.boxes[0].text, "Before send Address");
+  EXPECT_EQ(dialogs.boxes[0].title, "Communication Management");
+  EXPECT_EQ(dialogs.boxes[0].style, BoxStyle::kCritical);
+  EXPECT_EQ(dialogs.boxes[0].help_context, 1000);
+}
+
+class GridTest : public testing::Test {
+ protected:
+  GridTest() {
+    window.Show();
+    grid.RowCount = [this] { return static_cast<int>(rows.size()); };
+    grid.Cell = [this](int row, int column) {
+      return rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
+    };
+    grid.Write = [this](int row, int column, const std::string& text) {
+      rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = text;
+    };
+  }
+  std::vector<std::vector<std::string>> rows{{"a", "b"}, {"c", "d"}, {"e", "f"}};
+  Window window{this, "Test"};
+  Grid grid{window, "DBGrid1"};
+};
+
+TEST_F(GridTest, EditReachesTheDataWhenTheRowIsLeft) {
+  grid.TypeText("A");
+  EXPECT_EQ(grid.Shown(0, 0), "A");
+  EXPECT_EQ(rows[0][0], "a");
+  grid.MoveTo(0, 1);
+  EXPECT_EQ(rows[0][0], "a");  // the row is still there
+  grid.MoveTo(1, 1);
+  EXPECT_EQ(rows[0][0], "A");
+}
+
+TEST_F(GridTest, CommitStoresTheEditAndComesBack) {
+  for (const std::size_t count : {3U, 1U}) {  // a grid of one row has nowhere else to go
+    rows = {{"a", "b"}, {"c", "d"}, {"e", "f"}};
+    rows.resize(count);
+    grid.TypeText("B");
+    CommitGridRow(grid);
+    EXPECT_EQ(rows[0][0], "B");
+    EXPECT_EQ(grid.Row(), 0);
+  }
+}
+
+TEST_F(GridTest, RulesRepairDropAndKeep) {
+  grid.CellLeft = [](int, int, std::string& text) {
+    if (text == "bad") return false;
+    text += "!";
+    return true;
+  };
+  bool row_rule = false;
+  grid.RowLeft = [&](int, std::map<int, std::string>& edits) {
+    row_rule = true;
+    return edits[0] != "stay!";
+  };
+  grid.TypeText("bad");
+  EXPECT_FALSE(grid.MoveTo(1, 0));
+  EXPECT_FALSE(grid.Edited());
+  EXPECT_FALSE(row_rule);
+  grid.TypeText("x");
+  EXPECT_TRUE(grid.MoveTo(1, 0));
+  EXPECT_EQ(rows[0][0], "x!");
+  grid.TypeText("stay");
+  CommitGridRow(grid);
+  EXPECT_EQ(grid.Row(), 1);
+  EXPECT_TRUE(grid.Edited());
+  EXPECT_EQ(rows[1][0], "c");
+}
+
+}  // namespace
+}  // namespace corvalis::test
