@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <cmath>
 #include <cstdlib>
 
 namespace corvalis {
@@ -110,6 +111,25 @@ std::string Digits(int value, int width) {
   std::string text(value < 0 ? 1 : 0, '-');
   if (digits.size() < wanted) text.append(wanted - digits.size(), '0');
   return text += digits;
+}
+
+std::string SignedHours(int half_hours) {
+  const int size = std::abs(half_hours);
+  return (half_hours < 0 ? "-" : "+") + Digits(size / 2, 2) + (size % 2 == 0 ? ".0" : ".5");
+}
+
+std::string Percent(int part, int whole) {
+  if (whole == 0) return "0 %";
+  return std::to_string((200L * part + whole) / (2L * whole)) + " %";
+}
+
+std::optional<double> ParseNumber(std::string_view text) {
+  if (text.size() > 1 && text[0] == '+' && text[1] != '-') text.remove_prefix(1);
+  double value = 0;
+  const char* end = text.data() + text.size();
+  const auto [stop, error] = std::from_chars(text.data(), end, value, std::chars_format::fixed);
+  if (error != std::errc() || stop != end || !std::isfinite(value)) return std::nullopt;
+  return value;
 }
 
 std::string UpperCase(std::string_view text) {

@@ -29,13 +29,29 @@ void RunSend(Window& screen, const std::function<void()>& work) {
 }
 
 void RunBurst(Window& screen, int passes, const std::function<void()>& pass) {
-  RunSend(screen, [&] {
-    LinkError = kLinkOk;
-    for (int i = 0; i < passes && LinkError == kLinkOk; ++i) {
-      pass();
-      Machine().pump->RunPending();
-    }
+  RunSend(screen, [&] { RunItems(passes, [&](int /*number*/) { pass(); }); });
+}
+
+void RunLive(Window& screen, const std::function<void()>& pass) {
+  RunRead(screen, [&] {
+    const int passes = configData->Satellite() ? configData->Burst() : 1;
+    for (int i = 0; i < passes; ++i) pass();
   });
+}
+
+void RunItems(int count, const std::function<void(int)>& item) {
+  LinkError = kLinkOk;
+  for (int i = 0; i < count && LinkError == kLinkOk; ++i) {
+    item(i);
+    Machine().pump->RunPending();
+  }
+}
+
+void ShowTransferButtons(const TransferButtons& buttons, bool offered) {
+  const bool one_way = configData->Satellite();
+  for (Control* read : buttons.reads) read->SetVisible(offered && !one_way);
+  for (Control* send : buttons.sends) send->SetVisible(offered);
+  for (Control* burst : buttons.bursts) burst->SetVisible(offered && one_way);
 }
 
 }  // namespace corvalis

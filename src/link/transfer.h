@@ -1,7 +1,9 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
+#include "screen/control.h"
 #include "screen/window.h"
 
 namespace corvalis {
@@ -19,5 +21,21 @@ void RunSend(Window& screen, const std::function<void()>& work);
 
 /// Sends `passes` times, under the rule of `RunSend`. Ends at the first pass that leaves an error.
 void RunBurst(Window& screen, int passes, const std::function<void()>& pass);
+
+/// Sends a live control: no address rule, `ConfigData::Burst` passes on a one-way link and one on
+/// any other, whatever a pass leaves.
+void RunLive(Window& screen, const std::function<void()>& pass);
+
+/// The loop of every run of frames, to be called inside one of the roads above: clears `LinkError`,
+/// does `item` for 0 to `count` - 1 with events handled after each, and ends at the first that
+/// leaves an error.
+void RunItems(int count, const std::function<void(int)>& item);
+
+/// The buttons of one kind of item. Reads are for a two-way link, bursts for a one-way one, sends
+/// for both; none of them is shown for an item that the Coder model does not offer.
+struct TransferButtons {
+  std::vector<Control*> reads, sends, bursts;
+};
+void ShowTransferButtons(const TransferButtons& buttons, bool offered = true);
 
 }  // namespace corvalis

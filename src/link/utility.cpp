@@ -18,8 +18,13 @@ int FrequencyKeyFilter(std::string_view text, int& key, int max_length, int sel_
       return key = '.';
     }
   }
+  RefuseKey(key);
+  return key;
+}
+
+void RefuseKey(int& key) {
   Machine().dialogs->Beep();
-  return key = kKeyCancelled;
+  key = kKeyCancelled;
 }
 
 void CommitGridRow(Grid& grid) {

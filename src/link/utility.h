@@ -14,6 +14,9 @@ namespace corvalis {
 int FrequencyKeyFilter(std::string_view text, int& key, int max_length, int sel_length,
                        int sel_start, bool point_allowed);
 
+/// Refuses a struck key: a beep, and `key` becomes 0.
+void RefuseKey(int& key);
+
 /// Makes a grid store the cell being edited, before its contents are read: goes to another row and
 /// back.
 void CommitGridRow(Grid& grid);

@@ -31,6 +31,11 @@ class Control {
   void SetCaption(const std::string& caption) { Set(caption_, caption); }
   [[nodiscard]] const std::string& ToolTip() const { return tool_tip_; }
   void SetToolTip(const std::string& tip) { Set(tool_tip_, tip); }
+  /// Both at once, as a screen takes its language.
+  void SetTexts(const std::string& caption, const std::string& tip) {
+    SetCaption(caption);
+    SetToolTip(tip);
+  }
 
   /// True if the operator can act on the control now.
   [[nodiscard]] bool TakesEvents() const;

@@ -31,6 +31,11 @@ class ListBox : public Control {
   /// outside -1 to Count() - 1.
   void SetIndex(int index);
 
+  /// Entries of such a list are chosen with the pointer alone: every key is swallowed but the one
+  /// that moves on to the next control.
+  [[nodiscard]] bool PointerOnly() const { return pointer_only_; }
+  void SetPointerOnly(bool pointer_only) { pointer_only_ = pointer_only; }
+
   /// The operator chooses an entry; raises `Click` also for the entry that was selected already.
   void Choose(int index);
   /// The operator strikes a key; `KeyPress` tells the form. A key never changes the selection here.
@@ -46,6 +51,7 @@ class ListBox : public Control {
  private:
   std::vector<std::string> entries_;
   int index_ = kNone;
+  bool pointer_only_ = false;
 };
 
 }  // namespace corvalis

@@ -39,6 +39,12 @@ void Window::Show(Window* owner) {
   Redraw();
 }
 
+void Window::ShowModal(Window& owner) {
+  owner.SetEnabled(false);
+  modal_ = true;
+  Show(&owner);
+}
+
 void Window::Hide() {
   if (!visible_) return;
   visible_ = false;
@@ -55,6 +61,10 @@ bool Window::Unload() {
   if (cancel) return false;
   if (Unloading) Unloading();
   Hide();
+  if (std::exchange(modal_, false)) {
+    owner_->SetEnabled(true);
+    owner_->SetFocus();
+  }
   return true;
 }
 

@@ -55,6 +55,9 @@ class Window {
   [[nodiscard]] bool Visible() const { return visible_; }
   /// Shows the window, in front of `owner` if one is given.
   void Show(Window* owner = nullptr);
+  /// Shows the window in front of `owner` and keeps `owner` disabled until this one is unloaded;
+  /// then `owner` is enabled and gets the focus.
+  void ShowModal(Window& owner);
   void Hide();
   [[nodiscard]] Window* OwnerWindow() const { return owner_; }
 
@@ -102,6 +105,7 @@ class Window {
   bool visible_ = false;
   bool shown_to_host_ = false;
   Window* owner_ = nullptr;
+  bool modal_ = false;
   std::vector<Control*> controls_;
   Control* focus_ = nullptr;
   bool leaving_ = false;           // a lost-focus rule is running

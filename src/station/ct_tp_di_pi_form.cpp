@@ -10,10 +10,6 @@ namespace corvalis {
 CtTpDiPiForm::CtTpDiPiForm(Window& main_menu)
     : window(this, "CtTpDiPiForm"), pi_ecc_lic(window), main_menu_(main_menu) {
   window.SetCaption("CT - TP - DI - PI - ECC - LIC");
-  window.Unloading = [this] {
-    main_menu_.SetEnabled(true);
-    main_menu_.SetFocus();
-  };
 }
 
 void CtTpDiPiForm::Load() {
@@ -21,10 +17,9 @@ void CtTpDiPiForm::Load() {
     configData->SetDateValue(std::chrono::floor<std::chrono::days>(Machine().clock->Now()));
     loaded_before_ = true;
   }
-  main_menu_.SetEnabled(false);
   pi_ecc_lic.InitCaptions();
   pi_ecc_lic.Open();
-  window.Show(&main_menu_);
+  window.ShowModal(main_menu_);
 }
 
 }  // namespace corvalis

@@ -8,6 +8,7 @@
 #include "config/conversions.h"
 #include "config/language_data.h"
 #include "link/transfer.h"
+#include "link/utility.h"
 #include "platform/platform.h"
 #include "screen/keys.h"
 #include "station/country_table.h"
@@ -51,11 +52,6 @@ const LanguageCodeIndex& LanguagesByName() {
 
 std::string CountryName(int row) {
   return std::string(Countries()[static_cast<std::size_t>(row)].name);
-}
-
-void RefuseKey(int& key) {
-  Machine().dialogs->Beep();
-  key = kKeyCancelled;
 }
 
 // Selects an entry, or none if there is no such entry.
@@ -123,18 +119,14 @@ PiEccLicTab::PiEccLicTab(Window& window)
 
 void PiEccLicTab::InitCaptions() {
   const LanguageData& texts = *languageData;
-  const auto set = [](Control& control, const std::string& caption, const std::string& tip) {
-    control.SetCaption(caption);
-    control.SetToolTip(tip);
-  };
-  set(CountryLabel, texts.PiEccLicCountryKey(), texts.PiEccLicCountryTip());
-  set(CoverageLabel, texts.PiEccLicCoverageKey(), texts.PiEccLicCoverageTip());
-  set(IDNumberLabel, texts.PiEccLicIDNumberKey(), texts.PiEccLicIDNumberTip());
+  CountryLabel.SetTexts(texts.PiEccLicCountryKey(), texts.PiEccLicCountryTip());
+  CoverageLabel.SetTexts(texts.PiEccLicCoverageKey(), texts.PiEccLicCoverageTip());
+  IDNumberLabel.SetTexts(texts.PiEccLicIDNumberKey(), texts.PiEccLicIDNumberTip());
   // The abbreviations of the standard are the same in every language.
-  set(PiLabel, "PI", texts.PiEccLicPITip());
-  set(EccLabel, "ECC", texts.PiEccLicECCTip());
-  set(LicLabel, "LIC", texts.PiEccLicLicTip());
-  set(CountryListLabel, "", texts.PiEccLicCountryListTip());
+  PiLabel.SetTexts("PI", texts.PiEccLicPITip());
+  EccLabel.SetTexts("ECC", texts.PiEccLicECCTip());
+  LicLabel.SetTexts("LIC", texts.PiEccLicLicTip());
+  CountryListLabel.SetTexts("", texts.PiEccLicCountryListTip());
   CountryCombo.SetToolTip(texts.PiEccLicCountryTip());
   CoverageCombo.SetToolTip(texts.PiEccLicCoverageTip());
   IDNumberText.SetToolTip(texts.PiEccLicIDNumberTip());
@@ -143,27 +135,23 @@ void PiEccLicTab::InitCaptions() {
   EccText.SetToolTip(texts.PiEccLicECCTip());
   LicCombo.SetToolTip(texts.PiEccLicLicTip());
   CountryList.SetToolTip(texts.PiEccLicCountryListTip());
-  set(ReadPiCommand, texts.PiEccLicReadPIKey(), texts.PiEccLicReadPITip());
-  set(SendPiCommand, texts.PiEccLicSendPIKey(), texts.PiEccLicSendPITip());
-  set(SendPiBurstCommand, texts.PiEccLicSendPIBurstKey(), texts.PiEccLicSendPIBurstTip());
-  set(ReadEccCommand, texts.PiEccLicReadECCKey(), texts.PiEccLicReadECCTip());
-  set(SendEccCommand, texts.PiEccLicSendECCKey(), texts.PiEccLicSendECCTip());
-  set(SendEccBurstCommand, texts.PiEccLicSendECCBurstKey(), texts.PiEccLicSendECCBurstTip());
-  set(ReadLicCommand, texts.PiEccLicReadLICKey(), texts.PiEccLicReadLICTip());
-  set(SendLicCommand, texts.PiEccLicSendLICKey(), texts.PiEccLicSendLICTip());
-  set(SendLicBurstCommand, texts.PiEccLicSendLICBurstKey(), texts.PiEccLicSendLICBurstTip());
+  ReadPiCommand.SetTexts(texts.PiEccLicReadPIKey(), texts.PiEccLicReadPITip());
+  SendPiCommand.SetTexts(texts.PiEccLicSendPIKey(), texts.PiEccLicSendPITip());
+  SendPiBurstCommand.SetTexts(texts.PiEccLicSendPIBurstKey(), texts.PiEccLicSendPIBurstTip());
+  ReadEccCommand.SetTexts(texts.PiEccLicReadECCKey(), texts.PiEccLicReadECCTip());
+  SendEccCommand.SetTexts(texts.PiEccLicSendECCKey(), texts.PiEccLicSendECCTip());
+  SendEccBurstCommand.SetTexts(texts.PiEccLicSendECCBurstKey(), texts.PiEccLicSendECCBurstTip());
+  ReadLicCommand.SetTexts(texts.PiEccLicReadLICKey(), texts.PiEccLicReadLICTip());
+  SendLicCommand.SetTexts(texts.PiEccLicSendLICKey(), texts.PiEccLicSendLICTip());
+  SendLicBurstCommand.SetTexts(texts.PiEccLicSendLICBurstKey(), texts.PiEccLicSendLICBurstTip());
 }
 
 void PiEccLicTab::Open() {
-  const bool satellite = configData->Satellite();
-  const auto show = [satellite](Button& read, Button& send, Button& burst, bool offered) {
-    read.SetVisible(offered && !satellite);
-    send.SetVisible(offered);
-    burst.SetVisible(offered && satellite);
-  };
-  show(ReadPiCommand, SendPiCommand, SendPiBurstCommand, true);
-  show(ReadEccCommand, SendEccCommand, SendEccBurstCommand, configData->EccEnable());
-  show(ReadLicCommand, SendLicCommand, SendLicBurstCommand, configData->LicEnable());
+  ShowTransferButtons({{&ReadPiCommand}, {&SendPiCommand}, {&SendPiBurstCommand}});
+  ShowTransferButtons({{&ReadEccCommand}, {&SendEccCommand}, {&SendEccBurstCommand}},
+                      configData->EccEnable());
+  ShowTransferButtons({{&ReadLicCommand}, {&SendLicCommand}, {&SendLicBurstCommand}},
+                      configData->LicEnable());
   EccText.SetEnabled(configData->EccEnable());
   LicCombo.SetEnabled(configData->LicEnable());
 

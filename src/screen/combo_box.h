@@ -1,0 +1,35 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "screen/list_box.h"
+
+namespace corvalis {
+
+/// A list that drops down below a text that can also be typed. Choosing an entry makes it the text;
+/// a text that is typed selects no entry, whatever it says.
+class ComboBox : public ListBox {
+ public:
+  using ListBox::ListBox;
+
+  /// The entry selected, or what was typed.
+  [[nodiscard]] std::string Text() const { return Index() == kNone ? typed_ : Entry(Index()); }
+
+  /// The operator changes the text.
+  void TypeText(const std::string& text) {
+    if (!TakesEvents() || text == Text()) return;
+    typed_ = text;
+    SelectSilently(kNone);
+    Redraw();
+    if (Change) Change();
+  }
+
+  /// Raised when the operator has changed the text.
+  std::function<void()> Change;
+
+ private:
+  std::string typed_;
+};
+
+}  // namespace corvalis
