@@ -1,0 +1,25 @@
+#pragma once
+
+#include <functional>
+
+class QWidget;
+
+namespace corvalis {
+class Control;
+class Window;
+}  // namespace corvalis
+
+namespace corvalis::desktop {
+
+/// Makes `widget` the picture of `control`: the widget takes its name, and from now on shows its
+/// tool-tip, enabled and visible; then it calls `draw` for what else there is to be seen. `draw`
+/// runs at once and after each change of the control, while the widget lives.
+///
+/// `widget` must have a parent, or it would come up as a window.
+void Bind(QWidget& widget, Control& control, std::function<void()> draw);
+
+/// The control of `window` that `widget`, or whatever of its parents, is the picture of; null if
+/// none.
+[[nodiscard]] Control* ControlOf(const Window& window, const QWidget* widget);
+
+}  // namespace corvalis::desktop

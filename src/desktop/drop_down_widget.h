@@ -1,0 +1,37 @@
+#pragma once
+
+#include <QComboBox>
+#include <string>
+#include <vector>
+
+#include "screen/list_box.h"
+#include "screen/text_box.h"
+
+namespace corvalis::desktop {
+
+/// A closed list that drops down. The operator chooses with the mouse, the arrow keys, or from the
+/// list dropped down (F4, Alt+Down). Typed keys go to the form and choose nothing; nor does the
+/// wheel, lest a passing hand changes what goes on air.
+class DropDownWidget : public QComboBox {
+ public:
+  /// `content` says what the entries are.
+  DropDownWidget(ListBox& list, QWidget* parent,
+                 TextBox::Content content = TextBox::Content::kWindows1252);
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+
+ private:
+  void Draw();
+  void Choose(int index);
+
+  ListBox& list_;
+  TextBox::Content content_;
+  std::vector<std::string> shown_;
+};
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QListWidget>
+#include <string>
+#include <vector>
+
+#include "screen/file_lists.h"
+#include "screen/list_box.h"
+#include "screen/text_box.h"
+
+namespace corvalis::desktop {
+
+/// A list that stands open. Its user chooses with the mouse or the arrow keys.
+class OpenListWidget : public QListWidget {
+ public:
+  OpenListWidget(ListBox& list, QWidget* parent,
+                 TextBox::Content content = TextBox::Content::kWindows1252);
+
+  /// Nothing can be chosen: the list only shows, and scrolls.
+  void ShowOnly();
+
+  [[nodiscard]] QSize sizeHint() const override;
+
+ protected:
+  void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+  void focusInEvent(QFocusEvent* event) override;
+  void focusOutEvent(QFocusEvent* event) override;
+  /// Called for each new entry.
+  virtual void Dress(QListWidgetItem& item, int index);
+
+ private:
+  void Draw();
+  void Choose(int index);
+
+  ListBox& list_;
+  TextBox::Content content_;
+  std::vector<std::string> shown_;
+  bool drawing_ = false;
+  bool choosing_ = true;
+};
+
+/// A list of files.
+class FileListWidget : public OpenListWidget {
+ public:
+  FileListWidget(FileList& list, QWidget* parent)
+      : OpenListWidget(list, parent, TextBox::Content::kFileName) {}
+};
+
+/// The folders around the present one. A double click or Enter opens one.
+class DirListWidget : public OpenListWidget {
+ public:
+  DirListWidget(DirList& list, QWidget* parent);
+
+ protected:
+  void Dress(QListWidgetItem& item, int index) override;
+
+ private:
+  DirList& list_;
+};
+
+}  // namespace corvalis::desktop

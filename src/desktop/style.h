@@ -1,0 +1,75 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QProxyStyle>
+
+class QApplication;
+
+namespace corvalis::desktop {
+
+/// The colours of the program. There is one accent; everything else is calm.
+namespace colours {
+inline constexpr QRgb kWindow = 0xfff2f4f6;
+inline constexpr QRgb kCard = 0xfffafbfc;     ///< inside a group
+inline constexpr QRgb kField = 0xffffffff;    ///< what can be edited or pressed
+inline constexpr QRgb kDisplay = 0xffe9edf1;  ///< what only shows
+inline constexpr QRgb kBorder = 0xffa9b4bf;
+inline constexpr QRgb kFaintBorder = 0xffd3dae0;
+inline constexpr QRgb kText = 0xff17212b;
+inline constexpr QRgb kQuietText = 0xff52606d;
+inline constexpr QRgb kDisabledText = 0xff8b97a3;
+inline constexpr QRgb kAccent = 0xff0a67a6;
+inline constexpr QRgb kHover = 0xffe8f1f8;
+inline constexpr QRgb kPressed = 0xffcfe2f0;
+}  // namespace colours
+
+/// The distances of every layout, in device-independent pixels.
+inline constexpr int kTight = 4;
+inline constexpr int kNear = 8;
+inline constexpr int kGap = 12;
+inline constexpr int kApart = 16;
+
+/// The height of a one-line control, and of a button that opens a screen.
+inline constexpr int kControlHeight = 34;
+inline constexpr int kLargeHeight = 46;
+
+/// How every control of the program looks: flat, with a ring of the accent colour around whatever
+/// has the keyboard, and grey where a field only shows.
+class Style : public QProxyStyle {
+ public:
+  Style();
+
+  void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                     const QWidget* widget) const override;
+  void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                   const QWidget* widget) const override;
+  void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                          QPainter* painter, const QWidget* widget) const override;
+  [[nodiscard]] QSize sizeFromContents(ContentsType type, const QStyleOption* option,
+                                       const QSize& size, const QWidget* widget) const override;
+  [[nodiscard]] int pixelMetric(PixelMetric metric, const QStyleOption* option,
+                                const QWidget* widget) const override;
+  [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                              QStyleHintReturn* data) const override;
+};
+
+/// Gives the program its style, palette and font.
+void ApplyStyle(QApplication& application);
+
+/// `base` in bold.
+[[nodiscard]] QFont Bold(QFont base);
+/// For values that are read digit by digit, at a distance.
+[[nodiscard]] QFont DigitsFont();
+
+/// The frame and the ground of a field, as every box of the program has it.
+struct FieldLook {
+  bool enabled = true;
+  bool focus = false;
+  bool display_only = false;
+};
+void DrawField(QPainter& painter, const QRect& rect, FieldLook look);
+/// The head of an arrow in the middle of `rect`, up or down.
+void DrawArrow(QPainter& painter, const QRectF& rect, bool up, bool enabled);
+
+}  // namespace corvalis::desktop

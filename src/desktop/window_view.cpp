@@ -1,0 +1,180 @@
+#include "desktop/window_view.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QWindow>
+
+#include "desktop/binding.h"
+#include "desktop/style.h"
+#include "desktop/text.h"
+#include "screen/control.h"
+#include "screen/timer.h"
+#include "screen/window.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+constexpr int kVeilDelayMs = 400;  // what is busy for less does not flicker
+constexpr int kVeilAlpha = 120;
+
+/// Pales a window that takes no input, without a change in the controls themselves.
+class Veil : public QWidget {
+ public:
+  explicit Veil(QWidget* parent) : QWidget(parent) {
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    hide();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override {
+    QColor pale(colours::kWindow);
+    pale.setAlpha(kVeilAlpha);
+    QPainter(this).fillRect(rect(), pale);
+  }
+};
+
+}  // namespace
+
+WindowView::WindowView(Window& model) : model_(&model), veil_(new Veil(this)) {
+  setObjectName(FromBytes(model.Name()));
+  veil_delay_.setSingleShot(true);
+  veil_delay_.setInterval(kVeilDelayMs);
+  connect(&veil_delay_, &QTimer::timeout, this, [this] {
+    veil_->setGeometry(rect());
+    veil_->raise();
+    veil_->show();
+  });
+  connect(qApp, &QApplication::focusChanged, this,
+          [this](QWidget* /*old*/, QWidget* now) { MoveFocus(now); });
+  model.Drawn = [this] { Draw(); };
+  model.RaiseAsked = [this] {
+    if (!isVisible()) return;
+    raise();
+    activateWindow();
+  };
+}
+
+WindowView::~WindowView() {
+  if (model_ == nullptr) return;
+  model_->Drawn = nullptr;
+  model_->RaiseAsked = nullptr;
+  for (const auto& [timer, clock] : timers_) timer->Drawn = nullptr;
+}
+
+bool WindowView::TakesInput() const { return model_ != nullptr && model_->Enabled(); }
+
+void WindowView::Present(QWidget* owner) {
+  if (timers_.empty()) {
+    for (Control* control : model_->Controls()) {
+      auto* timer = dynamic_cast<Timer*>(control);
+      if (timer == nullptr) continue;
+      auto* clock = new QTimer(this);
+      clock->setTimerType(Qt::PreciseTimer);
+      clock->setInterval(timer->IntervalMs());
+      connect(clock, &QTimer::timeout, this, [timer] { timer->Fire(); });
+      timer->Drawn = [this] { RunTimers(); };
+      timers_.emplace(timer, clock);
+    }
+  }
+  if (!isVisible()) {
+    // A screen that opens anew starts at its first control.
+    if (model_->Focus() == nullptr && focusWidget() != nullptr) focusWidget()->clearFocus();
+    if (owner != nullptr) PlaceBefore(*owner);
+  }
+  setWindowTitle(FromBytes(model_->Caption()));
+  show();
+  raise();
+  activateWindow();
+}
+
+void WindowView::PlaceBefore(QWidget& owner) {
+  setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
+                 Qt::WindowCloseButtonHint);
+  winId();  // a window of the system must be there to be tied to the owner's
+  windowHandle()->setTransientParent(owner.window()->windowHandle());
+  adjustSize();
+  move(owner.frameGeometry().center() - rect().center());
+}
+
+void WindowView::Leave() {
+  model_ = nullptr;
+  veil_delay_.stop();
+  for (const auto& [timer, clock] : timers_) clock->stop();
+  disconnect(qApp, nullptr, this, nullptr);
+  for (QObject* child : findChildren<QObject*>()) child->blockSignals(true);
+  hide();
+  deleteLater();
+}
+
+void WindowView::Draw() {
+  const QString title = FromBytes(model_->Caption());
+  if (windowTitle() != title) setWindowTitle(title);
+  if (!model_->Visible()) hide();
+  RunTimers();
+  if (model_->Enabled()) {
+    veil_delay_.stop();
+    veil_->hide();
+  } else if (!veil_delay_.isActive() && veil_->isHidden()) {
+    veil_delay_.start();
+  }
+  ShowFocus();
+}
+
+void WindowView::RunTimers() {
+  for (const auto& [timer, clock] : timers_) {
+    const bool run = timer->Enabled() && model_->Visible();
+    if (run == clock->isActive()) continue;
+    if (run) {
+      clock->start();
+    } else {
+      clock->stop();
+    }
+  }
+}
+
+void WindowView::MoveFocus(QWidget* now) {
+  if (model_ == nullptr || in_model_ || now == nullptr || now->window() != this) return;
+  {
+    const QScopedValueRollback<bool> guard(in_model_, true);
+    model_->MoveFocus(ControlOf(*model_, now));
+  }
+  ShowFocus();
+}
+
+void WindowView::ShowFocus() {
+  if (in_model_ || !isVisible()) return;
+  QWidget* has = focusWidget();
+  Control* focus = model_->Focus();
+  if (focus == nullptr) {
+    // The screen has come up, or has been enabled, with the keyboard somewhere already.
+    Control* first = has == nullptr ? nullptr : ControlOf(*model_, has);
+    if (first == nullptr || !first->TakesEvents()) return;
+    const QScopedValueRollback<bool> guard(in_model_, true);
+    model_->MoveFocus(first);
+    return;
+  }
+  if (has != nullptr && ControlOf(*model_, has) == focus) return;
+  if (auto* widget = findChild<QWidget*>(FromBytes(focus->Name()))) {
+    widget->setFocus(Qt::OtherFocusReason);
+  }
+}
+
+void WindowView::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  if (model_ == nullptr) return;
+  {
+    const QScopedValueRollback<bool> guard(in_model_, true);
+    model_->Close();
+  }
+  if (model_ != nullptr) ShowFocus();
+}
+
+void WindowView::resizeEvent(QResizeEvent* event) {
+  QWidget::resizeEvent(event);
+  veil_->setGeometry(rect());
+}
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QTimer>
+#include <QWidget>
+#include <map>
+
+namespace corvalis {
+class Timer;
+class Window;
+}  // namespace corvalis
+
+namespace corvalis::desktop {
+
+/// A window on the screen, and the base of each. It shows what a `Window` says: caption, enabled,
+/// visible, owner, front and focus; it runs the window's timers, and hands the operator's focus
+/// and close box over. What derives from it only lays the controls out.
+class WindowView : public QWidget {
+ public:
+  explicit WindowView(Window& model);
+  ~WindowView() override;
+
+  /// The window has become visible, in front of `owner` (null: of none).
+  void Present(QWidget* owner);
+  /// The model ends: nothing of it is touched any more. Hides, and deletes itself once no event of
+  /// it is under way.
+  void Leave();
+
+  /// True while the operator may act on the window.
+  [[nodiscard]] bool TakesInput() const;
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
+
+ private:
+  void Draw();
+  void RunTimers();
+  void PlaceBefore(QWidget& owner);
+  void MoveFocus(QWidget* now);
+  void ShowFocus();
+
+  Window* model_;
+  QWidget* veil_;
+  QTimer veil_delay_;
+  std::map<Timer*, QTimer*> timers_;
+  bool in_model_ = false;  // the model is moving the focus, or closing
+};
+
+}  // namespace corvalis::desktop
