@@ -1,27 +1,39 @@
 #pragma once
 
+#include <array>
+#include <cstddef>
 #include <string>
 
 namespace corvalis {
 
-/// Every caption and tool-tip of every screen, one getter a text.
+/// Every caption and tool-tip of every screen, one getter a text, in Windows-1252.
+///
+/// They come from the language file that the station record names, in the folder that the record
+/// has at that moment. A text that the file lacks is the built-in English one, which is then
+/// written into the file: a missing file grows into a full template for translators.
 class LanguageData {
  public:
-  /// Loads all texts, as `InitLanguage` does.
+  /// Loads all texts, as `InitLanguage` does. The station record must exist.
   LanguageData();
 
-  /// Loads all texts again. Screens that are open are not told.
+  /// Loads all texts again. Screens that are open are not told. Pending events run after each
+  /// text. Nothing fails: a file that can't be written stays as it is.
   void InitLanguage();
 
 #define CORVALIS_TEXT(section, key, getter, preset) \
-  [[nodiscard]] const std::string& getter() const { return getter##_; }
+  [[nodiscard]] const std::string& getter() const { return texts_[k##getter]; }
 #include "config/language_texts.inc"
 #undef CORVALIS_TEXT
 
  private:
-#define CORVALIS_TEXT(section, key, getter, preset) std::string getter##_;
+  enum Index : std::size_t {
+#define CORVALIS_TEXT(section, key, getter, preset) k##getter,
 #include "config/language_texts.inc"
 #undef CORVALIS_TEXT
+    kTextCount
+  };
+
+  std::array<std::string, kTextCount> texts_;
 };
 
 /// The texts; null before `MainForm` has loaded its captions.

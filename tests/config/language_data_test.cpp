@@ -1,0 +1,265 @@
+#include "config/language_data.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <sstream>
+#include <utility>
+
+#include "config/config_data.h"
+#include "support/test_machine.h"
+
+namespace corvalis::test {
+namespace {
+
+struct Text {
+  std::string section, key, value;
+  bool operator==(const Text&) const = default;
+};
+
+void PrintTo(const Text& text, std::ostream* out) {
+  *out << "[" << text.section << "] " << text.key << "=" << text.value;
+}
+
+/// Every text by its getter, in the order of loading.
+std::vector<Text> Got(const LanguageData& texts) {
+  return {
+#define CORVALIS_TEXT(section, key, getter, preset) {section, key, texts.getter()},
+#include "config/language_texts.inc"
+#undef CORVALIS_TEXT
+  };
+}
+
+std::vector<Text> Defaults() {
+  return {
+#define CORVALIS_TEXT(section, key, getter, preset) {section, key, preset},
+#include "config/language_texts.inc"
+#undef CORVALIS_TEXT
+  };
+}
+
+/// The keys of a file with CR LF that holds nothing but sections and keys.
+std::vector<Text> Parse(const std::string& file) {
+  std::vector<Text> texts;
+  std::istringstream in(file);
+  std::string section;
+  for (std::string line; std::getline(in, line);) {
+    EXPECT_TRUE(line.ends_with('\r')) << line;
+    line.pop_back();
+    if (line.starts_with('[')) {
+      section = line.substr(1, line.size() - 2);
+      continue;
+    }
+    const auto equals = line.find('=');
+    if (equals == std::string::npos) {
+      EXPECT_EQ(line, "");
+      continue;
+    }
+    texts.push_back({section, line.substr(0, equals), line.substr(equals + 1)});
+  }
+  return texts;
+}
+
+std::vector<std::pair<std::string, int>> CountBySection(const std::vector<Text>& texts) {
+  std::vector<std::pair<std::string, int>> counts;
+  for (const Text& text : texts) {
+    if (counts.empty() || counts.back().first != text.section) counts.emplace_back(text.section, 0);
+    ++counts.back().second;
+  }
+  return counts;
+}
+
+bool IsCaption(const std::string& key) { return key.find("Tip") == std::string::npos; }
+
+std::string Example(const std::string& name) {
+  const std::filesystem::path data = CORVALIS_TEST_DATA;
+  return (data.parent_path().parent_path() / "examples" / name).string();
+}
+
+class CountingPump : public Pump {
+ public:
+  void RunPending() override { ++runs; }
+  void RunUntil(double) override {}
+  int runs = 0;
+};
+
+class LanguageTest : public MachineTest {
+ protected:
+  LanguageTest() { configData = &record; }
+  ~LanguageTest() override { configData = nullptr; }
+
+  [[nodiscard]] std::string LanguageFile() const {
+    return record.Path() + "/" + record.LanguageFileName();
+  }
+
+  ConfigData record;
+};
+
+TEST_F(LanguageTest, MissingFileIsWrittenWhole) {
+  const LanguageData texts;
+  EXPECT_EQ(Got(texts), Defaults());
+  const std::string file = ReadFile(machine.program_folder + "/Language.ini");
+  EXPECT_EQ(Parse(file), Defaults());
+  const std::vector<std::pair<std::string, int>> sections = {
+      {"MAIN", 26},        {"SETUP", 16},      {"CONNECTION", 52}, {"TA-PTY-MS", 13},
+      {"EDIT GROUP", 42},  {"CLOCK TIME", 12}, {"PI-ECC-LIC", 28}, {"TP-DI", 26},
+      {"PSN", 20},         {"RT", 10},         {"PIN", 10},        {"AF Method A", 32},
+      {"AF METHOD B", 29}, {"PTYN", 14},       {"PSN PLAN", 10},   {"EON", 23},
+      {"LI", 10},          {"TA EON", 10},     {"TDC", 10},        {"IH", 51},
+      {"TMC System", 12},  {"TMC", 10},        {"MESSAGE", 3}};
+  EXPECT_EQ(CountBySection(Parse(file)), sections);
+
+  const LanguageData again;
+  EXPECT_EQ(Got(again), Defaults());
+  EXPECT_EQ(ReadFile(LanguageFile()), file);
+}
+
+TEST_F(LanguageTest, FileThatLacksTextsGainsThemInTheirSections) {
+  WriteFile(LanguageFile(),
+            "; by the station's engineer\n"
+            "[MESSAGE]\n"
+            "WaitKeyMsg=un instant...\n"
+            "EscKeyMsg=\n"
+            "EscKeyTip=   \n"
+            "not a key\n"
+            "\n"
+            "[Mine]\n"
+            "EscKeyMsg=of another section\n"
+            "[main]\n"
+            "savekeymsg=  Save It  NOW  \n"
+            "Colour=green\n");
+  const LanguageData texts;
+  EXPECT_EQ(texts.MessageWaitKey(), "un instant...");
+  EXPECT_EQ(texts.MessageEscKey(), "ESC");
+  EXPECT_EQ(texts.MessageEscTip(), "Serial transmission interruption!");
+  EXPECT_EQ(texts.MainSaveKey(), "Save It  NOW");
+  EXPECT_EQ(texts.MainOpenKey(), "OPEN");
+
+  const std::string file = ReadFile(LanguageFile());
+  EXPECT_TRUE(
+      file.starts_with("; by the station's engineer\n"
+                       "[MESSAGE]\n"
+                       "WaitKeyMsg=un instant...\n"
+                       "EscKeyMsg=ESC\n"
+                       "EscKeyTip=Serial transmission interruption!\n"
+                       "not a key\n"
+                       "\n"
+                       "[Mine]\n"
+                       "EscKeyMsg=of another section\n"
+                       "[main]\n"
+                       "savekeymsg=  Save It  NOW  \n"
+                       "Colour=green\n"
+                       "SetupKeyMsg=SETUP\n"))
+      << file.substr(0, 400);
+  EXPECT_LT(file.find("FileListBoxTip="), file.find("[SETUP]"));
+  EXPECT_EQ(std::count(file.begin(), file.end(), '\n'), 12 + 469 - 4 + 21);
+
+  const LanguageData again;
+  EXPECT_EQ(Got(again), Got(texts));
+  EXPECT_EQ(ReadFile(LanguageFile()), file);
+}
+
+TEST_F(LanguageTest, FileIsLookedForInTheFolderOfTheMoment) {
+  LanguageData texts;
+  const std::string other = folder + "/other";
+  std::filesystem::create_directory(other);
+  WriteFile(other + "/Language.ini", "[MAIN]\r\nNewKeyMsg=NOUVEAU\r\n");
+  record.SetPath(other);
+  texts.InitLanguage();
+  EXPECT_EQ(texts.MainNewKey(), "NOUVEAU");
+  record.SetPath(machine.program_folder);
+  texts.InitLanguage();
+  EXPECT_EQ(texts.MainNewKey(), "NEW");
+}
+
+TEST_F(LanguageTest, FolderThatCannotBeWrittenToGivesTheDefaultsInSilence) {
+  record.SetPath(folder + "/not there");
+  const LanguageData texts;
+  EXPECT_EQ(Got(texts), Defaults());
+  EXPECT_FALSE(std::filesystem::exists(record.Path()));
+  EXPECT_TRUE(dialogs.boxes.empty());
+}
+
+// The first in the code page of the screens, the second in UTF-8, the third in a code page of
+// Polish. What the program can't show must still be in the file.
+TEST_F(LanguageTest, BytesOfTheFileStayAsTheyAre) {
+  for (const std::string word :
+       {"D\xE9marrer l'\xE9mission \x80", "Za\xC5\xBC\xC3\xB3\xC5\x82\xC4\x87",
+        "Za\xBF\xF3\xB3\xE6 \x81\x8D\xFF"}) {
+    const std::string line = "NewKeyTip=" + word + "\r\n";
+    WriteFile(LanguageFile(), "[MAIN]\r\n" + line);
+    const LanguageData texts;
+    EXPECT_EQ(texts.MainNewTip(), word);
+    EXPECT_TRUE(
+        ReadFile(LanguageFile()).starts_with("[MAIN]\r\n" + line + "SetupKeyMsg=SETUP\r\n"));
+  }
+}
+
+TEST_F(LanguageTest, EventsRunAfterEachText) {
+  CountingPump pump;
+  machine.pump = &pump;
+  const LanguageData texts;
+  EXPECT_EQ(pump.runs, 469);
+}
+
+TEST(LanguageTexts, DefaultsAreCleanAndFitTheirControls) {
+  constexpr std::size_t kLongestCaption = 29;  // of a wide button of the main menu
+  constexpr std::size_t kLongestButton = 17;
+  constexpr std::size_t kLongestTip = 84;
+  for (const Text& text : Defaults()) {
+    SCOPED_TRACE(testing::PrintToString(text));
+    const std::string& value = text.value;
+    ASSERT_FALSE(value.empty());
+    EXPECT_EQ(value.find("  "), std::string::npos);
+    EXPECT_NE(value.front(), ' ');
+    EXPECT_NE(value.back(), ' ');
+    EXPECT_TRUE(
+        std::all_of(value.begin(), value.end(), [](char c) { return c >= ' ' && c <= '~'; }));
+    if (!IsCaption(text.key)) {
+      EXPECT_LE(value.size(), kLongestTip);
+      EXPECT_TRUE(value.back() != '.' || value == "Select the Language.");
+    } else {
+      const bool sends = value.starts_with("SEND") || value.starts_with("READ");
+      EXPECT_LE(value.size(), sends ? kLongestButton : kLongestCaption);
+    }
+  }
+}
+
+TEST_F(LanguageTest, GermanFileIsCompleteAndFits) {
+  const std::string file = ReadFile(Example("German.ini"));
+  const std::vector<Text> german = Parse(file);
+  const std::vector<Text> english = Defaults();
+  ASSERT_EQ(german.size(), english.size());
+  constexpr std::size_t kFitsAnyButton = 17;
+  constexpr std::size_t kLongestTip = 84;
+  for (std::size_t i = 0; i < german.size(); ++i) {
+    SCOPED_TRACE(testing::PrintToString(german[i]));
+    EXPECT_EQ(german[i].section, english[i].section);
+    EXPECT_EQ(german[i].key, english[i].key);
+    EXPECT_FALSE(german[i].value.empty());
+    EXPECT_EQ(german[i].value.find('\xC3'), std::string::npos);  // UTF-8 by mistake
+    EXPECT_LE(german[i].value.size(), IsCaption(german[i].key)
+                                          ? std::max(kFitsAnyButton, english[i].value.size())
+                                          : kLongestTip);
+    EXPECT_TRUE(IsCaption(german[i].key) || german[i].value != english[i].value);
+  }
+  WriteFile(LanguageFile(), file);
+  const LanguageData texts;
+  EXPECT_EQ(Got(texts), german);
+  EXPECT_EQ(ReadFile(LanguageFile()), file);
+}
+
+TEST_F(LanguageTest, SampleStationOffersEnglishAndGerman) {
+  WriteFile(ProgramFile(), ReadFile(Example("station.rds")));
+  record.GetIniFile();
+  ASSERT_EQ(record.NumIniLang(), 2);
+  EXPECT_EQ(record.LanguageName(0), "English");
+  EXPECT_EQ(record.LanguageName(1), "Deutsch");
+  EXPECT_EQ(record.LanguageFileName(), "English.ini");
+  record.SetLanguageDflt(1);
+  EXPECT_TRUE(std::filesystem::exists(Example(record.LanguageFileName())));
+}
+
+}  // namespace
+}  // namespace corvalis::test
