@@ -17,17 +17,29 @@ void Globals::CreateLanguageData() {
   languageData = language_data_.get();
 }
 
-void Globals::CreateDataClasses() {}
+void Globals::CreateDataClasses() {
+  groups_data_ = std::make_unique<GroupsData>();
+  groupsData = groups_data_.get();
+}
 
 void Globals::Release() {
+  groupsData = nullptr;
+  groups_data_.reset();
   languageData = nullptr;
   language_data_.reset();
 }
 
-void Globals::LoadForOpen() {}
+void Globals::LoadForOpen() { groupsData->GetIni(); }
 
-void Globals::LoadForNew() {}
+void Globals::LoadForNew() {
+  // The group sequence has two places in this order.
+  groupsData->GetIni();
+  groupsData->GetIni();
+}
 
-void Globals::Store() { configData->SetIni(); }
+void Globals::Store() {
+  configData->SetIni();
+  groupsData->SetIni();
+}
 
 }  // namespace corvalis

@@ -4,6 +4,7 @@
 
 #include "config/config_data.h"
 #include "config/language_data.h"
+#include "station/groups_data.h"
 
 namespace corvalis {
 
@@ -35,6 +36,7 @@ class Globals {
  private:
   std::unique_ptr<ConfigData> config_data_;
   std::unique_ptr<LanguageData> language_data_;
+  std::unique_ptr<GroupsData> groups_data_;
 };
 
 }  // namespace corvalis

@@ -54,10 +54,8 @@ MainForm::MainForm()
   OpenButton.Click = [this] { Open(); };
   SaveButton.Click = [this] { Save(); };
 
-  CtTpDiPiButton.Click = [this] {
-    if (!ct_tp_di_pi_) ct_tp_di_pi_ = std::make_unique<CtTpDiPiForm>(window);
-    ct_tp_di_pi_->Load();
-  };
+  CtTpDiPiButton.Click = [this] { OpenScreen(ct_tp_di_pi_); };
+  EditGroupsButton.Click = [this] { OpenScreen(edit_groups_); };
   // A screen that isn't there yet can't be opened.
   for (Button* button : {&RS232CButton, &ConnectionButton, &TaPtyMsButton, &EditGroupsButton,
                          &CtTpDiPiButton, &PsnRtPinAfButton, &EonLiButton, &TdcIhButton}) {
@@ -200,7 +198,7 @@ void MainForm::MatchFile() {
 }
 
 void MainForm::EnableServices() {
-  EditGroupsButton.SetEnabled(EditGroupsButton.Click && configData->GroupsEnable());
+  EditGroupsButton.SetEnabled(configData->GroupsEnable());
   EonLiButton.SetEnabled(EonLiButton.Click && configData->EonEnable());
 }
 

@@ -13,6 +13,7 @@
 #include "screen/timer.h"
 #include "screen/window.h"
 #include "station/ct_tp_di_pi_form.h"
+#include "station/edit_groups_form.h"
 
 namespace corvalis {
 
@@ -48,6 +49,7 @@ class MainForm {
 
   /// The screens that have been opened; null before.
   [[nodiscard]] CtTpDiPiForm* OpenedCtTpDiPi() const { return ct_tp_di_pi_.get(); }
+  [[nodiscard]] EditGroupsForm* OpenedEditGroups() const { return edit_groups_.get(); }
 
  private:
   void New();
@@ -60,6 +62,13 @@ class MainForm {
   void FileClicked();
   void CompleteFileName();
 
+  // Opens a working screen, which is created the first time and lives as long as this one.
+  template <class Form>
+  void OpenScreen(std::unique_ptr<Form>& screen) {
+    if (!screen) screen = std::make_unique<Form>(window);
+    screen->Load();
+  }
+
   void ShowFolder();
   void MatchFile();
   void EnableServices();
@@ -69,6 +78,7 @@ class MainForm {
 
   Globals globals_;
   std::unique_ptr<CtTpDiPiForm> ct_tp_di_pi_;
+  std::unique_ptr<EditGroupsForm> edit_groups_;
 };
 
 }  // namespace corvalis

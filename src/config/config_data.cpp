@@ -38,8 +38,6 @@ constexpr bool FirstCountriesAgree() {
 }
 static_assert(FirstCountriesAgree());
 
-bool IsOn(std::string_view text) { return UpperCase(text) == "ON"; }
-
 /// Stores `value` where it fits; a value that does not leaves the field as it was.
 template <class Int>
 void Store(Int& field, std::optional<Int> value) {
@@ -119,7 +117,7 @@ struct ConfigData::Keys {
           using V = std::decay_t<decltype(v)>;
           const auto& field = data.*v.field;
           if constexpr (std::is_same_v<V, Switch>) {
-            return field ? "On" : "Off";
+            return std::string(OnOff(field));
           } else if constexpr (std::is_same_v<V, Hex> || std::is_same_v<V, HexByte>) {
             // A 16-bit field may hold -1, which is written as the 16 bits it is.
             const auto bits = static_cast<std::uint16_t>(field);

@@ -120,7 +120,7 @@ std::string SignedHours(int half_hours) {
 
 std::string Percent(int part, int whole) {
   if (whole == 0) return "0 %";
-  return std::to_string((200L * part + whole) / (2L * whole)) + " %";
+  return std::to_string(std::lround(100.0 * part / whole)) + " %";
 }
 
 std::optional<double> ParseNumber(std::string_view text) {
@@ -131,6 +131,10 @@ std::optional<double> ParseNumber(std::string_view text) {
   if (error != std::errc() || stop != end || !std::isfinite(value)) return std::nullopt;
   return value;
 }
+
+std::string_view OnOff(bool on) { return on ? "On" : "Off"; }
+
+bool IsOn(std::string_view text) { return UpperCase(text) == "ON"; }
 
 std::string UpperCase(std::string_view text) {
   std::string upper(text);

@@ -60,13 +60,18 @@ extern template std::optional<std::int32_t> ParseDecimal(std::string_view text);
 /// Half hours as hours with a sign and one decimal: the format "+00.0;-00.0", so 3 is "+01.5".
 [[nodiscard]] std::string SignedHours(int half_hours);
 
-/// The share of `part` in `whole` as a whole percentage, halves rounded up: the format "0 %".
+/// The share of `part` in `whole` as a whole percentage, halves rounded away from zero: the format
+/// "0 %".
 /// "0 %" for a whole of 0.
 [[nodiscard]] std::string Percent(int part, int whole);
 
 /// The decimal number that the whole text is, with or without a sign, a "." and decimals; nullopt
 /// for anything else.
 [[nodiscard]] std::optional<double> ParseNumber(std::string_view text);
+
+/// How the file writes a switch: "On" or "Off". Read, "on" in any case is true and all else false.
+[[nodiscard]] std::string_view OnOff(bool on);
+[[nodiscard]] bool IsOn(std::string_view text);
 
 /// ASCII letters in upper case.
 [[nodiscard]] std::string UpperCase(std::string_view text);

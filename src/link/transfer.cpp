@@ -12,13 +12,13 @@ namespace {
 
 void AskAbort() { EscPressed = true; }
 
+}  // namespace
+
 bool AddressRuleAllows() {
   if (!configData->Satellite() || AddressSent) return true;
   WarnBeforeAddress();
   return false;
 }
-
-}  // namespace
 
 void RunRead(Window& screen, const std::function<void()>& work) {
   RunTransfer(screen, {.may_start = {}, .work = work, .abort = AskAbort});

@@ -12,11 +12,14 @@ namespace corvalis {
 /// disabling `screen` to giving it the focus again. A failure has been reported when they return,
 /// and stands in `LinkError`.
 
+/// True if something may be sent now. Otherwise, on a one-way link to a Coder that has not been
+/// addressed, the operator has been warned.
+[[nodiscard]] bool AddressRuleAllows();
+
 /// Reads from the Coder and shows what came.
 void RunRead(Window& screen, const std::function<void()>& work);
 
-/// Sends to the Coder. On a one-way link to a Coder that has not been addressed the operator is
-/// warned, and nothing is sent.
+/// Sends to the Coder where `AddressRuleAllows`; else nothing is sent.
 void RunSend(Window& screen, const std::function<void()>& work);
 
 /// Sends `passes` times, under the rule of `RunSend`. Ends at the first pass that leaves an error.

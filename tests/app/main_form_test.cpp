@@ -82,18 +82,64 @@ TEST_F(MainFormTest, StartByKindOfLink) {
 
 TEST_F(MainFormTest, ScreensThatAreNotThereCantBeOpened) {
   Run("[RDS Setup]\nGroups Enable=On\nEON Enable=On\n");
-  for (const Button* button :
-       {&form->RS232CButton, &form->ConnectionButton, &form->TaPtyMsButton, &form->EditGroupsButton,
-        &form->PsnRtPinAfButton, &form->EonLiButton, &form->TdcIhButton}) {
+  for (const Button* button : {&form->RS232CButton, &form->ConnectionButton, &form->TaPtyMsButton,
+                               &form->PsnRtPinAfButton, &form->EonLiButton, &form->TdcIhButton}) {
     EXPECT_FALSE(button->Enabled()) << button->Name();
     EXPECT_TRUE(button->Visible()) << button->Name();
   }
-  form->CtTpDiPiButton.Press();
-  ASSERT_NE(form->OpenedCtTpDiPi(), nullptr);
-  EXPECT_TRUE(form->OpenedCtTpDiPi()->window.Visible());
-  EXPECT_FALSE(form->window.Enabled());
-  form->OpenedCtTpDiPi()->window.Close();
-  EXPECT_TRUE(form->window.Enabled());
+}
+
+TEST_F(MainFormTest, WorkingScreensOpenInFrontOfTheMenu) {
+  Run("[RDS Setup]\nGroups Enable=On\n");
+  EXPECT_EQ(form->OpenedEditGroups(), nullptr);
+  const std::pair<Button&, std::function<Window&()>> screens[] = {
+      {form->CtTpDiPiButton, [this]() -> Window& { return form->OpenedCtTpDiPi()->window; }},
+      {form->EditGroupsButton, [this]() -> Window& { return form->OpenedEditGroups()->window; }}};
+  for (const auto& [button, screen] : screens) {
+    SCOPED_TRACE(button.Name());
+    button.Press();
+    Window& first = screen();
+    EXPECT_TRUE(first.Visible());
+    EXPECT_FALSE(form->window.Enabled());
+    first.Close();
+    EXPECT_TRUE(form->window.Enabled());
+    button.Press();
+    EXPECT_EQ(&screen(), &first);  // it lives on
+    first.Close();
+  }
+}
+
+TEST_F(MainFormTest, GroupsFollowTheFile) {
+  const std::string with = "[RDS Setup]\nGroups Enable=On\n[Groups]\nGroup03A=4;On\n";
+  const std::string other = machine.program_folder + "/other.rds";
+  WriteFile(other, "[Groups]\nGroup05B=6;On\n");
+  Run(with);
+  EXPECT_TRUE(form->EditGroupsButton.Enabled());
+  EXPECT_TRUE(groupsData->Active(3));
+
+  form->Text105.SetText("other.rds");
+  form->OpenButton.Press();
+  EXPECT_FALSE(form->EditGroupsButton.Enabled());
+  EXPECT_FALSE(groupsData->Active(3));
+  EXPECT_EQ(groupsData->Repetitions(21), 6);
+
+  groupsData->SetActive(0, true);
+  form->SaveButton.Press();
+  EXPECT_EQ(profiles.Read(other, "Groups", "Group00A"), "00;On");
+  EXPECT_EQ(profiles.Read(other, "Groups", "Group05B"), "06;On");
+
+  form->NewButton.Press();
+  EXPECT_EQ(groupsData->Repetitions(3), 4);
+  EXPECT_FALSE(groupsData->Active(0));
+  EXPECT_FALSE(form->EditGroupsButton.Enabled());  // whatever the default file says
+  form->OpenButton.Press();                        // what the box names
+  EXPECT_FALSE(form->EditGroupsButton.Enabled());
+  form->Text105.SetText("corvalis.rds");
+  form->OpenButton.Press();
+  EXPECT_TRUE(form->EditGroupsButton.Enabled());
+
+  form->window.Close();
+  EXPECT_EQ(groupsData, nullptr);
 }
 
 TEST_F(MainFormTest, SaveWritesUnderTheNameInTheBox) {
