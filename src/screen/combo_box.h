@@ -16,6 +16,13 @@ class ComboBox : public ListBox {
   /// The entry selected, or what was typed.
   [[nodiscard]] std::string Text() const { return Index() == kNone ? typed_ : Entry(Index()); }
 
+  /// As in any list; what was typed is gone then.
+  void SetIndex(int index) {
+    typed_.clear();
+    ListBox::SetIndex(index);
+    Redraw();
+  }
+
   /// The operator changes the text.
   void TypeText(const std::string& text) {
     if (!TakesEvents() || text == Text()) return;

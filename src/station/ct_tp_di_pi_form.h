@@ -1,7 +1,10 @@
 #pragma once
 
+#include "screen/tabs.h"
 #include "screen/window.h"
+#include "station/ct_tab.h"
 #include "station/pi_ecc_lic_tab.h"
+#include "station/tp_di_tab.h"
 
 namespace corvalis {
 
@@ -16,6 +19,9 @@ class CtTpDiPiForm {
   void Load();
 
   Window window;
+  Tabs SSTab1;  ///< the three below, in their order
+  CtTab ct;
+  TpDiTab tp_di;
   PiEccLicTab pi_ecc_lic;
 
  private:

@@ -77,5 +77,31 @@ TEST(Conversions, Digits) {
   for (const auto& [value, width, text] : cases) EXPECT_EQ(Digits(value, width), text);
 }
 
+TEST(Conversions, SignedHours) {
+  const std::pair<int, const char*> cases[] = {{0, "+00.0"},   {3, "+01.5"},    {-1, "-00.5"},
+                                               {-2, "-01.0"},  {24, "+12.0"},   {-24, "-12.0"},
+                                               {199, "+99.5"}, {200, "+100.0"}, {-48, "-24.0"}};
+  for (const auto& [half_hours, text] : cases) EXPECT_EQ(SignedHours(half_hours), text);
+}
+
+TEST(Conversions, PercentRoundsHalvesUp) {
+  const std::tuple<int, int, const char*> cases[] = {
+      {0, 0, "0 %"},   {5, 0, "0 %"},   {0, 7, "0 %"},
+      {1, 3, "33 %"},  {2, 3, "67 %"},  {1, 8, "13 %"},
+      {1, 200, "1 %"}, {1, 201, "0 %"}, {50000000, 50000000, "100 %"}};
+  for (const auto& [part, whole, text] : cases) EXPECT_EQ(Percent(part, whole), text) << part;
+}
+
+TEST(Conversions, ParseNumber) {
+  const std::pair<const char*, double> numbers[] = {{"0", 0},         {"12", 12},  {"+01.5", 1.5},
+                                                    {"-1.5", -1.5},   {".5", 0.5}, {"5.", 5},
+                                                    {"107.90", 107.9}};
+  for (const auto& [text, value] : numbers) EXPECT_EQ(ParseNumber(text), value) << text;
+  for (const char* other :
+       {"", "+", "-", ".", "x", "1,5", "1 ", " 1", "1e3", "0x10", "+-1", "inf", "nan", "1.2.3"}) {
+    EXPECT_EQ(ParseNumber(other), std::nullopt) << other;
+  }
+}
+
 }  // namespace
 }  // namespace corvalis

@@ -1,0 +1,245 @@
+// The on-air screen, driven through its controls against the Coder in memory.
+
+#include "station/ta_pty_ms_form.h"
+
+#include <gtest/gtest.h>
+
+#include "config/config_data.h"
+#include "link/serial_management.h"
+#include "station/programme_types.h"
+#include "support/test_machine.h"
+
+namespace corvalis::test {
+namespace {
+
+const Bytes kTaOn = Hex("02 0e 00 31 03 3e");
+const Bytes kTaOff = Hex("02 0e 00 30 03 3f");
+const Bytes kSpeech = Hex("02 0f 00 30 03 3e");
+const Bytes kWeather = Hex("02 0d 00 31 30 03 0d");
+
+class TaPtyMsTest : public LinkTest {
+ protected:
+  void OpenScreen(const std::string& file, bool open_coder = true) {
+    Start(file, {}, open_coder);
+    Open();
+    form = std::make_unique<TaPtyMsForm>(main_menu);
+    main_menu.Show();
+    form->Load();
+    port.written.clear();
+  }
+  /// The operator opens the list and chooses a line.
+  void ChoosePty(int line) const {
+    form->window.MoveFocus(&form->Combo1);
+    form->Combo1.Choose(line);
+  }
+  void TypePty(const std::string& text) const {
+    form->window.MoveFocus(&form->Combo1);
+    form->Combo1.TypeText(text);
+  }
+  /// The indicators that are to be seen.
+  std::string Lit() const {
+    std::string lit;
+    for (const CheckBox* box : {&form->Check1, &form->Check2, &form->Check3, &form->Check4}) {
+      EXPECT_TRUE(box->Checked());
+      if (box->Visible()) lit += box->Name().back();
+    }
+    return lit;
+  }
+
+  Window main_menu{this, "MainForm"};
+  std::unique_ptr<TaPtyMsForm> form;
+};
+
+TEST_F(TaPtyMsTest, OpensOnTheRecord) {
+  OpenScreen(kLocal);
+  struct Case {
+    bool ta, music;
+    std::int16_t pty;
+    const char* lit;
+    const char* line;
+  };
+  const Case cases[] = {{false, true, 0, "14", "0    No program type or undefined"},
+                        {true, false, 31, "23", "31  Alarm! "},
+                        {true, true, 18, "13", "18  Children's programs"},
+                        {false, false, 32, "24", ""},
+                        {false, true, -1, "14", ""}};
+  for (const Case& c : cases) {
+    configData->SetTa(c.ta);
+    configData->SetMusic(c.music);
+    configData->SetPty(c.pty);
+    form->Load();
+    EXPECT_EQ(Lit(), c.lit);
+    EXPECT_EQ(form->Combo1.Text(), c.line);
+    EXPECT_FALSE(main_menu.Enabled());
+    form->window.Close();
+    EXPECT_TRUE(main_menu.Enabled());
+    EXPECT_EQ(configData->Pty(), c.pty);
+  }
+  ASSERT_EQ(form->Combo1.Count(), kProgrammeTypes);
+  for (int pty = 0; pty < kProgrammeTypes; ++pty) {
+    EXPECT_EQ(form->Combo1.Entry(pty).find(std::to_string(pty) + "  "), 0U);
+  }
+}
+
+TEST_F(TaPtyMsTest, ReadIsForATwoWayLink) {
+  OpenScreen(kSatellite);
+  EXPECT_FALSE(form->Command8.Visible());
+  configData->SetSatellite(false);
+  form->Load();
+  EXPECT_TRUE(form->Command8.Visible());
+}
+
+TEST_F(TaPtyMsTest, APressOfTaOrMsChangesTheValueAndSendsIt) {
+  OpenScreen(kLocal);
+  form->Command2.Press();
+  EXPECT_EQ(port.written, std::vector<Bytes>{kTaOn});
+  EXPECT_EQ(the_coder->Item(0x0E), Bytes{'1'});
+  EXPECT_EQ(Lit(), "13");
+  EXPECT_EQ(form->Check3.ColourTone(), CheckBox::Tone::kOn);
+
+  form->Command6.Press();
+  EXPECT_EQ(port.written.back(), kSpeech);
+  EXPECT_EQ(the_coder->Item(0x0F), Bytes{'0'});
+  EXPECT_EQ(Lit(), "23");
+  EXPECT_FALSE(configData->Music());
+
+  form->Command2.Press();
+  EXPECT_EQ(port.written, (std::vector<Bytes>{kTaOn, kSpeech, kTaOff}));
+  EXPECT_FALSE(configData->Ta());
+  EXPECT_TRUE(dialogs.boxes.empty());
+}
+
+TEST_F(TaPtyMsTest, APressDuringATransferIsNone) {
+  OpenScreen(kLocal);
+  port.Wrote = [this] { form->Command2.Press(); };
+  form->Command2.Press();
+  EXPECT_EQ(port.written, std::vector<Bytes>{kTaOn});
+  EXPECT_TRUE(configData->Ta());
+  EXPECT_TRUE(form->window.Enabled());
+}
+
+TEST_F(TaPtyMsTest, OneWayLinkRepeatsWithoutAnAddress) {
+  OpenScreen(kSatellite);
+  ChoosePty(16);
+  bool ta = false;
+  for (const int burst : {3, 1, 0}) {
+    configData->SetBurst(static_cast<std::int16_t>(burst));
+    const auto passes = static_cast<std::size_t>(burst);
+    port.written.clear();
+    form->Command2.Press();
+    ta = !ta;
+    EXPECT_EQ(configData->Ta(), ta);
+    EXPECT_EQ(port.written, std::vector<Bytes>(passes, ta ? kTaOn : kTaOff));
+    port.written.clear();
+    form->Command1.Press();
+    EXPECT_EQ(port.written, std::vector<Bytes>(passes, kWeather));
+  }
+  EXPECT_TRUE(dialogs.boxes.empty());
+}
+
+TEST_F(TaPtyMsTest, NoFailureCutsABurstShortOrTakesTheValueBack) {
+  OpenScreen(kSatellite);
+  port.Wrote = [this] { EscPressed = port.written.size() == 1; };
+  form->Command6.Press();
+  EXPECT_EQ(port.written, std::vector<Bytes>(3, kSpeech));
+  EXPECT_EQ(Lit(), "24");
+}
+
+TEST_F(TaPtyMsTest, RefusedPressIsReportedAndStays) {
+  OpenScreen(kLocal, /*open_coder=*/false);
+  form->Command2.Press();
+  ASSERT_EQ(dialogs.boxes.size(), 1U);
+  EXPECT_EQ(dialogs.boxes[0].text, "TA: [RDS] before send address  ");
+  EXPECT_TRUE(configData->Ta());
+  EXPECT_EQ(Lit(), "13");
+}
+
+TEST_F(TaPtyMsTest, PtyIsTakenWhenTheListIsLeft) {
+  OpenScreen(kLocal);
+  ChoosePty(16);
+  EXPECT_EQ(configData->Pty(), 0);
+  form->Command1.Press();
+  EXPECT_EQ(configData->Pty(), 16);
+  EXPECT_EQ(port.written, std::vector<Bytes>{kWeather});
+  ChoosePty(31);
+  form->Command1.Press();
+  EXPECT_EQ(the_coder->Item(0x0D), (Bytes{'1', 'F'}));
+
+  port.written.clear();
+  ChoosePty(5);
+  form->window.Close();
+  EXPECT_EQ(configData->Pty(), 5);
+  form->Load();
+  ChoosePty(7);
+  form->window.Unload();
+  EXPECT_EQ(configData->Pty(), 7);
+  EXPECT_TRUE(port.written.empty());
+}
+
+TEST_F(TaPtyMsTest, TypedTextIsNoProgrammeTypeAndIsNotPutOnAir) {
+  OpenScreen(kLocal);
+  TypePty("News");
+  form->Command1.Press();
+  EXPECT_EQ(configData->Pty(), -1);
+  EXPECT_TRUE(port.written.empty());
+  ASSERT_EQ(dialogs.boxes.size(), 1U);
+  EXPECT_EQ(dialogs.boxes[0].text, "Select a programme type from the list first.");
+  EXPECT_EQ(dialogs.boxes[0].title, "TA - PTY - MS");
+  EXPECT_EQ(dialogs.boxes[0].style, BoxStyle::kWarning);
+  EXPECT_TRUE(form->window.Enabled());
+
+  form->window.Close();
+  form->Load();
+  EXPECT_EQ(form->Combo1.Text(), "");
+  ChoosePty(16);
+  form->Command1.Press();
+  EXPECT_EQ(port.written, std::vector<Bytes>{kWeather});
+}
+
+TEST_F(TaPtyMsTest, ReadTakesAllThree) {
+  OpenScreen(kLocal);
+  the_coder->SetItem(0x0D, 0, Bytes{'1', '0'});
+  the_coder->SetItem(0x0E, 0, Bytes{'2'});  // any digit but 0
+  the_coder->SetItem(0x0F, 0, Bytes{'0'});
+  form->Command8.Press();
+  EXPECT_EQ(port.written, (std::vector<Bytes>{Hex("02 0d 00 03 0c"), Hex("02 0e 00 03 0f"),
+                                              Hex("02 0f 00 03 0e")}));
+  EXPECT_EQ(form->Combo1.Text(), "16  Weather");
+  EXPECT_EQ(configData->Pty(), 16);
+  EXPECT_EQ(Lit(), "23");
+
+  // A type that there is not selects nothing.
+  the_coder->SetItem(0x0D, 0, Bytes{'2', '0'});
+  form->Command8.Press();
+  EXPECT_EQ(configData->Pty(), 32);
+  EXPECT_EQ(form->Combo1.Text(), "");
+}
+
+TEST_F(TaPtyMsTest, EachReadRunsWhateverTheLastOneLeft) {
+  OpenScreen(kLocal);
+  configData->SetPty(9);
+  port.answer = [this](const Bytes& frame) {
+    return frame[1] == 0x0E ? the_coder->Take(frame) : Hex("15 02 00 07 03 06");
+  };
+  the_coder->SetItem(0x0E, 0, Bytes{'1'});
+  form->Command8.Press();
+  EXPECT_EQ(port.written.size(), 3U);
+  EXPECT_EQ(dialogs.boxes.size(), 2U);
+  EXPECT_EQ(form->Combo1.Text(), "9    Varied");
+  EXPECT_EQ(Lit(), "13");
+}
+
+TEST_F(TaPtyMsTest, AClickOnAnIndicatorChangesNothing) {
+  OpenScreen(kLocal);
+  for (CheckBox* box : {&form->Check1, &form->Check4}) {
+    box->Press();
+    EXPECT_TRUE(box->Checked());
+  }
+  EXPECT_EQ(Lit(), "14");
+  EXPECT_FALSE(configData->Ta());
+  EXPECT_TRUE(configData->Music());
+  EXPECT_TRUE(port.written.empty());
+}
+
+}  // namespace
+}  // namespace corvalis::test
