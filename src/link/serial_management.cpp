@@ -101,8 +101,11 @@ void JudgeAnswer(std::span<const std::uint8_t> frame, bool start_seen, bool end_
 }  // namespace
 
 std::string PortSettings() {
-  return std::to_string(configData->Baudrate()) + "," + configData->Parity() + ",8," +
-         std::to_string(configData->StopBit());
+  return PortSettings(configData->Baudrate(), configData->Parity(), configData->StopBit());
+}
+
+std::string PortSettings(std::int16_t baudrate, const std::string& parity, std::int16_t stop_bit) {
+  return std::to_string(baudrate) + "," + parity + ",8," + std::to_string(stop_bit);
 }
 
 bool SerialOpen(SerialPort& control, std::int16_t number, const std::string& settings,
@@ -150,6 +153,8 @@ void OnComm() {
 }
 
 Queue* ReceiveQueue() { return queue ? &*queue : nullptr; }
+
+SerialPort* LinkPort() { return port; }
 
 void WaitSeconds(float seconds) {
   Wait wait(seconds);

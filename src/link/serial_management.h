@@ -25,6 +25,9 @@ extern bool CommandTableBuilt;
 
 /// The text that the port takes as its settings, from the station record: "9600,N,8,1".
 [[nodiscard]] std::string PortSettings();
+/// The same for settings that are not in the record.
+[[nodiscard]] std::string PortSettings(std::int16_t baudrate, const std::string& parity,
+                                       std::int16_t stop_bit);
 
 /// Opens the port anew: closes it, sets number and settings and makes a new receive queue. On an
 /// error returns false, after a box with the system's words if `show_errors` and no scan runs.
@@ -47,6 +50,9 @@ void OnComm();
 
 /// The queue of received bytes; null while the link is released.
 [[nodiscard]] Queue* ReceiveQueue();
+
+/// The port that the link was opened on; null while the link is released.
+[[nodiscard]] SerialPort* LinkPort();
 
 /// Lets events run for at least `seconds`. A wait that crosses midnight does not end by itself.
 void WaitSeconds(float seconds);

@@ -8,6 +8,12 @@ namespace corvalis {
 
 Wait::Wait(double seconds) : deadline_(Machine().clock->Timer() + seconds) {}
 
+Wait Wait::Until(double deadline) {
+  Wait wait(0);
+  wait.deadline_ = deadline;
+  return wait;
+}
+
 void Wait::Pump() {
   if (std::exchange(first_, false)) {
     Machine().pump->RunPending();

@@ -8,11 +8,13 @@ class Wait {
  public:
   /// Takes the time. `seconds` may have a fraction.
   explicit Wait(double seconds);
+  /// A wait that is over once the clock is past `deadline`, in seconds since midnight.
+  [[nodiscard]] static Wait Until(double deadline);
 
   /// Lets events run: at the first call those that are pending, at the next ones sleeping until
   /// something came or the time is over.
   void Pump();
-  /// True once the clock is past the start plus the seconds given.
+  /// True once the clock is past the deadline: the start plus the seconds given.
   [[nodiscard]] bool Expired() const;
 
  private:

@@ -30,6 +30,8 @@ class ListBox : public Control {
   /// Selects an entry, or none; raises `Click` if that changes the selection. `std::out_of_range`
   /// outside -1 to Count() - 1.
   void SetIndex(int index);
+  /// The same for an index that may lie anywhere: none is selected if there is no such entry.
+  void SetIndexOrNone(int index) { SetIndex(index >= 0 && index < Count() ? index : kNone); }
 
   /// Entries of such a list are chosen with the pointer alone: every key is swallowed but the one
   /// that moves on to the next control.

@@ -54,11 +54,6 @@ std::string CountryName(int row) {
   return std::string(Countries()[static_cast<std::size_t>(row)].name);
 }
 
-// Selects an entry, or none if there is no such entry.
-void SelectLine(ListBox& list, int line) {
-  list.SetIndex(line >= 0 && line < list.Count() ? line : ListBox::kNone);
-}
-
 }  // namespace
 
 PiEccLicTab::PiEccLicTab(Window& window)
@@ -256,14 +251,15 @@ void PiEccLicTab::FillCountryList() {
 
 void PiEccLicTab::ShowCountry() {
   const int key = CountryKey(configData->Country(), configData->Ecc());
-  SelectLine(CountryCombo, CountriesByName().LineOfKey(key));
+  CountryCombo.SetIndexOrNone(CountriesByName().LineOfKey(key));
 }
 
-void PiEccLicTab::ShowCoverage() { SelectLine(CoverageCombo, configData->Coverage()); }
+void PiEccLicTab::ShowCoverage() { CoverageCombo.SetIndexOrNone(configData->Coverage()); }
 
 void PiEccLicTab::ShowLanguage() {
   const int code = configData->Lic();
-  SelectLine(LicCombo, code < kLanguageCodes ? LanguagesByName().LineOfCode(code) : ListBox::kNone);
+  LicCombo.SetIndexOrNone(code < kLanguageCodes ? LanguagesByName().LineOfCode(code)
+                                                : ListBox::kNone);
 }
 
 void PiEccLicTab::ShowProgramNum() { IDNumberText.SetText(Digits(configData->ProgramNum(), 3)); }

@@ -102,7 +102,9 @@ PortError MemoryPort::Output(std::span<const std::uint8_t> bytes) {
   if (!open_) return {kPortNotOpen, "operation valid only when the port is open"};
   if (output_error) return std::exchange(output_error, {});
   written.emplace_back(bytes.begin(), bytes.end());
-  if (answer) {
+  if (heard_on && !heard_on(number_, settings_)) {
+    // The bytes are lost.
+  } else if (answer) {
     const Bytes answered = answer(written.back());
     if (!answered.empty()) time_.After(0, [this, answered] { Receive(answered); });
   } else if (line != nullptr) {

@@ -79,6 +79,8 @@ class MemoryPort : public SerialPort {
   coder::Line* line = nullptr;
   /// Instead of a Coder: gets each output and gives the answer.
   std::function<Bytes(const Bytes&)> answer;
+  /// Where the other end can be heard, by port number and settings; null for everywhere.
+  std::function<bool(int number, const std::string& settings)> heard_on;
   /// Errors of opening, by port number.
   std::map<int, std::string> missing;
   /// Everything that was written, one entry for each `Output`.

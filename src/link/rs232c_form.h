@@ -1,0 +1,88 @@
+#pragma once
+
+#include <array>
+#include <functional>
+#include <string>
+
+#include "app/brand_marks.h"
+#include "link/autosetting.h"
+#include "platform/serial_port.h"
+#include "screen/button.h"
+#include "screen/check_box.h"
+#include "screen/control.h"
+#include "screen/list_box.h"
+#include "screen/text_box.h"
+#include "screen/timer.h"
+#include "screen/window.h"
+
+namespace corvalis {
+
+/// The setup screen: how the Coder is reached, by which port, through which modem; and the language
+/// of the program. What is set here goes into the station record. The port is opened anew when the
+/// screen closes.
+class RS232CForm {
+ public:
+  /// What the screen needs of the main menu.
+  struct MainMenu {
+    Window& window;  ///< disabled while this screen is open
+    SerialPort& port;
+    std::function<void()> init_main;      ///< shows the main menu in the present language
+    std::function<void()> reload_limits;  ///< what asks the Coder for its limits loads again
+  };
+
+  explicit RS232CForm(MainMenu main_menu);
+
+  /// Opens the screen on the station record.
+  void Load();
+
+  Window window;
+  BrandMarks marks;
+  Label RdsOptionLabel, BurstLabel, SerialLabel, BaudrateLabel, ParityLabel, StopBitLabel,
+      LanguageLabel;
+  ListBox RdsOptionCombo, Combo1, SerialCombo, BaudrateCombo, ParityCombo, StopBitCombo,
+      LanguageCombo;
+  Button Command31;  ///< AUTOSETTING
+  CheckBox Check1, Check2;
+  TextBox Text2;              ///< the telephone number
+  Button Command2, Command1;  ///< Hook and Hang up
+  TextBox Text1;              ///< the modem's dialogue
+  Timer Timer1;
+
+ private:
+  /// A list whose choice is taken when it is left. `take` returns true once nothing is pending.
+  struct PendingList {
+    ListBox& list;
+    std::function<bool()> take;
+    bool has_focus = false;
+  };
+
+  void FillLists();
+  void InitCaptions();
+  void UpdateEnabling();
+  void ShowPortSettings();
+  void ShowStopBit();
+  void ShowTone();
+  void ShowDialogue(const std::string& text);
+
+  bool TakeMode();
+  bool TakeBurst();
+  bool TakeBaudrate();
+  bool TakeParity();
+  bool TakeSerial();
+  void TakeCommPort();
+  static void Leave(PendingList& pending);
+
+  void AutoSetting();
+  void ShowAttempt(const PortChoice& choice);
+  void SwitchLanguage();
+  void Hook();
+  void HangUp();
+  void OfferDialling(bool offered);
+  void ReadDialogue();
+  void Unload();
+
+  MainMenu main_menu_;
+  std::array<PendingList, 5> pending_;  // in the order in which the closing takes them
+};
+
+}  // namespace corvalis
