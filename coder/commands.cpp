@@ -37,12 +37,20 @@ bool ClockTimeExists(std::span<const std::uint8_t> body) {
          two(15) <= 48;
 }
 
+bool RepetitionsFit(std::span<const std::uint8_t> body) {
+  constexpr int kMostRepetitions = 99;
+  const auto digit = [&body](std::size_t at) {
+    return IsDigit(body[at]) ? body[at] - '0' : body[at] - 'A' + 10;
+  };
+  return digit(2) * 16 + digit(3) <= kMostRepetitions;
+}
+
 constexpr std::array kCommands = {
     Command{kPi, "PI", 4, 0, true, true, "HHHH", "1000"},
     Command{kTp, "TP", 1, 0, true, true, "B", "0"},
     Command{kDi, "DI", 1, 0, true, true, "H", "1"},
     Command{kAddress, "Address", 5, 1, false, true, "", ""},
-    Command{kEnable, "Enable", 4, 31, true, true, "0BHH", "0000"},
+    Command{kEnable, "Enable", 4, 31, true, true, "0BHH", "0000", RepetitionsFit},
     Command{kPty, "PTY", 2, 0, true, true, "BH", "00"},
     Command{kTa, "TA", 1, 0, true, true, "B", "0"},
     Command{kMs, "M/S", 1, 0, true, true, "B", "1"},

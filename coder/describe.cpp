@@ -99,6 +99,10 @@ std::string Meaning(std::uint8_t command, int index, const std::string& text) {
   }
 }
 
+std::string InBrackets(const std::string& words) {
+  return words.empty() ? words : " (" + words + ")";
+}
+
 }  // namespace
 
 std::string HexText(const Bytes& bytes) {
@@ -132,9 +136,7 @@ std::string Describe(const Event& event) {
   if (command.last_index > 0) line.append(" ").append(std::to_string(index));
   line += read ? " read -> " : " <- ";
   line += text;
-  const std::string meaning = Meaning(command.code, index, text);
-  if (!meaning.empty()) line.append(" (").append(meaning).append(")");
-  return line;
+  return line + InBrackets(Meaning(command.code, index, text));
 }
 
 std::string Dump(const Coder& coder) {
@@ -143,8 +145,10 @@ std::string Dump(const Coder& coder) {
     for (int index = 0; index <= command.last_index; ++index) {
       const auto body = coder.Item(command.code, static_cast<std::uint8_t>(index));
       if (!body) continue;
+      const std::string text = Printable(*body);
       all += std::string(command.name) + " " + Hex2(static_cast<unsigned>(index)) + ": " +
-             HexText(*body) + "  \"" + Printable(*body) + "\"\n";
+             HexText(*body) + "  \"" + text + "\"" +
+             InBrackets(Meaning(command.code, index, text)) + "\n";
     }
   }
   return all;

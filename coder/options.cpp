@@ -33,6 +33,24 @@ bool ParseNumber(std::string_view text, int low, int high, int& number) {
   return true;
 }
 
+struct CallsName {
+  std::string_view name;
+  Modem::Calls calls;
+};
+constexpr std::array kCalls = {
+    CallsName{"answer", Modem::Calls::kAnswered},
+    CallsName{"busy", Modem::Calls::kBusy},
+    CallsName{"refuse", Modem::Calls::kRefused},
+    CallsName{"silent", Modem::Calls::kSilent},
+};
+
+bool ParseCalls(std::string_view text, std::optional<Modem::Calls>& calls) {
+  const auto* const found = std::ranges::find(kCalls, text, &CallsName::name);
+  if (found == kCalls.end()) return false;
+  calls = found->calls;
+  return true;
+}
+
 bool On(bool& flag) { return flag = true; }
 
 constexpr std::string_view kPositive = "a number from 1";
@@ -77,7 +95,12 @@ const std::array kOptions = {
     Option{
         "--replug-after", "MS", kMilliseconds, "bring a new line MS milliseconds after that",
         [](Options& o, std::string_view v) { return ParseNumber(v, 0, kMost, o.replug_after_ms); }},
-    Option{"--print", "", "", "print each frame in words, one line each",
+    Option{"--modem", "CALLS", "answer, busy, refuse or silent",
+           "sit behind an AT modem whose calls end like this",
+           [](Options& o, std::string_view v) { return ParseCalls(v, o.modem); }},
+    Option{"--dial-ms", "MS", kMilliseconds, "dial for MS milliseconds (1000 if not given)",
+           [](Options& o, std::string_view v) { return ParseNumber(v, 0, kMost, o.dial_ms); }},
+    Option{"--print", "", "", "print each frame, and what the modem does, in words",
            [](Options& o, std::string_view) { return On(o.print); }},
     Option{"--dump", "", "", "print the memory on SIGUSR1 and at the end",
            [](Options& o, std::string_view) { return On(o.dump); }},
@@ -119,9 +142,14 @@ std::string HelpText() {
          "\nThe first line printed is \"ready\" and the terminal's path, also after each new "
          "plugging;\n\"unplugged\" stands for its removal. The memory is printed between the lines "
          "\"memory\"\nand \"end of memory\": the Coder ID and each item's name, index in two "
-         "hexadecimal digits,\nbytes of the body in hexadecimal, and the body as a text:\n\n"
+         "hexadecimal digits,\nbytes of the body in hexadecimal, the body as a text, and\nwhat it "
+         "says:\n\n"
          "  ID \"?????\" addressed\n"
-         "  PI 00: 35 32 30 31  \"5201\"\n\n"
+         "  PI 00: 35 32 30 31  \"5201\" (country 5, coverage 2, programme 01)\n\n"
+         "A modem takes AT commands and dials; \"silent\" is one without power. It is set up with "
+         "a\n"
+         "guard time of 0: \"+++\" needs no silence before it. The call stays up when the port is\n"
+         "closed.\n\n"
          "A pseudo-terminal knows speed and stop bits and has no parity.\n";
 }
 

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 
 #include "coder/line.h"
+#include "coder/modem.h"
 
 namespace corvalis::coder {
 
@@ -16,6 +18,8 @@ struct Options {
   int stop_bits = 0;  ///< 1 or 2, that the Coder answers to; 0: any
   bool pace = false;
   Faults faults;
+  std::optional<Modem::Calls> modem;  ///< what becomes of calls; none: no modem in the way
+  int dial_ms = 1000;                 ///< milliseconds from a dial command to its outcome
   int replug_after_ms = -1;  ///< milliseconds from unplugging to the new line; negative: never
   bool print = false;
   bool dump = false;

@@ -33,6 +33,7 @@ Server::Server(Options options)
   if (options_.print) {
     coder_.Happened = [](const Event& event) { std::cout << Describe(event) << std::endl; };
   }
+  PlugModem();
 }
 
 void Server::Run(int signals) {
@@ -95,37 +96,73 @@ void Server::RunDue(Time now) {
     arriving_.pop_front();
     Hand({&byte, 1}, last_arrival_ + ByteTime());
   }
-  if (arriving_.empty() && coder_.InFrame() && last_arrival_ + PauseTime() <= now) {
-    Schedule(line_.LinePause(), now);
+  if (arriving_.empty() && PauseAwaited() && last_arrival_ + PauseTime() <= now) {
+    if (modem_) FollowModem(modem_->LinePause(), now);
+    if (coder_.InFrame()) Schedule(line_.LinePause(), now);
   }
+  if (dialled_ && *dialled_ <= now) FollowModem(modem_->DialTimeOver(), now);
   SendDue(now);
   FollowPlug(now);
 }
 
 void Server::Hand(std::span<const std::uint8_t> bytes, Time at) {
   last_arrival_ = at;
-  Schedule(line_.Take(bytes), at);
+  if (modem_) {
+    FollowModem(modem_->Take(bytes), at);
+  } else {
+    Schedule(line_.Take(bytes), at);
+  }
+}
+
+void Server::FollowModem(const Modem::Outcome& outcome, Time at) {
+  // What the Coder was still saying does not outlive the call, nor break into the modem's words.
+  if (!CoderIsHeard() && std::erase_if(leaving_, &Departure::from_coder) > 0) {
+    last_departure_ = leaving_.empty() ? at : leaving_.back().due;
+  }
+  if (!outcome.to_terminal.empty()) Depart(at, outcome.to_terminal, false);
+  if (!outcome.to_coder.empty()) Schedule(line_.Take(outcome.to_coder), at);
+  if (outcome.dropped) static_cast<void>(line_.LinePause());
+  if (!modem_->Dialling()) {
+    dialled_.reset();
+  } else if (!dialled_) {
+    dialled_ = at + milliseconds(options_.dial_ms);
+  }
 }
 
 void Server::Schedule(const std::vector<Line::Answer>& answers, Time at) {
+  if (!CoderIsHeard()) return;
   for (const Line::Answer& answer : answers) {
-    const Time due = at + std::chrono::duration_cast<Clock::duration>(
-                              std::chrono::duration<double>(answer.delay_seconds));
-    if (!options_.pace) {
-      leaving_.push_back({due, answer.bytes});
-      continue;
-    }
-    for (const std::uint8_t byte : answer.bytes) {
-      last_departure_ = std::max(last_departure_, due) + ByteTime();
-      leaving_.push_back({last_departure_, {byte}});
-    }
+    Depart(at + std::chrono::duration_cast<Clock::duration>(
+                    std::chrono::duration<double>(answer.delay_seconds)),
+           answer.bytes, true);
+  }
+}
+
+void Server::Depart(Time due, const Bytes& bytes, bool from_coder) {
+  if (!options_.pace) {
+    leaving_.push_back({due, bytes, from_coder});
+    return;
+  }
+  for (const std::uint8_t byte : bytes) {
+    last_departure_ = std::max(last_departure_, due) + ByteTime();
+    leaving_.push_back({last_departure_, {byte}, from_coder});
   }
 }
 
 void Server::SendDue(Time now) {
   while (terminal_ && !leaving_.empty() && leaving_.front().due <= now) {
     terminal_->Write(leaving_.front().bytes);
+    if (modem_ && leaving_.front().from_coder) modem_->CoderAnswered();
     leaving_.pop_front();
+  }
+}
+
+void Server::PlugModem() {
+  if (!options_.modem) return;
+  dialled_.reset();
+  modem_.emplace(*options_.modem);
+  if (options_.print) {
+    modem_->Happened = [](const std::string& what) { std::cout << "modem: " << what << std::endl; };
   }
 }
 
@@ -134,6 +171,7 @@ void Server::FollowPlug(Time now) {
     terminal_.reset();
     arriving_.clear();
     leaving_.clear();
+    PlugModem();
     std::cout << "unplugged" << std::endl;
     if (options_.replug_after_ms >= 0) replug_ = now + milliseconds(options_.replug_after_ms);
   }
@@ -176,13 +214,16 @@ Server::Clock::duration Server::PauseTime() const {
   return std::max<Clock::duration>(kPause, kPauseBytes * ByteTime());
 }
 
+bool Server::PauseAwaited() const { return coder_.InFrame() || (modem_ && modem_->AwaitsPause()); }
+
 std::optional<Server::Time> Server::NextDue() const {
   std::optional<Time> next = replug_;
   const auto consider = [&next](Time time) { next = next ? std::min(*next, time) : time; };
+  if (dialled_) consider(*dialled_);
   if (!leaving_.empty()) consider(leaving_.front().due);
   if (!arriving_.empty()) {
     consider(last_arrival_ + ByteTime());
-  } else if (terminal_ && coder_.InFrame()) {
+  } else if (terminal_ && PauseAwaited()) {
     consider(last_arrival_ + PauseTime());
   }
   return next;

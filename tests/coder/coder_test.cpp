@@ -78,6 +78,7 @@ TEST(Coder, RefusesByNumber) {
       {"a flag of 2", Frame(0x0E, 0, "2"), 10},
       {"DI past 15", Frame(0x04, 0, "G"), 10},
       {"Enable without its constant", Frame(0x09, 0, "1101"), 10},
+      {"Enable with 100 repetitions", Frame(0x09, 0, "0164"), 10},
       {"PTY 32", Frame(0x0D, 0, "20"), 10},
       {"a number of 100 in two digits", Frame(0x10, 0, "2611157235907:024"), 10},
       {"CT on 29 February 2027", Frame(0x10, 0, "27022910000080924"), 10},

@@ -49,15 +49,37 @@ TEST(Describe, DumpsEachItemInALine) {
   ASSERT_TRUE(coder.SetItem(0x01, 0, Text("5201")));
   ASSERT_TRUE(coder.SetItem(0x11, 130, Text("1A1\2\3\x80 ~Z")));
   const std::string dump = Dump(coder);
-  EXPECT_TRUE(dump.starts_with("PI 00: 35 32 30 31  \"5201\"\nTP 00: 30  \"0\"\n")) << dump;
-  EXPECT_NE(dump.find("\nTDC 82: 31 41 31 02 03 80 20 7E 5A  \"1A1... ~Z\"\n"), std::string::npos);
+  EXPECT_TRUE(
+      dump.starts_with("PI 00: 35 32 30 31  \"5201\" (country 5, coverage 2, programme 01)\n"
+                       "TP 00: 30  \"0\" (off)\n"))
+      << dump;
+  EXPECT_NE(dump.find("\nTDC 82: 31 41 31 02 03 80 20 7E 5A  \"1A1... ~Z\" (on)\n"),
+            std::string::npos);
+}
+
+TEST(Describe, DumpsEachGroupByItsName) {
+  Coder coder;
+  for (int index = 0; index < 32; ++index) {
+    ASSERT_TRUE(coder.SetItem(0x09, static_cast<std::uint8_t>(index), Text("0105")));
+  }
+  const std::string dump = Dump(coder);
+  for (int number = 0; number < 16; ++number) {
+    for (const char* version : {"A", "B"}) {
+      const std::string words =
+          "(group " + std::to_string(number) + version + " on, repetitions 5)";
+      EXPECT_NE(dump.find(words), std::string::npos) << words;
+    }
+  }
 }
 
 TEST(Options, AreReadFromTheCommandLine) {
   const std::vector<const char*> words = {
-      "--link", "/tmp/com1",      "--id", "A b",      "--open", "--baud", "9600", "--stop-bits",
-      "2",      "--late",         "0",    "--garble", "3",      "--cut",  "4",    "--unplug-after",
-      "5",      "--replug-after", "0",    "--dump"};
+      "--link",  "/tmp/com1",      "--id",      "A b",
+      "--open",  "--baud",         "9600",      "--stop-bits",
+      "2",       "--late",         "0",         "--garble",
+      "3",       "--cut",          "4",         "--unplug-after",
+      "5",       "--replug-after", "0",         "--dump",
+      "--modem", "busy",           "--dial-ms", "20"};
   Options options;
   ASSERT_EQ(ParseOptions(words, options), "");
   EXPECT_EQ(options.link, "/tmp/com1");
@@ -70,6 +92,9 @@ TEST(Options, AreReadFromTheCommandLine) {
   EXPECT_EQ(options.faults.cut_after, 4);
   EXPECT_EQ(options.faults.unplug_after, 5);
   EXPECT_EQ(options.replug_after_ms, 0);
+  EXPECT_EQ(options.modem, Modem::Calls::kBusy);
+  EXPECT_EQ(options.dial_ms, 20);
+  EXPECT_EQ(Options().modem, std::nullopt);
 }
 
 TEST(Options, SayWhatIsWrong) {
@@ -82,6 +107,7 @@ TEST(Options, SayWhatIsWrong) {
       {{"--id", "ABCDEF"}, "--id wants 1 to 5 characters, not \"ABCDEF\""},
       {{"--stop-bits", "3"}, "--stop-bits wants 1 or 2, not \"3\""},
       {{"--baud", "9600x"}, "--baud wants a number from 1, not \"9600x\""},
+      {{"--modem", "engaged"}, "--modem wants answer, busy, refuse or silent, not \"engaged\""},
       {{"--late", "-1"}, "--late wants a number of milliseconds from 0, not \"-1\""},
   };
   for (const auto& c : cases) {
