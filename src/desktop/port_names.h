@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace corvalis::desktop {
+
+/// The device that "COM `number`" (1 to 4) stands for: what the link `com<number>` in
+/// `settings_folder` leads to; where there is no such link, `ttyUSB<number - 1>` of `device_folder`
+/// if it is there, else its `ttyS<number - 1>`. All links on the way are followed, as far as they
+/// lead. The device need not exist.
+[[nodiscard]] std::string DeviceOfPort(int number, const std::string& settings_folder,
+                                       const std::string& device_folder = "/dev");
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,39 @@
+#include "desktop/qt_dialogs.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPointer>
+
+#include "desktop/text.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+QMessageBox::Icon IconOf(BoxStyle style) {
+  switch (style) {
+    case BoxStyle::kCritical:
+      return QMessageBox::Critical;
+    case BoxStyle::kWarning:
+      return QMessageBox::Warning;
+    case BoxStyle::kInformation:
+      return QMessageBox::Information;
+  }
+  return QMessageBox::NoIcon;
+}
+
+}  // namespace
+
+void QtDialogs::Show(const Box& box) {
+  // Its owner may go, and take it along, while events run.
+  const QPointer<QMessageBox> shown =
+      new QMessageBox(IconOf(box.style), FromBytes(box.title), FromBytes(box.text), QMessageBox::Ok,
+                      QApplication::activeWindow());
+  shown->setTextFormat(Qt::PlainText);
+  shown->exec();
+  delete shown.data();
+}
+
+void QtDialogs::Beep() { QApplication::beep(); }
+
+}  // namespace corvalis::desktop
