@@ -1,0 +1,126 @@
+#include "desktop/text.h"
+
+#include <QKeyEvent>
+#include <algorithm>
+#include <array>
+
+#include "screen/keys.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+constexpr int kFirstSpecial = 0x80;
+
+/// Bytes 0x80 to 0x9F, from the published mapping of the code page to Unicode.
+constexpr std::array<char16_t, 32> kSpecial = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+constexpr char16_t kEscapedByte = 0xDC00;  // plus the byte, 0x80 to 0xFF
+constexpr int kControlMask = 0x1F;
+
+/// The byte of a character; -1 if the code page lacks it.
+int ByteOf(QChar character) {
+  const char16_t code = character.unicode();
+  const auto* special = std::find(kSpecial.begin(), kSpecial.end(), code);
+  if (special != kSpecial.end())
+    return kFirstSpecial + static_cast<int>(special - kSpecial.begin());
+  const bool same = code < kFirstSpecial || (code > 0x9F && code <= 0xFF);
+  return same ? code : -1;
+}
+
+/// The length of the sequence of UTF-8 that such a byte begins.
+std::size_t SequenceLength(char lead) {
+  const auto byte = static_cast<unsigned char>(lead);
+  if (byte < 0x80) return 1;
+  if (byte < 0xE0) return 2;
+  return byte < 0xF0 ? 3 : 4;
+}
+
+bool IsEscapedByte(QChar character) {
+  return character.unicode() >= kEscapedByte + 0x80 && character.unicode() <= kEscapedByte + 0xFF;
+}
+
+}  // namespace
+
+QString FromBytes(const std::string& bytes) {
+  QString text = QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size()));
+  for (QChar& character : text) {
+    const auto special = static_cast<std::size_t>(character.unicode() - kFirstSpecial);
+    if (character.unicode() >= kFirstSpecial && special < kSpecial.size()) {
+      character = QChar(kSpecial[special]);
+    }
+  }
+  return text;
+}
+
+std::string ToBytes(const QString& text) {
+  std::string bytes;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    const int byte = ByteOf(text[i]);
+    bytes += byte < 0 ? '?' : static_cast<char>(byte);
+    const bool pair = text[i].isHighSurrogate() && i + 1 < text.size();
+    if (pair && text[i + 1].isLowSurrogate()) ++i;
+  }
+  return bytes;
+}
+
+QString FromFileName(const std::string& name) {
+  QString text;
+  for (std::size_t at = 0; at < name.size();) {
+    const std::string sequence = name.substr(at, SequenceLength(name[at]));
+    const QString character = QString::fromStdString(sequence);
+    if (character.toStdString() == sequence) {
+      text += character;
+      at += sequence.size();
+    } else {
+      text += QChar(static_cast<char16_t>(kEscapedByte + static_cast<unsigned char>(name[at])));
+      ++at;
+    }
+  }
+  return text;
+}
+
+std::string ToFileName(const QString& text) {
+  std::string name;
+  QString valid;
+  for (const QChar character : text) {
+    const bool second_half = !valid.isEmpty() && valid.back().isHighSurrogate();
+    if (second_half || !IsEscapedByte(character)) {
+      valid += character;
+      continue;
+    }
+    name += valid.toStdString();
+    valid.clear();
+    name += static_cast<char>(character.unicode() - kEscapedByte);
+  }
+  return name + valid.toStdString();
+}
+
+int KeyCode(const QKeyEvent& event) {
+  const Qt::KeyboardModifiers modifiers = event.modifiers();
+  if (modifiers & (Qt::AltModifier | Qt::MetaModifier)) return kKeyCancelled;
+  switch (event.key()) {
+    case Qt::Key_Backspace:
+      return kKeyBackspace;
+    case Qt::Key_Escape:
+      return kKeyEscape;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      return '\r';
+    default:
+      break;
+  }
+  if (modifiers.testFlag(Qt::ControlModifier)) {
+    const bool letter = event.key() >= Qt::Key_A && event.key() <= Qt::Key_Z;
+    return letter ? event.key() & kControlMask : kKeyCancelled;
+  }
+  if (event.text().size() != 1 || event.text()[0].category() == QChar::Other_Control) {
+    return kKeyCancelled;
+  }
+  return std::max(ByteOf(event.text()[0]), kKeyCancelled);
+}
+
+}  // namespace corvalis::desktop
