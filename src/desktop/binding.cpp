@@ -1,6 +1,7 @@
 #include "desktop/binding.h"
 
 #include <QPointer>
+#include <QTextDocument>
 #include <QWidget>
 #include <utility>
 
@@ -10,11 +11,20 @@
 
 namespace corvalis::desktop {
 
+namespace {
+
+/// A tip that the toolkit would take for markup is escaped, so that every tip shows as it stands.
+QString PlainTip(const QString& tip) {
+  return Qt::mightBeRichText(tip) ? Qt::convertFromPlainText(tip) : tip;
+}
+
+}  // namespace
+
 void Bind(QWidget& widget, Control& control, std::function<void()> draw) {
   widget.setObjectName(FromBytes(control.Name()));
   control.Drawn = [guard = QPointer<QWidget>(&widget), &control, draw = std::move(draw)] {
     if (!guard) return;
-    const QString tip = FromBytes(control.ToolTip());
+    const QString tip = PlainTip(FromBytes(control.ToolTip()));
     if (guard->toolTip() != tip) guard->setToolTip(tip);
     guard->setEnabled(control.Enabled());
     if (guard->isHidden() == control.Visible()) guard->setVisible(control.Visible());

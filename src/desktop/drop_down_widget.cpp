@@ -4,9 +4,9 @@
 #include <QKeyEvent>
 #include <QSignalBlocker>
 #include <QWheelEvent>
-#include <algorithm>
 
 #include "desktop/binding.h"
+#include "desktop/list_keys.h"
 #include "desktop/text.h"
 #include "screen/keys.h"
 
@@ -14,7 +14,6 @@ namespace corvalis::desktop {
 
 namespace {
 constexpr int kVisibleEntries = 20;
-constexpr int kPage = 10;
 }  // namespace
 
 DropDownWidget::DropDownWidget(ListBox& list, QWidget* parent, TextBox::Content content)
@@ -56,55 +55,50 @@ void DropDownWidget::mousePressEvent(QMouseEvent* event) {
 
 void DropDownWidget::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
-void DropDownWidget::keyPressEvent(QKeyEvent* event) {
-  const bool alt = event->modifiers().testFlag(Qt::AltModifier);
-  int to = list_.Index();
-  switch (event->key()) {
-    case Qt::Key_F4:
-      showPopup();
-      return;
-    case Qt::Key_Down:
-    case Qt::Key_Up:
-      if (alt) {
-        showPopup();
-        return;
-      }
-      to += event->key() == Qt::Key_Down ? 1 : -1;
-      break;
-    case Qt::Key_PageDown:
-      to += kPage;
-      break;
-    case Qt::Key_PageUp:
-      to -= kPage;
-      break;
-    case Qt::Key_Home:
-      to = 0;
-      break;
-    case Qt::Key_End:
-      to = list_.Count() - 1;
-      break;
-    default:
-      if (const int key = KeyCode(*event); key != kKeyCancelled) {
-        list_.TypeKey(key);
-      } else {
-        event->ignore();
-      }
-      return;
+bool DropDownWidget::MovedByKey(const QKeyEvent& event) {
+  const bool arrow = event.key() == Qt::Key_Down || event.key() == Qt::Key_Up;
+  if (event.key() == Qt::Key_F4 || (arrow && event.modifiers().testFlag(Qt::AltModifier))) {
+    showPopup();
+    return true;
   }
-  to = std::clamp(to, 0, std::max(list_.Count() - 1, 0));
+  const int to = EntryByKey(list_, event);
+  if (to == ListBox::kNone) return false;
   if (to != list_.Index()) Choose(to);
+  return true;
+}
+
+void DropDownWidget::keyPressEvent(QKeyEvent* event) {
+  if (!list_.PointerOnly() && MovedByKey(*event)) return;
+  if (const int key = KeyCode(*event); key != kKeyCancelled) {
+    list_.TypeKey(key);
+  } else if (!list_.PointerOnly()) {
+    event->ignore();
+  }
+}
+
+bool DropDownWidget::TakenInPopup(const QKeyEvent& event) {
+  if (event.key() == Qt::Key_Tab || event.key() == Qt::Key_Backtab) {
+    hidePopup();
+    focusNextPrevChild(event.key() == Qt::Key_Tab);
+    return true;
+  }
+  if (event.key() == Qt::Key_Escape) return false;
+  const bool enter = event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter;
+  if (enter && !list_.PointerOnly()) return false;
+  const int key = KeyCode(event);
+  if (key != kKeyCancelled) list_.TypeKey(key);
+  return key != kKeyCancelled || list_.PointerOnly();
 }
 
 bool DropDownWidget::eventFilter(QObject* watched, QEvent* event) {
-  if (watched == view() && event->type() == QEvent::KeyPress) {
-    const auto& struck = *static_cast<QKeyEvent*>(event);
-    const int key = KeyCode(struck);
-    const bool chooses = struck.key() == Qt::Key_Return || struck.key() == Qt::Key_Enter ||
-                         struck.key() == Qt::Key_Escape;
-    if (key != kKeyCancelled && !chooses) {
-      list_.TypeKey(key);
-      return true;
-    }
+  if (watched == view() && event->type() == QEvent::KeyPress &&
+      TakenInPopup(*static_cast<QKeyEvent*>(event))) {
+    return true;
+  }
+  // The list chooses at the release of such keys too.
+  if (watched == view() && event->type() == QEvent::ShortcutOverride && list_.PointerOnly()) {
+    event->accept();
+    return true;
   }
   return QComboBox::eventFilter(watched, event);
 }

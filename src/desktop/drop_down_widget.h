@@ -10,8 +10,9 @@
 namespace corvalis::desktop {
 
 /// A closed list that drops down. The operator chooses with the mouse, the arrow keys, or from the
-/// list dropped down (F4, Alt+Down). Typed keys go to the form and choose nothing; nor does the
-/// wheel, lest a passing hand changes what goes on air.
+/// list dropped down (F4, Alt+Down); from a list for the pointer alone, with the mouse. Typed keys
+/// go to the form and choose nothing; nor does the wheel, lest a passing hand changes what goes on
+/// air.
 class DropDownWidget : public QComboBox {
  public:
   /// `content` says what the entries are.
@@ -24,9 +25,13 @@ class DropDownWidget : public QComboBox {
   void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  /// Brings the entries and the selection in step with the list, without a signal.
+  virtual void Draw();
+  /// Opens the list, or moves its selection, if `event` is such a key.
+  [[nodiscard]] bool MovedByKey(const QKeyEvent& event);
 
  private:
-  void Draw();
+  [[nodiscard]] bool TakenInPopup(const QKeyEvent& event);
   void Choose(int index);
 
   ListBox& list_;

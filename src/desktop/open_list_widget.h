@@ -23,20 +23,20 @@ class OpenListWidget : public QListWidget {
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
-  /// Called for each new entry.
+  /// Called for each entry when the list has changed.
   virtual void Dress(QListWidgetItem& item, int index);
+  void Draw();
 
  private:
-  void Draw();
-  void Choose(int index);
+  [[nodiscard]] QString Shown(const std::string& entry) const;
 
   ListBox& list_;
   TextBox::Content content_;
   std::vector<std::string> shown_;
-  bool drawing_ = false;
   bool choosing_ = true;
 };
 
@@ -53,6 +53,8 @@ class DirListWidget : public OpenListWidget {
   DirListWidget(DirList& list, QWidget* parent);
 
  protected:
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void Dress(QListWidgetItem& item, int index) override;
 
  private:

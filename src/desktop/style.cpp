@@ -30,15 +30,6 @@ void Box(QPainter& painter, const QRect& rect, QRgb ground, QRgb border, double 
   painter.restore();
 }
 
-void Ring(QPainter& painter, const QRect& rect) {
-  painter.save();
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(QColor(colours::kAccent), kRing));
-  painter.setBrush(Qt::NoBrush);
-  painter.drawRoundedRect(QRectF(rect).adjusted(1, 1, -1, -1), kCorner, kCorner);
-  painter.restore();
-}
-
 FieldLook LookOf(const QStyleOption& option) {
   return {.enabled = option.state.testFlag(QStyle::State_Enabled),
           .focus = option.state.testFlag(QStyle::State_HasFocus),
@@ -104,6 +95,15 @@ void DrawField(QPainter& painter, const QRect& rect, FieldLook look) {
   Box(painter, rect, ground, border, focus ? kRing : 1);
 }
 
+void DrawFocusRing(QPainter& painter, const QRect& rect) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(colours::kAccent), kRing));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(rect).adjusted(1, 1, -1, -1), kCorner, kCorner);
+  painter.restore();
+}
+
 void DrawArrow(QPainter& painter, const QRectF& rect, bool up, bool enabled) {
   constexpr double kHalfWidth = 4;
   constexpr double kHalfHeight = 2;
@@ -156,7 +156,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
       // Buttons and lists show the focus by their own frame.
       if (qobject_cast<const QPushButton*>(widget) == nullptr &&
           qobject_cast<const QAbstractItemView*>(widget) == nullptr) {
-        Ring(*painter, option->rect);
+        DrawFocusRing(*painter, option->rect);
       }
       return;
     default:

@@ -22,6 +22,10 @@ inline constexpr QRgb kDisabledText = 0xff8b97a3;
 inline constexpr QRgb kAccent = 0xff0a67a6;
 inline constexpr QRgb kHover = 0xffe8f1f8;
 inline constexpr QRgb kPressed = 0xffcfe2f0;
+inline constexpr QRgb kOn = 0xff1f7a45;  ///< what is switched on, and the ground it stands on
+inline constexpr QRgb kOnGround = 0xffdff1e6;
+inline constexpr QRgb kOff = 0xffb3362c;  ///< what is switched off
+inline constexpr QRgb kOffGround = 0xfff8e3e1;
 }  // namespace colours
 
 /// The distances of every layout, in device-independent pixels.
@@ -69,6 +73,8 @@ struct FieldLook {
   bool display_only = false;
 };
 void DrawField(QPainter& painter, const QRect& rect, FieldLook look);
+/// The ring around what has the keyboard.
+void DrawFocusRing(QPainter& painter, const QRect& rect);
 /// The head of an arrow in the middle of `rect`, up or down.
 void DrawArrow(QPainter& painter, const QRectF& rect, bool up, bool enabled);
 

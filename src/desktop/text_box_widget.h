@@ -32,15 +32,20 @@ class TextBoxWidget : public QLineEdit {
   void TellSelection();
   void TellEdit();
   void Strike(const QString& characters);
+  void StrikeBackspace();
   void Paste(const QString& clip);
 
   [[nodiscard]] bool FileName() const;
   [[nodiscard]] QString Shown(const std::string& bytes) const;
   [[nodiscard]] std::string Bytes(const QString& shown) const;
+  /// Where a position of the one side lies on the other.
+  [[nodiscard]] int ByteAt(int unit) const;
+  [[nodiscard]] int UnitAt(int byte) const;
 
   TextBox& box_;
   int columns_;
-  bool in_step_ = false;  // one side is being brought in step with the other
+  bool in_step_ = false;   // one side is being brought in step with the other
+  bool striking_ = false;  // the operator's key is being carried out
 };
 
 }  // namespace corvalis::desktop

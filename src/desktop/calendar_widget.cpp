@@ -1,0 +1,105 @@
+#include "desktop/calendar_widget.h"
+
+#include <QAbstractItemView>
+#include <QEvent>
+#include <QPainter>
+#include <QScopedValueRollback>
+#include <QSignalBlocker>
+#include <QTextCharFormat>
+#include <QToolButton>
+
+#include "desktop/binding.h"
+#include "desktop/style.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+constexpr double kCorner = 4;
+
+QDate ToDate(std::chrono::year_month_day date) {
+  return {static_cast<int>(date.year()), static_cast<int>(static_cast<unsigned>(date.month())),
+          static_cast<int>(static_cast<unsigned>(date.day()))};
+}
+
+std::chrono::year_month_day FromDate(QDate date) {
+  return {std::chrono::year(date.year()), std::chrono::month(static_cast<unsigned>(date.month())),
+          std::chrono::day(static_cast<unsigned>(date.day()))};
+}
+
+}  // namespace
+
+CalendarWidget::CalendarWidget(Calendar& calendar, QWidget* parent)
+    : QCalendarWidget(parent), calendar_(calendar) {
+  setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
+  setHorizontalHeaderFormat(QCalendarWidget::ShortDayNames);
+  setDateEditEnabled(false);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  DressParts();
+  connect(this, &QCalendarWidget::selectionChanged, this, [this] {
+    calendar_.Pick(FromDate(selectedDate()));
+    Draw();
+  });
+  Bind(*this, calendar, [this] { Draw(); });
+}
+
+void CalendarWidget::DressParts() {
+  QTextCharFormat quiet;
+  quiet.setForeground(QColor(colours::kQuietText));
+  setHeaderTextFormat(quiet);
+  for (const auto day : {Qt::Saturday, Qt::Sunday}) {
+    QTextCharFormat plain;
+    plain.setForeground(QColor(colours::kText));
+    setWeekdayTextFormat(day, plain);
+  }
+  for (auto* button : findChildren<QToolButton*>()) button->setFocusPolicy(Qt::NoFocus);
+  days_ = findChild<QAbstractItemView*>();
+  days_->installEventFilter(this);
+  static_cast<QAbstractItemView*>(days_)->viewport()->installEventFilter(this);
+}
+
+void CalendarWidget::Draw() {
+  const QSignalBlocker silent(this);
+  if (const QDate date = ToDate(calendar_.Date()); selectedDate() != date) setSelectedDate(date);
+}
+
+bool CalendarWidget::eventFilter(QObject* watched, QEvent* event) {
+  switch (event->type()) {
+    case QEvent::FocusIn:
+    case QEvent::FocusOut:
+      updateCells();
+      break;
+    case QEvent::MouseButtonPress:
+      // Without the focus the press is void: the control left has taken it back.
+      if (watched != days_ && !days_->hasFocus()) return true;
+      break;
+    case QEvent::Wheel:
+      return true;
+    default:
+      break;
+  }
+  return QCalendarWidget::eventFilter(watched, event);
+}
+
+void CalendarWidget::paintCell(QPainter* painter, const QRect& rect, QDate date) const {
+  const bool chosen = date == selectedDate();
+  const bool this_month = date.month() == monthShown() && date.year() == yearShown();
+  QRgb ink = this_month && isEnabled() ? colours::kText : colours::kDisabledText;
+  painter->save();
+  painter->setRenderHint(QPainter::Antialiasing);
+  if (chosen) {
+    const bool focus = days_->hasFocus() && isEnabled();
+    if (isEnabled()) ink = focus ? colours::kField : colours::kAccent;
+    painter->setPen(focus ? Qt::NoPen
+                          : QPen(QColor(isEnabled() ? colours::kAccent : colours::kBorder), 1));
+    painter->setBrush(QColor(focus ? colours::kAccent : colours::kPressed));
+    if (!isEnabled()) painter->setBrush(QColor(colours::kDisplay));
+    painter->drawRoundedRect(QRectF(rect).adjusted(2.5, 1.5, -2.5, -1.5), kCorner, kCorner);
+    painter->setFont(Bold(font()));
+  }
+  painter->setPen(QColor(ink));
+  painter->drawText(rect, Qt::AlignCenter, QString::number(date.day()));
+  painter->restore();
+}
+
+}  // namespace corvalis::desktop
