@@ -6,7 +6,7 @@ set -u
 cd "$(dirname "${BASH_SOURCE[0]}")" || exit 1
 . .ci/setup.sh
 install_packages
-build_preset release corvalis corvalis-coder
+build_preset release corvalis corvalis-tour corvalis-coder
 
 # A home of this demonstration's own: the sample station, and COM 1 at the simulated Coder.
 home=$(mktemp -d "${TMPDIR:-/tmp}/corvalis-XXXXXX") || exit 1
@@ -38,6 +38,5 @@ else
   rm -rf build/tour
   mkdir -p build/tour
   xvfb-run -a -s "-screen 0 1920x1200x24" \
-    build/release/src/desktop/corvalis --tour build/tour --coder-log "$home/coder.log" \
-    --coder-pid "$coder"
+    build/release/src/desktop/corvalis-tour build/tour "$home/coder.log" "$coder"
 fi

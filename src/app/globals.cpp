@@ -37,6 +37,8 @@ void Globals::LoadForNew() {
   groupsData->GetIni();
 }
 
+void Globals::LoadLimits() {}
+
 void Globals::Store() {
   configData->SetIni();
   groupsData->SetIni();

@@ -30,6 +30,9 @@ class Globals {
   void LoadForOpen();
   /// The same in the order of New.
   void LoadForNew();
+  /// The classes that ask the Coder for the size of their lists load themselves again, in the order
+  /// in which the setup screen has it done when it closes. None of them has joined yet.
+  void LoadLimits();
   /// The record and the data classes store themselves, in the order of Save.
   void Store();
 

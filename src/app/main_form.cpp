@@ -54,8 +54,15 @@ MainForm::MainForm()
   OpenButton.Click = [this] { Open(); };
   SaveButton.Click = [this] { Save(); };
 
-  CtTpDiPiButton.Click = [this] { OpenScreen(ct_tp_di_pi_); };
-  EditGroupsButton.Click = [this] { OpenScreen(edit_groups_); };
+  RS232CButton.Click = [this] {
+    OpenScreen(rs232c_, RS232CForm::MainMenu{.window = window,
+                                             .port = MSComm1,
+                                             .init_main = [this] { InitMain(); },
+                                             .reload_limits = [this] { globals_.LoadLimits(); }});
+  };
+  TaPtyMsButton.Click = [this] { OpenScreen(ta_pty_ms_, window); };
+  CtTpDiPiButton.Click = [this] { OpenScreen(ct_tp_di_pi_, window); };
+  EditGroupsButton.Click = [this] { OpenScreen(edit_groups_, window); };
   // A screen that isn't there yet can't be opened.
   for (Button* button : {&RS232CButton, &ConnectionButton, &TaPtyMsButton, &EditGroupsButton,
                          &CtTpDiPiButton, &PsnRtPinAfButton, &EonLiButton, &TdcIhButton}) {

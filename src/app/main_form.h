@@ -2,9 +2,11 @@
 
 #include <functional>
 #include <memory>
+#include <utility>
 
 #include "app/brand_marks.h"
 #include "app/globals.h"
+#include "link/rs232c_form.h"
 #include "platform/serial_port.h"
 #include "screen/button.h"
 #include "screen/control.h"
@@ -14,6 +16,7 @@
 #include "screen/window.h"
 #include "station/ct_tp_di_pi_form.h"
 #include "station/edit_groups_form.h"
+#include "station/ta_pty_ms_form.h"
 
 namespace corvalis {
 
@@ -48,6 +51,8 @@ class MainForm {
   SerialPort& MSComm1;
 
   /// The screens that have been opened; null before.
+  [[nodiscard]] RS232CForm* OpenedRS232C() const { return rs232c_.get(); }
+  [[nodiscard]] TaPtyMsForm* OpenedTaPtyMs() const { return ta_pty_ms_.get(); }
   [[nodiscard]] CtTpDiPiForm* OpenedCtTpDiPi() const { return ct_tp_di_pi_.get(); }
   [[nodiscard]] EditGroupsForm* OpenedEditGroups() const { return edit_groups_.get(); }
 
@@ -63,9 +68,9 @@ class MainForm {
   void CompleteFileName();
 
   // Opens a working screen, which is created the first time and lives as long as this one.
-  template <class Form>
-  void OpenScreen(std::unique_ptr<Form>& screen) {
-    if (!screen) screen = std::make_unique<Form>(window);
+  template <class Form, class MainMenu>
+  void OpenScreen(std::unique_ptr<Form>& screen, MainMenu&& main_menu) {
+    if (!screen) screen = std::make_unique<Form>(std::forward<MainMenu>(main_menu));
     screen->Load();
   }
 
@@ -77,6 +82,8 @@ class MainForm {
   void FocusBack();
 
   Globals globals_;
+  std::unique_ptr<RS232CForm> rs232c_;
+  std::unique_ptr<TaPtyMsForm> ta_pty_ms_;
   std::unique_ptr<CtTpDiPiForm> ct_tp_di_pi_;
   std::unique_ptr<EditGroupsForm> edit_groups_;
 };

@@ -121,7 +121,7 @@ void PiEccLicTab::InitCaptions() {
   PiLabel.SetTexts("PI", texts.PiEccLicPITip());
   EccLabel.SetTexts("ECC", texts.PiEccLicECCTip());
   LicLabel.SetTexts("LIC", texts.PiEccLicLicTip());
-  CountryListLabel.SetTexts("", texts.PiEccLicCountryListTip());
+  CountryListLabel.SetTexts(texts.PiEccLicCountryListTip(), texts.PiEccLicCountryListTip());
   CountryCombo.SetToolTip(texts.PiEccLicCountryTip());
   CoverageCombo.SetToolTip(texts.PiEccLicCoverageTip());
   IDNumberText.SetToolTip(texts.PiEccLicIDNumberTip());

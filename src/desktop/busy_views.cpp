@@ -1,0 +1,25 @@
+#include "desktop/busy_views.h"
+
+#include "desktop/brand_header.h"
+#include "desktop/button_widget.h"
+#include "desktop/label_widget.h"
+#include "desktop/layout.h"
+#include "desktop/progress_bar_widget.h"
+
+namespace corvalis::desktop {
+
+WaitView::WaitView(WaitForm& form) : WindowView(form.window) {
+  QVBoxLayout* column = WindowColumn(this);
+  column->addWidget(new BrandHeader(form.marks, nullptr, this));
+  column->addWidget(new LabelWidget(form.WaitMessage, this));
+  column->addWidget(new ProgressBarWidget(form.WaitBar, this));
+}
+
+SerialCommunicationView::SerialCommunicationView(SerialCommunicationForm& form)
+    : WindowView(form.window) {
+  QVBoxLayout* column = WindowColumn(this);
+  column->addWidget(new ProgressBarWidget(form.ProgressBar1, this));
+  column->addWidget(new ButtonWidget(form.Command1, this), 0, Qt::AlignHCenter);
+}
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "app/serial_communication_form.h"
+#include "app/wait_form.h"
+#include "desktop/window_view.h"
+
+namespace corvalis::desktop {
+
+/// "Wait please!", while files are read and written.
+class WaitView : public WindowView {
+ public:
+  explicit WaitView(WaitForm& form);
+};
+
+/// A transfer is under way, and can be aborted.
+class SerialCommunicationView : public WindowView {
+ public:
+  explicit SerialCommunicationView(SerialCommunicationForm& form);
+};
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,54 @@
+#include "desktop/ct_page.h"
+
+#include <QGroupBox>
+
+#include "desktop/calendar_widget.h"
+#include "desktop/layout.h"
+#include "desktop/spinner_widget.h"
+#include "desktop/style.h"
+#include "desktop/text_box_widget.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+constexpr int kTimeColumns = 5;
+constexpr int kOffsetColumns = 5;
+constexpr int kPsnColumns = 3;
+
+// The hour's arrows before the time, the minute's behind it.
+QWidget* Time(CtTab& tab, QWidget* parent) {
+  auto* group = new QWidget(parent);
+  group->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  QHBoxLayout* row = Row(group);
+  row->setSpacing(kTight);
+  row->addWidget(new SpinnerWidget(tab.VScroll2, group));
+  row->addWidget(CodeBox(tab.Text1, kTimeColumns, group));
+  row->addWidget(new SpinnerWidget(tab.VScroll1, group));
+  return group;
+}
+
+}  // namespace
+
+CtPage::CtPage(CtTab& tab, QWidget* parent) : QWidget(parent) {
+  auto* date = new QGroupBox(this);
+  (new QVBoxLayout(date))->addWidget(new CalendarWidget(tab.Calendar1, date));
+
+  auto* time = new QGroupBox(this);
+  QGridLayout* fields = Fields(time);
+  AddField(*fields, tab.HourMinLabel, Time(tab, time));
+  AddField(*fields, tab.CtOffsetLabel,
+           new SpinField(tab.Text9, tab.VScroll6, kOffsetColumns, time));
+  AddField(*fields, tab.DatePsnLabel, FixedBox(tab.Text7, kPsnColumns, time));
+  AddField(*fields, tab.HourPsnLabel, FixedBox(tab.Text8, kPsnColumns, time));
+  fields->setRowStretch(fields->rowCount(), 1);
+  AddLine(*fields, ButtonRow({&tab.Command1, &tab.Command2}, time));
+
+  QHBoxLayout* row = Row(this);
+  row->setContentsMargins(0, kApart, 0, 0);
+  row->setSpacing(kApart);
+  row->addWidget(date, 1);
+  row->addWidget(time);
+}
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QBoxLayout>
+#include <QGridLayout>
+#include <initializer_list>
+
+#include "screen/button.h"
+#include "screen/control.h"
+#include "screen/text_box.h"
+
+namespace corvalis::desktop {
+
+/// How the windows put their parts together: the same distances and the same order everywhere.
+
+/// The layout of a whole window, with the window's margins.
+[[nodiscard]] QVBoxLayout* WindowColumn(QWidget* window);
+
+/// Layouts without margins of their own.
+[[nodiscard]] QVBoxLayout* Column(QWidget* parent);
+[[nodiscard]] QHBoxLayout* Row(QWidget* parent);
+
+/// The inside of a group: labels in the first column, what they name in the second, which takes
+/// the room that is left.
+[[nodiscard]] QGridLayout* Fields(QWidget* group);
+/// Appends a line to `fields`: `label` and `field`, which keeps its width if it has a fixed one.
+void AddField(QGridLayout& fields, Label& label, QWidget* field);
+/// Appends a line over both columns.
+void AddLine(QGridLayout& fields, QWidget* line);
+
+/// A box of so many digits, no wider.
+[[nodiscard]] QWidget* FixedBox(TextBox& box, int columns, QWidget* parent);
+/// The same for a code that stands on its own and is read digit by digit.
+[[nodiscard]] QWidget* CodeBox(TextBox& box, int columns, QWidget* parent);
+
+/// A row of buttons of equal width, from the left. Hidden ones take no room.
+[[nodiscard]] QWidget* ButtonRow(std::initializer_list<Button*> buttons, QWidget* parent);
+/// The same from top to bottom, over the whole width.
+[[nodiscard]] QWidget* ButtonColumn(std::initializer_list<Button*> buttons, QWidget* parent);
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,30 @@
+#include "desktop/meter_widget.h"
+
+#include <QPainter>
+
+#include "desktop/binding.h"
+#include "desktop/style.h"
+
+namespace corvalis::desktop {
+
+namespace {
+constexpr int kWidth = 120;
+constexpr int kHeight = 12;
+}  // namespace
+
+MeterWidget::MeterWidget(Meter& meter, QWidget* parent) : QWidget(parent), meter_(meter) {
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+  Bind(*this, meter, [this] { update(); });
+}
+
+QSize MeterWidget::sizeHint() const { return {kWidth, kHeight}; }
+
+void MeterWidget::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  painter.fillRect(rect(), QColor(colours::kFaintBorder));
+  QRectF share = rect();
+  share.setWidth(share.width() * meter_.Value() / Meter::kMax);
+  painter.fillRect(share, QColor(colours::kAccent));
+}
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,63 @@
+#include "desktop/pi_ecc_lic_page.h"
+
+#include <QGroupBox>
+
+#include "desktop/drop_down_widget.h"
+#include "desktop/label_widget.h"
+#include "desktop/layout.h"
+#include "desktop/open_list_widget.h"
+#include "desktop/spinner_widget.h"
+#include "desktop/style.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+constexpr int kPiColumns = 4;
+constexpr int kEccColumns = 3;
+constexpr int kIdNumberColumns = 3;
+
+}  // namespace
+
+PiEccLicPage::PiEccLicPage(PiEccLicTab& tab, QWidget* parent) : QWidget(parent) {
+  auto* identity = new LabelledGroup(tab.PiLabel, this);
+  QGridLayout* pi = Fields(identity);
+  AddField(*pi, tab.CountryLabel, new DropDownWidget(tab.CountryCombo, identity));
+  AddField(*pi, tab.CoverageLabel, new DropDownWidget(tab.CoverageCombo, identity));
+  AddField(*pi, tab.IDNumberLabel,
+           new SpinField(tab.IDNumberText, tab.VScroll3, kIdNumberColumns, identity));
+  AddLine(*pi, CodeBox(tab.PiText, kPiColumns, identity));
+  AddLine(*pi,
+          ButtonRow({&tab.ReadPiCommand, &tab.SendPiCommand, &tab.SendPiBurstCommand}, identity));
+
+  auto* extended = new LabelledGroup(tab.EccLabel, this);
+  QGridLayout* ecc = Fields(extended);
+  AddLine(*ecc, CodeBox(tab.EccText, kEccColumns, extended));
+  AddLine(*ecc, ButtonRow({&tab.ReadEccCommand, &tab.SendEccCommand, &tab.SendEccBurstCommand},
+                          extended));
+
+  auto* language = new LabelledGroup(tab.LicLabel, this);
+  QGridLayout* lic = Fields(language);
+  AddLine(*lic, new DropDownWidget(tab.LicCombo, language));
+  AddLine(*lic, ButtonRow({&tab.ReadLicCommand, &tab.SendLicCommand, &tab.SendLicBurstCommand},
+                          language));
+
+  auto* countries = new LabelledGroup(tab.CountryListLabel, this);
+  auto* list = new OpenListWidget(tab.CountryList, countries);
+  list->ShowOnly();
+  QVBoxLayout* inside = new QVBoxLayout(countries);
+  inside->addWidget(list);
+
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(0, kApart, 0, 0);
+  grid->setSpacing(kApart);
+  grid->addWidget(identity, 0, 0, 1, 2);
+  grid->addWidget(extended, 1, 0);
+  grid->addWidget(language, 1, 1);
+  grid->addWidget(countries, 0, 2, 2, 1);
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(2, 1);
+  grid->setRowStretch(0, 1);
+}
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,52 @@
+#include "desktop/program.h"
+
+#include <QApplication>
+#include <QDir>
+
+#include "desktop/style.h"
+#include "desktop/text.h"
+#include "desktop/views.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+// A folder of the program's own under the one that `variable` names, else under `otherwise` in the
+// home folder. It is made if it is missing; where that fails, reading finds nothing and writing is
+// passed over, as with any folder that can't be used.
+std::string OwnFolder(const char* variable, const QString& otherwise) {
+  QString base = qEnvironmentVariable(variable);
+  if (base.isEmpty() || QDir::isRelativePath(base)) base = QDir::homePath() + otherwise;
+  const QString folder = base + QStringLiteral("/corvalis");
+  QDir().mkpath(folder);
+  return ToFileName(folder);
+}
+
+}  // namespace
+
+Program::Program() {
+  ApplyStyle(*qApp);
+  QApplication::setQuitOnLastWindowClosed(false);
+  platform_.clock = &time_;
+  platform_.pump = &time_;
+  platform_.dialogs = &dialogs_;
+  platform_.profiles = &profiles_;
+  platform_.port = &port_;
+  platform_.program_folder = OwnFolder("XDG_DATA_HOME", QStringLiteral("/.local/share"));
+  platform_.settings_folder = OwnFolder("XDG_CONFIG_HOME", QStringLiteral("/.config"));
+  InstallPlatform(&platform_);
+  RegisterViews(host_);
+}
+
+Program::~Program() {
+  menu_.reset();
+  InstallPlatform(nullptr);
+}
+
+void Program::Start() {
+  menu_ = std::make_unique<MainForm>();
+  menu_->Ended = [] { QApplication::quit(); };
+  menu_->Load();
+}
+
+}  // namespace corvalis::desktop

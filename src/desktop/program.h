@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+
+#include "app/main_form.h"
+#include "desktop/qt_dialogs.h"
+#include "desktop/qt_serial_port.h"
+#include "desktop/qt_time.h"
+#include "desktop/screen_host.h"
+#include "platform/platform.h"
+
+namespace corvalis::desktop {
+
+/// The program on this machine: its folders, its services and its windows. There is one, and a
+/// QApplication must be there before it.
+class Program {
+ public:
+  Program();
+  ~Program();
+
+  /// Starts: returns when the main menu can be used. Closing the menu ends the application.
+  void Start();
+
+ private:
+  QtTime time_;
+  QtDialogs dialogs_;
+  QtSerialPort port_;
+  ProfileStore profiles_;
+  Platform platform_;
+  QtScreenHost host_;
+  std::unique_ptr<MainForm> menu_;
+};
+
+}  // namespace corvalis::desktop

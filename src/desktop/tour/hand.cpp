@@ -1,0 +1,122 @@
+#include "desktop/tour/hand.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QTabBar>
+#include <QTest>
+#include <stdexcept>
+
+namespace corvalis::desktop {
+
+namespace {
+
+[[noreturn]] void Fail(const QString& what) { throw std::runtime_error(what.toStdString()); }
+
+QWidget* Visible(const QString& name) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == name && window->isVisible()) return window;
+  }
+  return nullptr;
+}
+
+void ClickEntry(QAbstractItemView& view, const QString& text) {
+  const QAbstractItemModel& entries = *view.model();
+  for (int row = 0; row < entries.rowCount(); ++row) {
+    const QModelIndex index = entries.index(row, 0);
+    if (index.data().toString().trimmed() != text.trimmed()) continue;
+    view.scrollTo(index);
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, view.visualRect(index).center());
+    return;
+  }
+  Fail("The list has no entry " + text + ".");
+}
+
+}  // namespace
+
+QWidget& Hand::Window(const QString& name) const {
+  QWidget* window = Visible(name);
+  if (window == nullptr) Fail("The window " + name + " is not on the screen.");
+  return *window;
+}
+
+QWidget& Hand::Control(const QString& window, const QString& name) const {
+  auto* control = Window(window).findChild<QWidget*>(name);
+  if (control == nullptr || !control->isVisible()) Fail(window + " does not show " + name + ".");
+  return *control;
+}
+
+void Hand::Click(const QString& window, const QString& control) const {
+  QWidget& widget = Control(window, control);
+  if (!widget.isEnabled()) Fail(control + " can't be pressed.");
+  // A check box takes the press on its box, which stands at the left.
+  const bool box = qobject_cast<QCheckBox*>(&widget) != nullptr;
+  const QPoint at = box ? QPoint(widget.height() / 2, widget.height() / 2) : widget.rect().center();
+  QTest::mouseClick(&widget, Qt::LeftButton, {}, at);
+}
+
+void Hand::Choose(const QString& window, const QString& list, const QString& text) const {
+  QWidget& widget = Control(window, list);
+  widget.setFocus(Qt::MouseFocusReason);
+  if (auto* drop_down = qobject_cast<QComboBox*>(&widget)) {
+    drop_down->showPopup();
+    ClickEntry(*drop_down->view(), text);
+    drop_down->hidePopup();
+  } else if (auto* view = qobject_cast<QAbstractItemView*>(&widget)) {
+    ClickEntry(*view, text);
+  } else {
+    Fail(list + " is no list.");
+  }
+}
+
+void Hand::Type(const QString& window, const QString& box, const QString& text) const {
+  auto* line = qobject_cast<QLineEdit*>(&Control(window, box));
+  if (line == nullptr) Fail(box + " can't be typed in.");
+  line->setFocus(Qt::MouseFocusReason);
+  line->selectAll();
+  QTest::keyClicks(line, text);
+  QTest::keyClick(line, Qt::Key_Tab);
+}
+
+void Hand::StepUp(const QString& window, const QString& spinner) const {
+  QWidget& widget = Control(window, spinner);
+  QTest::mouseClick(&widget, Qt::LeftButton, {}, {widget.width() / 2, widget.height() / 4});
+}
+
+void Hand::StepDown(const QString& window, const QString& spinner) const {
+  QWidget& widget = Control(window, spinner);
+  QTest::mouseClick(&widget, Qt::LeftButton, {}, {widget.width() / 2, widget.height() * 3 / 4});
+}
+
+void Hand::TurnToTab(const QString& window, int tab) const {
+  auto* tabs = Window(window).findChild<QTabBar*>();
+  if (tabs == nullptr) Fail(window + " has no tabs.");
+  QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(tab).center());
+}
+
+void Hand::Close(const QString& window) const {
+  Window(window).close();
+  QApplication::processEvents();
+}
+
+QString Hand::Shown(const QString& window, const QString& control) const {
+  QWidget& widget = Control(window, control);
+  if (auto* line = qobject_cast<QLineEdit*>(&widget)) return line->text();
+  if (auto* drop_down = qobject_cast<QComboBox*>(&widget)) return drop_down->currentText();
+  if (auto* memo = qobject_cast<QPlainTextEdit*>(&widget)) return memo->toPlainText();
+  if (auto* button = qobject_cast<QAbstractButton*>(&widget)) return button->text();
+  if (auto* label = qobject_cast<QLabel*>(&widget)) return label->text();
+  Fail(control + " shows no text.");
+}
+
+void Hand::Picture(const QString& window, const QString& file) const {
+  QApplication::processEvents();
+  if (QWidget* shown = Visible(window)) shown->grab().save(folder_ + "/" + file + ".png");
+}
+
+}  // namespace corvalis::desktop
