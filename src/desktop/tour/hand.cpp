@@ -42,6 +42,12 @@ void ClickEntry(QAbstractItemView& view, const QString& text) {
 QWidget& Hand::Window(const QString& name) const {
   QWidget* window = Visible(name);
   if (window == nullptr) Fail("The window " + name + " is not on the screen.");
+  // Without a window manager the keyboard comes back to a window only once it is asked to.
+  const auto active = [window] {
+    if (!window->isActiveWindow()) window->activateWindow();
+    return window->isActiveWindow();
+  };
+  if (!QTest::qWaitFor(active)) Fail(name + " does not get the keyboard.");
   return *window;
 }
 
