@@ -22,21 +22,30 @@ void PrintTo(const Text& text, std::ostream* out) {
   *out << "[" << text.section << "] " << text.key << "=" << text.value;
 }
 
-/// Every text by its getter, in the order of loading.
-std::vector<Text> Got(const LanguageData& texts) {
-  return {
-#define CORVALIS_TEXT(section, key, getter, preset) {section, key, texts.getter()},
+struct Entry {
+  const char* section;
+  const char* key;
+  const char* preset;
+  const std::string& (LanguageData::*getter)() const;
+};
+
+constexpr Entry kEntries[] = {
+#define CORVALIS_TEXT(section, key, getter, preset) {section, key, preset, &LanguageData::getter},
 #include "config/language_texts.inc"
 #undef CORVALIS_TEXT
-  };
+};
+
+/// Every text by its getter, in the order of loading.
+std::vector<Text> Got(const LanguageData& texts) {
+  std::vector<Text> got;
+  for (const Entry& e : kEntries) got.push_back({e.section, e.key, (texts.*e.getter)()});
+  return got;
 }
 
 std::vector<Text> Defaults() {
-  return {
-#define CORVALIS_TEXT(section, key, getter, preset) {section, key, preset},
-#include "config/language_texts.inc"
-#undef CORVALIS_TEXT
-  };
+  std::vector<Text> defaults;
+  for (const Entry& e : kEntries) defaults.push_back({e.section, e.key, e.preset});
+  return defaults;
 }
 
 /// The keys of a file with CR LF that holds nothing but sections and keys.
