@@ -81,7 +81,7 @@ TEST_F(MainFormTest, StartByKindOfLink) {
 }
 
 TEST_F(MainFormTest, ScreensThatAreNotThereCantBeOpened) {
-  Run("[RDS Setup]\nEON Enable=On\n");
+  Run("[RDS Setup]\nGroups Enable=On\nEON Enable=On\n");
   for (const Button* button : {&form->RS232CButton, &form->ConnectionButton, &form->TaPtyMsButton,
                                &form->PsnRtPinAfButton, &form->EonLiButton, &form->TdcIhButton}) {
     EXPECT_FALSE(button->Enabled()) << button->Name();
