@@ -61,8 +61,7 @@ extern template std::optional<std::int32_t> ParseDecimal(std::string_view text);
 [[nodiscard]] std::string SignedHours(int half_hours);
 
 /// The share of `part` in `whole` as a whole percentage, halves rounded away from zero: the format
-/// "0 %".
-/// "0 %" for a whole of 0.
+/// "0 %". "0 %" for a whole of 0.
 [[nodiscard]] std::string Percent(int part, int whole);
 
 /// The decimal number that the whole text is, with or without a sign, a "." and decimals; nullopt

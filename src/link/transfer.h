@@ -12,14 +12,11 @@ namespace corvalis {
 /// disabling `screen` to giving it the focus again. A failure has been reported when they return,
 /// and stands in `LinkError`.
 
-/// True if something may be sent now. Otherwise, on a one-way link to a Coder that has not been
-/// addressed, the operator has been warned.
-[[nodiscard]] bool AddressRuleAllows();
-
 /// Reads from the Coder and shows what came.
 void RunRead(Window& screen, const std::function<void()>& work);
 
-/// Sends to the Coder where `AddressRuleAllows`; else nothing is sent.
+/// Sends to the Coder. On a one-way link to a Coder that has not been addressed the operator is
+/// warned, and nothing is sent.
 void RunSend(Window& screen, const std::function<void()>& work);
 
 /// Sends `passes` times, under the rule of `RunSend`. Ends at the first pass that leaves an error.
@@ -33,6 +30,11 @@ void RunLive(Window& screen, const std::function<void()>& pass);
 /// does `item` for 0 to `count` - 1 with events handled after each, and ends at the first that
 /// leaves an error.
 void RunItems(int count, const std::function<void(int)>& item);
+
+/// The address rule, for a road that asks it at a moment of its own: true if something may be sent
+/// now. On a one-way link to a Coder that has not been addressed it warns the operator and is
+/// false.
+[[nodiscard]] bool AddressRuleAllows();
 
 /// The buttons of one kind of item. Reads are for a two-way link, bursts for a one-way one, sends
 /// for both; none of them is shown for an item that the Coder model does not offer.

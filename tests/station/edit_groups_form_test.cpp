@@ -19,6 +19,7 @@ const Bytes kPointerTooBig{0x15, 0x02, 0x00, 0x02, 0x03, 0x03};
 
 Bytes EnableFrame(int group, const std::string& body) {
   Bytes frame{0x02, kEnableCode, static_cast<std::uint8_t>(group)};
+  frame.reserve(9);
   for (const char c : body) frame.push_back(static_cast<std::uint8_t>(c));
   frame.push_back(0x03);
   std::uint8_t sum = 0;
@@ -68,8 +69,8 @@ class EditGroupsTest : public LinkTest {
     return sent;
   }
   static std::vector<int> FirstGroups(int count, int passes = 1) {
-    std::vector<int> all;
-    for (int i = 0; i < count * passes; ++i) all.push_back(i % count);
+    std::vector<int> all(static_cast<std::size_t>(count * passes));
+    for (int i = 0; int& group : all) group = i++ % count;
     return all;
   }
 
