@@ -14,7 +14,12 @@
 namespace corvalis::test {
 namespace {
 
-using namespace std::chrono;
+using namespace std::chrono_literals;
+using std::chrono::December;
+using std::chrono::February;
+using std::chrono::local_days;
+using std::chrono::March;
+using std::chrono::November;
 
 constexpr std::uint8_t kCt = 0x10;
 constexpr auto kToday = 2026y / November / 15;  // a Sunday
@@ -38,7 +43,10 @@ class CtTabTest : public LinkTest {
   void SetItem(const std::string& body) const {
     ASSERT_TRUE(the_coder->SetItem(kCt, 0, Bytes(body.begin(), body.end())));
   }
-  static DateTime At(year_month_day date, hours h, minutes m) { return local_days{date} + h + m; }
+  static DateTime At(std::chrono::year_month_day date, std::chrono::hours h,
+                     std::chrono::minutes m) {
+    return local_days{date} + h + m;
+  }
   void Leave() const { form->window.MoveFocus(&Tab().Command2); }
 
   Window main_menu{this, "MainForm"};
@@ -94,7 +102,7 @@ TEST_F(CtTabTest, HourAndMinuteWrapAndDoNotCarry) {
   struct Case {
     int hours, minutes;
     const char* shown;
-    seconds time;
+    std::chrono::seconds time;
   };
   const Case cases[] = {{0, -5, "09:00", 9h},
                         {0, -1, "09:59", 9h + 59min},
