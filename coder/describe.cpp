@@ -147,8 +147,8 @@ std::string Dump(const Coder& coder) {
       if (!body) continue;
       const std::string text = Printable(*body);
       all += std::string(command.name) + " " + Hex2(static_cast<unsigned>(index)) + ": " +
-             HexText(*body) + "  \"" + text + "\"" +
-             InBrackets(Meaning(command.code, index, text)) + "\n";
+             HexText(*body) + InBrackets(Meaning(command.code, index, text)) + "  \"" + text +
+             "\"\n";
     }
   }
   return all;

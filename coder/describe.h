@@ -15,11 +15,12 @@ namespace corvalis::coder {
 [[nodiscard]] std::string Describe(const Event& event);
 
 /// The memory in words, one line with a line end for each item: name, index in two hexadecimal
-/// digits, bytes of the body, the body as a text in which what is not printable is a dot, and what
-/// it says if it does not speak for itself:
+/// digits, bytes of the body, what they say unless they speak for themselves, and the body as a
+/// text in which what is not printable is a dot:
 ///
-///     PI 00: 35 32 30 31  "5201" (country 5, coverage 2, programme 01)
-///     Enable 13: 30 31 30 35  "0105" (group 3B on, repetitions 5)
+///     PI 00: 35 32 30 31 (country 5, coverage 2, programme 01)  "5201"
+///     Enable 13: 30 31 30 35 (group 3B on, repetitions 5)  "0105"
+///     ECC 00: 45 30  "E0"
 [[nodiscard]] std::string Dump(const Coder& coder);
 
 /// Bytes as two upper-case hexadecimal digits each, blanks between.

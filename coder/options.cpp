@@ -96,7 +96,7 @@ const std::array kOptions = {
         "--replug-after", "MS", kMilliseconds, "bring a new line MS milliseconds after that",
         [](Options& o, std::string_view v) { return ParseNumber(v, 0, kMost, o.replug_after_ms); }},
     Option{"--modem", "CALLS", "answer, busy, refuse or silent",
-           "sit behind an AT modem whose calls end like this",
+           "sit behind an AT modem: answer, busy, refuse or silent",
            [](Options& o, std::string_view v) { return ParseCalls(v, o.modem); }},
     Option{"--dial-ms", "MS", kMilliseconds, "dial for MS milliseconds (1000 if not given)",
            [](Options& o, std::string_view v) { return ParseNumber(v, 0, kMost, o.dial_ms); }},
@@ -142,14 +142,16 @@ std::string HelpText() {
          "\nThe first line printed is \"ready\" and the terminal's path, also after each new "
          "plugging;\n\"unplugged\" stands for its removal. The memory is printed between the lines "
          "\"memory\"\nand \"end of memory\": the Coder ID and each item's name, index in two "
-         "hexadecimal digits,\nbytes of the body in hexadecimal, the body as a text, and\nwhat it "
-         "says:\n\n"
+         "hexadecimal digits,\nbytes of the body in hexadecimal, what they say, and the body as a "
+         "text:\n\n"
          "  ID \"?????\" addressed\n"
-         "  PI 00: 35 32 30 31  \"5201\" (country 5, coverage 2, programme 01)\n\n"
-         "A modem takes AT commands and dials; \"silent\" is one without power. It is set up with "
-         "a\n"
-         "guard time of 0: \"+++\" needs no silence before it. The call stays up when the port is\n"
-         "closed.\n\n"
+         "  PI 00: 35 32 30 31 (country 5, coverage 2, programme 01)  \"5201\"\n\n"
+         "Behind a modem the Coder has to be dialled (ATDT, ATDP). A call is answered, finds the "
+         "number\nbusy or is refused; a silent modem has no power and says nothing to anything. "
+         "The "
+         "modem is\nset up with a guard time of 0: \"+++\" needs no silence before it. The call "
+         "stays "
+         "up when the\nport is closed.\n\n"
          "A pseudo-terminal knows speed and stop bits and has no parity.\n";
 }
 

@@ -50,10 +50,10 @@ TEST(Describe, DumpsEachItemInALine) {
   ASSERT_TRUE(coder.SetItem(0x11, 130, Text("1A1\2\3\x80 ~Z")));
   const std::string dump = Dump(coder);
   EXPECT_TRUE(
-      dump.starts_with("PI 00: 35 32 30 31  \"5201\" (country 5, coverage 2, programme 01)\n"
-                       "TP 00: 30  \"0\" (off)\n"))
+      dump.starts_with("PI 00: 35 32 30 31 (country 5, coverage 2, programme 01)  \"5201\"\n"
+                       "TP 00: 30 (off)  \"0\"\n"))
       << dump;
-  EXPECT_NE(dump.find("\nTDC 82: 31 41 31 02 03 80 20 7E 5A  \"1A1... ~Z\" (on)\n"),
+  EXPECT_NE(dump.find("\nTDC 82: 31 41 31 02 03 80 20 7E 5A (on)  \"1A1... ~Z\"\n"),
             std::string::npos);
 }
 

@@ -42,7 +42,7 @@ TEST(CoderProgram, IsAddressedWrittenReadAndDumped) {
   EXPECT_EQ(coder.End(), 0);
   EXPECT_EQ(coder.NextLine("ID "), "ID \"?????\" addressed");
   EXPECT_EQ(coder.NextLine("Enable 1F"),
-            "Enable 1F: 30 31 36 33  \"0163\" (group 15B on, repetitions 99)");
+            "Enable 1F: 30 31 36 33 (group 15B on, repetitions 99)  \"0163\"");
 }
 
 TEST(CoderProgram, UnderstandsItsOwnSpeedAndStopBitsOnly) {

@@ -55,7 +55,7 @@ std::string RunningCoder::NextLine(const std::string& beginning) {
   for (;;) {
     const std::size_t end = held_.find('\n');
     if (end != std::string::npos) {
-      const std::string line = held_.substr(0, end);
+      std::string line = held_.substr(0, end);
       held_.erase(0, end + 1);
       if (line.starts_with("ready ")) path_ = line.substr(std::string("ready ").size());
       if (line.starts_with(beginning)) return line;
