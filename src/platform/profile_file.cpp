@@ -31,7 +31,7 @@ std::string FollowLinks(std::string path) {
     const ssize_t size = ::readlink(path.c_str(), link.data(), link.size());
     if (size <= 0) break;
     const std::string to(link.data(), static_cast<std::size_t>(size));
-    path = to.front() == '/' ? to : FolderOf(path) + to;
+    path = to.front() == '/' ? to : FolderOf(path).append(to);
   }
   return path;
 }

@@ -1,66 +1,27 @@
 // The profile store, against observed behaviour of the calls that the file format comes from, and
-// against what can befall a file: other programs, full disks, and death in the middle of a save.
-
-#include "platform/profile_store.h"
+// against what can befall a file: other programs, links, full disks.
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <signal.h>
-#include <stdlib.h>
-#include <sys/ptrace.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <functional>
-#include <iterator>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <random>
+#include <sstream>
 #include <string>
 #include <vector>
 
 #include "platform/profile_document.h"
+#include "platform/profile_store_fixture.h"
 
 namespace corvalis::test {
 namespace {
-
-namespace fs = std::filesystem;
-
-std::string Contents(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-void Put(const fs::path& file, const std::string& text) {
-  std::ofstream(file, std::ios::binary) << text;
-}
-
-class ProfileStoreTest : public testing::Test {
- protected:
-  ProfileStoreTest() {
-    std::string name = (fs::temp_directory_path() / "corvalis-store-XXXXXX").string();
-    if (::mkdtemp(name.data()) != nullptr) folder = name;
-    file = folder / "station.rds";
-  }
-  ~ProfileStoreTest() override { fs::remove_all(folder); }
-
-  /// The names of all files beside the profile, hidden ones too.
-  [[nodiscard]] std::vector<std::string> Litter() const {
-    std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder)) {
-      if (entry.path() != file) names.push_back(entry.path().filename());
-    }
-    return names;
-  }
-
-  fs::path folder;
-  fs::path file;
-  ProfileStore store;
-};
 
 // --- What is read and written ---
 
@@ -254,7 +215,7 @@ TEST_F(ProfileStoreTest, SeesWhatOtherProgramsDo) {
   for (const bool in_series : {false, true}) {
     std::optional<ProfileStore::Series> series;
     if (in_series) series.emplace(store);
-    for (int i = 0; i < 50; ++i) {
+    for (int i = 0; i < 15; ++i) {
       const std::string value(1, static_cast<char>('a' + i % 20));
       Put(file, "[A]\nX=" + value + "\n[B]\nY=1\n");
       EXPECT_EQ(store.Read(file, "A", "X"), value);
@@ -334,117 +295,6 @@ TEST_F(ProfileStoreTest, AFullDiskLosesNothing) {
     EXPECT_TRUE(Litter().empty());
   }
 }
-
-// --- Death in the middle ---
-
-constexpr int kKeys = 24;
-
-std::string Key(int i) { return "Key" + std::to_string(i); }
-
-/// Saves over a file with values of other lengths, so that every kind of change happens.
-std::string Value(int i) { return std::string(static_cast<std::size_t>(3 + i * 7 % 11), 'n'); }
-
-/// What the file may hold: after 0, 1, 2 ... keys.
-std::vector<std::string> Versions(const std::string& start) {
-  ProfileDocument document;
-  document.Parse(start);
-  std::vector<std::string> versions{start};
-  for (int i = 0; i < kKeys; ++i) {
-    document.Set("A", Key(i), Value(i));
-    versions.push_back(document.Text());
-  }
-  return versions;
-}
-
-const std::string kStart =
-    "; station\r\n[A]\r\nKey1=old\r\nKey3=nnn\r\n\r\n[B]\r\nKey0=" + std::string(9000, 'b') +
-    "\r\n";
-
-void SaveKeys(ProfileStore& store, const std::string& file, bool in_series,
-              const std::function<void()>& progress) {
-  std::optional<ProfileStore::Series> series;
-  if (in_series) series.emplace(store);
-  for (int i = 0; i < kKeys; ++i) {
-    store.Write(file, "A", Key(i), Value(i));
-    progress();
-  }
-}
-
-class KilledSaveTest : public ProfileStoreTest, public testing::WithParamInterface<bool> {
- protected:
-  /// The number of keys in the file; fails the test if it's no complete version.
-  int Check() {
-    const auto found = std::find(versions.begin(), versions.end(), Contents(file));
-    EXPECT_NE(found, versions.end()) << Contents(file).substr(0, 500);
-    // The next program reads it, saves, and clears up.
-    ProfileStore next;
-    {
-      const ProfileStore::Series series(next);
-      EXPECT_TRUE(next.Write(file, "A", "After", "1"));
-    }
-    EXPECT_EQ(next.Read(file, "A", "After"), "1");
-    EXPECT_TRUE(Litter().empty());
-    return static_cast<int>(found - versions.begin());
-  }
-
-  const std::vector<std::string> versions = Versions(kStart);
-};
-
-TEST_P(KilledSaveTest, AfterAnyNumberOfKeys) {
-  for (int kill_after = 0; kill_after < kKeys; ++kill_after) {
-    Put(file, kStart);
-    int progress[2];
-    ASSERT_EQ(::pipe(progress), 0);
-    const pid_t child = ::fork();
-    if (child == 0) {
-      SaveKeys(store, file, GetParam(), [&] {
-        if (::write(progress[1], "k", 1) != 1) ::_exit(1);
-      });
-      ::_exit(0);
-    }
-    ::close(progress[1]);
-    char byte = 0;
-    for (int i = 0; i < kill_after; ++i) ASSERT_EQ(::read(progress[0], &byte, 1), 1);
-    ::kill(child, SIGKILL);
-    ::waitpid(child, nullptr, 0);
-    ::close(progress[0]);
-    EXPECT_GE(Check(), kill_after);
-  }
-}
-
-// Stops the saving process at each of its calls to the system in turn and kills it there.
-TEST_P(KilledSaveTest, AtAnyCallToTheSystem) {
-  bool ended = false;
-  int most_keys = 0;
-  for (int kill_at = 1; !ended; ++kill_at) {
-    Put(file, kStart);
-    const pid_t child = ::fork();
-    if (child == 0) {
-      if (::ptrace(PTRACE_TRACEME, 0, nullptr, nullptr) != 0) ::_exit(1);
-      ::raise(SIGSTOP);
-      SaveKeys(store, file, GetParam(), [] {});
-      ::_exit(0);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    if (WIFEXITED(status)) GTEST_SKIP() << "this machine lets no process be traced";
-    for (int stop = 0; stop < kill_at && !ended; ++stop) {
-      ::ptrace(PTRACE_SYSCALL, child, nullptr, nullptr);
-      ::waitpid(child, &status, 0);
-      ended = !WIFSTOPPED(status);
-    }
-    if (!ended) {
-      ::kill(child, SIGKILL);
-      ::waitpid(child, nullptr, 0);
-    }
-    const int keys = Check();
-    EXPECT_GE(keys, most_keys) << "a key was lost again";
-    most_keys = std::max(keys, most_keys);
-  }
-  EXPECT_EQ(most_keys, kKeys);
-}
-
-INSTANTIATE_TEST_SUITE_P(Saves, KilledSaveTest, testing::Bool());
 
 }  // namespace
 }  // namespace corvalis::test
