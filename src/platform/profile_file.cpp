@@ -31,7 +31,7 @@ std::string FollowLinks(std::string path) {
     const ssize_t size = ::readlink(path.c_str(), link.data(), link.size());
     if (size <= 0) break;
     const std::string to(link.data(), static_cast<std::size_t>(size));
-    path = to.front() == '/' ? to : FolderOf(path) + to;
+    path = to.front() == '/' ? to : FolderOf(path).append(to);
   }
   return path;
 }
@@ -121,9 +121,7 @@ bool ProfileFile::Write(std::string_view section, std::string_view key, std::str
   if (edit.Empty()) return true;
   // Until the key is in the file, the document is ahead of it.
   loaded_ = false;
-  loaded_ = Save(edit, in_series);
-  if (loaded_ && !in_series) lock.SeeToDisk();
-  return loaded_;
+  return loaded_ = Save(edit, in_series);
 }
 
 void ProfileFile::EndSeries() {
@@ -202,7 +200,7 @@ bool ProfileFile::Save(const Range& edit, bool in_series) {
   has_spare_ = false;
   Stamp stamp;
   bool settled = false;
-  put = Finish(file, put && !in_series, stamp, settled) && put;
+  put = Finish(file, stamp, settled) && put;
   if (!put || !ChangePlaces(exchange, has_spare_)) {
     ::unlink(spare.c_str());
     return false;
@@ -255,16 +253,15 @@ bool ProfileFile::Put(int file, const Range& range) const {
 
 /// Closes the file and tells its stamp. The file gets a time finer than the tick of the file
 /// system's clock, so that a change by another program within the same tick shows.
-bool ProfileFile::Finish(int file, bool to_disk, Stamp& stamp, bool& settled) const {
+bool ProfileFile::Finish(int file, Stamp& stamp, bool& settled) {
   timespec now{};
   ::clock_gettime(CLOCK_REALTIME, &now);
   const std::array<timespec, 2> times{timespec{0, UTIME_OMIT}, now};
   ::futimens(file, times.data());
   struct stat status {};
-  bool good = ::fstat(file, &status) == 0;
+  const bool good = ::fstat(file, &status) == 0;
   stamp = Stamp(status);
   settled = stamp.seconds == now.tv_sec && stamp.nanoseconds == now.tv_nsec;
-  if (to_disk) good = ::fsync(file) == 0 && good;
   return ::close(file) == 0 && good;
 }
 

@@ -22,7 +22,6 @@ class ProfileFile {
                                                      std::string_view key);
 
   /// Writes one key as one whole operation. False, with the file as it was, if that can't be done.
-  /// Outside a series the key is on the disk when this returns; inside, `EndSeries` sees to it.
   bool Write(std::string_view section, std::string_view key, std::string_view value,
              bool in_series);
 
@@ -53,7 +52,7 @@ class ProfileFile {
   [[nodiscard]] int OpenSpare() const;
   [[nodiscard]] int CreateSpare() const;
   bool Put(int file, const ProfileDocument::Range& range) const;
-  bool Finish(int file, bool to_disk, Stamp& stamp, bool& settled) const;
+  static bool Finish(int file, Stamp& stamp, bool& settled);
   bool ChangePlaces(bool exchange, bool& spare_remains) const;
 
   std::string path_;

@@ -16,7 +16,8 @@ namespace corvalis {
 ///
 /// No file is held open between calls. Each written key is one whole operation: whenever the
 /// process is killed, the file is the old one or the one with the key, complete. A symbolic link
-/// stays a link, and the file keeps its mode.
+/// stays a link, and the file keeps its mode. What other programs do to a file between two calls
+/// is seen.
 class ProfileStore {
  public:
   /// The size of the buffer that every reader of the program gives.
@@ -34,9 +35,9 @@ class ProfileStore {
 
   /// Writes one key, creating the file and the section where they are missing. A new key goes to
   /// the end of its section, before the blank lines that close it; a new section to the end of the
-  /// file. Returns false, with the file as it was, if the disk is full or the folder or the file
-  /// can't be written. Line ends inside `value` would break the file, so the value ends at the
-  /// first of them.
+  /// file. Line ends inside `value` would break the file, so the value ends at the first of them.
+  /// Returns false, with the file as it was, if the disk is full, if the folder or the file can't
+  /// be written, or if no line could hold such names (`ProfileDocument::CanHold`).
   bool Write(const std::string& path, std::string_view section, std::string_view key,
              std::string_view value);
 

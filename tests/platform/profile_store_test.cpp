@@ -1,0 +1,300 @@
+// The profile store, against observed behaviour of the calls that the file format comes from, and
+// against what can befall a file: other programs, links, full disks.
+
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <functional>
+#include <nlohmann/json.hpp>
+#include <optional>
+#include <random>
+#include <sstream>
+#include <string>
+#include <vector>
+
+#include "platform/profile_document.h"
+#include "platform/profile_store_fixture.h"
+
+namespace corvalis::test {
+namespace {
+
+// --- What is read and written ---
+
+std::string Bytes(const nlohmann::json& text) {
+  std::string bytes;
+  const auto utf8 = text.get<std::string>();
+  for (std::size_t i = 0; i < utf8.size(); ++i) {
+    const auto lead = static_cast<unsigned char>(utf8[i]);
+    // The cases hold no character above 255: two bytes of UTF-8 at most.
+    bytes += lead < 0x80 ? utf8[i] : static_cast<char>((lead << 6) | (utf8[++i] & 0x3F));
+  }
+  return bytes;
+}
+
+std::vector<std::string> LinesNotBlank(const std::string& text) {
+  std::vector<std::string> lines;
+  std::istringstream stream(text);
+  for (std::string line; std::getline(stream, line);) {
+    if (line.ends_with('\r')) line.pop_back();
+    if (!line.empty()) lines.push_back(line);
+  }
+  return lines;
+}
+
+TEST_F(ProfileStoreTest, ReadsAndWritesAsObserved) {
+  std::ifstream stream(fs::path(CORVALIS_TEST_DATA) / "profile-store-cases.json");
+  const auto cases = nlohmann::json::parse(stream);
+  ASSERT_FALSE(cases.empty());
+  for (const bool in_series : {false, true}) {
+    for (const auto& c : cases) {
+      SCOPED_TRACE(c.at("case").get<std::string>());
+      fs::remove(file);
+      if (!c.at("file").is_null()) Put(file, Bytes(c.at("file")));
+      std::optional<ProfileStore::Series> series;
+      if (in_series) series.emplace(store);
+      for (const auto& step : c.at("steps")) {
+        if (step.contains("read")) {
+          const auto& names = step.at("read");
+          EXPECT_EQ(store.Read(file, Bytes(names[0]), Bytes(names[1]), step.at("size")),
+                    Bytes(step.at("gives")));
+        } else {
+          const auto& key = step.at("write");
+          EXPECT_TRUE(store.Write(file, Bytes(key[0]), Bytes(key[1]), Bytes(key[2])));
+        }
+      }
+      series.reset();
+      if (c.contains("lines_after")) {
+        std::vector<std::string> lines;
+        for (const auto& line : c.at("lines_after")) lines.push_back(Bytes(line));
+        EXPECT_EQ(LinesNotBlank(Contents(file)), lines);
+      }
+      EXPECT_TRUE(Litter().empty());
+    }
+  }
+}
+
+TEST_F(ProfileStoreTest, KeepsEveryByteItDoesNotWrite) {
+  struct {
+    const char* rule;
+    std::string before;
+    const char *section, *key, *value;
+    std::string after;
+  } const cases[] = {
+      {"a new file has CR LF", "", "A", "X", "1", "[A]\r\nX=1\r\n"},
+      {"line feeds stay alone", "[A]\nX=1\n", "A", "Y", "2", "[A]\nX=1\nY=2\n"},
+      {"mixed: as the line before", "[A]\r\nX=1\n\n[B]\r\n", "A", "Y", "2",
+       "[A]\r\nX=1\nY=2\n\n[B]\r\n"},
+      {"mixed: a changed line keeps its end", "[A]\nX=1\r\nY=2\n", "A", "X", "9",
+       "[A]\nX=9\r\nY=2\n"},
+      {"no last line end, new key", "[A]\nX=1", "A", "Y", "2", "[A]\nX=1\nY=2\n"},
+      {"no last line end, new section", "[A]\nX=1", "B", "Y", "2", "[A]\nX=1\n[B]\nY=2\n"},
+      {"no last line end, changed value", "[A]\nX=", "A", "X", "22", "[A]\nX=22"},
+      {"before the blank lines", "[A]\r\nX=1\r\n\r\n \t\r\n[B]\r\n", "A", "Y", "2",
+       "[A]\r\nX=1\r\nY=2\r\n\r\n \t\r\n[B]\r\n"},
+      {"into an empty section", "[A]\r\n[B]\r\nX=1\r\n", "A", "X", "2",
+       "[A]\r\nX=2\r\n[B]\r\nX=1\r\n"},
+      {"the first of equal sections", "[A]\n[B]\n[a]\nX=1\n", "A", "X", "2",
+       "[A]\nX=2\n[B]\n[a]\nX=1\n"},
+      {"names keep their case and blanks", " [ a ] n\n x = 1 \n", "A", "X", "2",
+       " [ a ] n\n x =2\n"},
+      {"a comment is no key", "[A]\n;X=1\n", "A", "X", "2", "[A]\n;X=1\nX=2\n"},
+      {"lines before the first section", "X=1\n[A]\n", "A", "X", "2", "X=1\n[A]\nX=2\n"},
+      {"a byte order mark", "\xEF\xBB\xBF[A]\nX=1\n", "A", "X", "2", "\xEF\xBB\xBF[A]\nX=2\n"},
+      {"a value ends at its first line end", "[A]\nX=1\n", "A", "X", "2\r\n[B]", "[A]\nX=2\n"},
+      {"the value that is there", "[A]\nX=1\n\n", "A", "X", " 1", "[A]\nX=1\n\n"},
+      {"zero bytes", std::string("[A]\nX=\0\nY=1\n\0", 14), "A", "Y", "2",
+       std::string("[A]\nX=\0\nY=2\n\0", 14)},
+  };
+  for (const auto& c : cases) {
+    Put(file, c.before);
+    EXPECT_TRUE(store.Write(file, c.section, c.key, c.value)) << c.rule;
+    EXPECT_EQ(Contents(file), c.after) << c.rule;
+  }
+}
+
+TEST_F(ProfileStoreTest, RefusesNamesThatNoLineCanHold) {
+  Put(file, "[A]\nX=1\n");
+  const std::pair<const char*, const char*> cases[] = {
+      {"A]", "X"}, {"A\n", "X"}, {"A", "X=Y"}, {"A", "X\rY"}, {"A", " "}, {"A", ";X"}, {"A", "[X"}};
+  for (const auto& [section, key] : cases) {
+    EXPECT_FALSE(store.Write(file, section, key, "1")) << section << ' ' << key;
+  }
+  EXPECT_EQ(Contents(file), "[A]\nX=1\n");
+}
+
+TEST_F(ProfileStoreTest, KeepsHostileContent) {
+  std::mt19937 random(1);
+  std::string junk(300000, '\0');
+  for (char& c : junk) c = "\0\xFF\r\n[]=; \tAx"[random() % 13];
+  for (const std::string& head :
+       {junk, std::string(10'000'000, '='), "[" + std::string(10'000'000, 'x')}) {
+    Put(file, head);
+    EXPECT_TRUE(store.Write(file, "New Section", "Key", "1"));
+    EXPECT_EQ(store.Read(file, "new section", "KEY"), "1");
+    EXPECT_TRUE(Contents(file).starts_with(head));
+  }
+}
+
+// Random edits: the index that moves along is the one that a fresh reading makes, and the range
+// said to have changed is all that changed.
+TEST(ProfileDocumentTest, MovesItsIndexAlong) {
+  std::mt19937 random(2);
+  const std::vector<std::string> starts{"", "[A]\nB=1", "[A]\r\nB=\r\n\r\n[B]\nA=1\n\n\n[A]\nC=3\n",
+                                        "; c\n[C]", "junk\n\n"};
+  const auto name = [&] { return std::string(1, "ABCDEabcde"[random() % 10]); };
+  for (int round = 0; round < 300; ++round) {
+    ProfileDocument document;
+    document.Parse(starts[random() % starts.size()]);
+    for (int edit = 0; edit < 30; ++edit) {
+      const std::string before = document.Text();
+      const auto range = document.Set(name(), name(), std::string(random() % 4, 'v'));
+      const std::string& after = document.Text();
+      ASSERT_EQ(after.substr(0, range.from), before.substr(0, range.from));
+      if (range.to != ProfileDocument::Range::kEnd) {
+        ASSERT_EQ(after.substr(range.to), before.substr(range.to));
+      }
+      ProfileDocument fresh;
+      fresh.Parse(after);
+      for (const char section : std::string("ABCDE")) {
+        for (const char key : std::string("ABCDE")) {
+          ASSERT_EQ(document.Value({&section, 1}, {&key, 1}), fresh.Value({&section, 1}, {&key, 1}))
+              << after;
+        }
+      }
+      // The next key of each section goes to the same place, too.
+      ProfileDocument moved = document;
+      const std::string section = name();
+      moved.Set(section, "New", "1");
+      fresh.Set(section, "New", "1");
+      ASSERT_EQ(moved.Text(), fresh.Text());
+    }
+  }
+}
+
+// --- Files ---
+
+TEST_F(ProfileStoreTest, KeepsModeLinksAndOtherNames) {
+  for (const bool in_series : {false, true}) {
+    fs::remove_all(folder);
+    fs::create_directories(folder / "real");
+    const fs::path real = folder / "real" / "a.rds";
+    Put(real, "[A]\nX=1\n");
+    ASSERT_EQ(::chmod(real.c_str(), 0640), 0);
+    fs::create_hard_link(real, folder / "backup");
+    fs::create_symlink("real/a.rds", folder / "link");
+    fs::create_symlink(folder / "link", file);
+    {
+      std::optional<ProfileStore::Series> series;
+      if (in_series) series.emplace(store);
+      for (const char* value : {"2", "33", "4"}) EXPECT_TRUE(store.Write(file, "A", "X", value));
+    }
+    EXPECT_TRUE(fs::is_symlink(file) && fs::is_symlink(folder / "link"));
+    EXPECT_EQ(Contents(real), "[A]\nX=4\n");
+    EXPECT_EQ(Contents(folder / "backup"), "[A]\nX=1\n");
+    struct stat status {};
+    ASSERT_EQ(::stat(real.c_str(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777, 0640U);
+    EXPECT_EQ(std::distance(fs::directory_iterator(folder / "real"), {}), 1);
+  }
+}
+
+TEST_F(ProfileStoreTest, CreatesTheFileALinkPromises) {
+  fs::create_symlink("later.rds", file);
+  EXPECT_TRUE(store.Write(file, "A", "X", "1"));
+  EXPECT_TRUE(fs::is_symlink(file));
+  EXPECT_EQ(Contents(folder / "later.rds"), "[A]\r\nX=1\r\n");
+}
+
+// Same size, same file, and mostly the same tick of the file system's clock.
+TEST_F(ProfileStoreTest, SeesWhatOtherProgramsDo) {
+  for (const bool in_series : {false, true}) {
+    std::optional<ProfileStore::Series> series;
+    if (in_series) series.emplace(store);
+    for (int i = 0; i < 15; ++i) {
+      const std::string value(1, static_cast<char>('a' + i % 20));
+      Put(file, "[A]\nX=" + value + "\n[B]\nY=1\n");
+      EXPECT_EQ(store.Read(file, "A", "X"), value);
+      Put(file, "[A]\nX=?\n[B]\nY=1\n");
+      EXPECT_EQ(store.Read(file, "A", "X"), "?");
+      Put(file, "[A]\nX=!\n[B]\nY=1\n");
+      EXPECT_TRUE(store.Write(file, "B", "Y", value));
+      EXPECT_TRUE(store.Write(file, "B", "Z", value));
+      EXPECT_EQ(Contents(file), "[A]\nX=!\n[B]\nY=" + value + "\nZ=" + value + "\n");
+    }
+    fs::remove(file);
+    EXPECT_EQ(store.Read(file, "A", "X"), "");
+  }
+}
+
+// Two programs save to one file in turn; neither loses the other's keys.
+TEST_F(ProfileStoreTest, TwoSeriesInTurn) {
+  ProfileStore other;
+  {
+    const ProfileStore::Series series(store);
+    const ProfileStore::Series other_series(other);
+    for (int i = 0; i < 40; ++i) {
+      const int who = i / 4 % 2;
+      EXPECT_TRUE((who ? other : store).Write(file, "A", "K" + std::to_string(i), "1"));
+    }
+  }
+  for (int i = 0; i < 40; ++i) EXPECT_EQ(store.Read(file, "A", "K" + std::to_string(i)), "1");
+  EXPECT_TRUE(Litter().empty());
+}
+
+// --- What goes wrong ---
+
+TEST_F(ProfileStoreTest, FailsInSilenceWhereItCannotWrite) {
+  Put(folder / "plain", "x");
+  fs::create_directory(folder / "folder");
+  ASSERT_EQ(::mkfifo((folder / "pipe").c_str(), 0666), 0);
+  fs::create_symlink("loop", folder / "loop");
+  const auto litter = Litter();
+  for (const char* name : {"missing/a.rds", "plain/a.rds", "folder", "pipe", "loop", ""}) {
+    const std::string path = *name != 0 ? (folder / name).string() : "";
+    const ProfileStore::Series series(store);
+    EXPECT_FALSE(store.Write(path, "A", "X", "1")) << name;
+    EXPECT_EQ(store.Read(path, "A", "X"), "") << name;
+  }
+  EXPECT_EQ(Litter(), litter);
+}
+
+/// Runs `work` in a child process and returns what it returns.
+int InChild(const std::function<int()>& work) {
+  const pid_t child = ::fork();
+  if (child == 0) ::_exit(work());
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+TEST_F(ProfileStoreTest, AFullDiskLosesNothing) {
+  for (const bool in_series : {false, true}) {
+    Put(file, "[A]\r\nX=1\r\n");
+    const auto save = [&] {
+      ::signal(SIGXFSZ, SIG_IGN);
+      const rlimit limit{1000, 1000};
+      if (::setrlimit(RLIMIT_FSIZE, &limit) != 0) return 1;
+      std::optional<ProfileStore::Series> series;
+      if (in_series) series.emplace(store);
+      int written = 0;
+      while (store.Write(file, "A", "K" + std::to_string(written), "123456789")) ++written;
+      if (store.Write(file, "A", "X", std::string(2000, 'x'))) return 2;
+      // What still has room goes in.
+      if (!store.Write(file, "A", "X", "2")) return 3;
+      return written > 50 ? 0 : 4;
+    };
+    EXPECT_EQ(InChild(save), 0);
+    const std::string text = Contents(file);
+    EXPECT_TRUE(text.starts_with("[A]\r\nX=2\r\nK0=123456789\r\n")) << text;
+    EXPECT_TRUE(text.ends_with("=123456789\r\n")) << text;
+    EXPECT_TRUE(Litter().empty());
+  }
+}
+
+}  // namespace
+}  // namespace corvalis::test
