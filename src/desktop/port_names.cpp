@@ -13,7 +13,7 @@ std::string DeviceOfPort(int number, const std::string& settings_folder,
   const std::string index = std::to_string(number - 1);
   fs::path name = fs::path(settings_folder) / ("com" + std::to_string(number));
   // A link that leads nowhere still says which device is meant.
-  if (!fs::exists(fs::symlink_status(name, error))) {
+  if (fs::symlink_status(name, error).type() == fs::file_type::not_found) {
     name = fs::path(device_folder) / ("ttyUSB" + index);
     if (!fs::exists(name, error)) name = fs::path(device_folder) / ("ttyS" + index);
   }

@@ -66,6 +66,7 @@ int NextNumber(std::string_view& rest) {
 }
 
 std::optional<LineSettings> ParseSettings(std::string_view text) {
+  if (text.ends_with(',')) return std::nullopt;
   LineSettings settings;
   settings.baud = NextNumber(text);
   const auto parity = ParityOf(NextField(text));
@@ -139,9 +140,13 @@ PortError QtSerialPort::SetSettings(const std::string& settings) {
 
 PortError QtSerialPort::ApplySettings() {
   const LineSettings settings = ParseSettings(settings_).value();
-  const bool applied = port_.setBaudRate(settings.baud) && port_.setDataBits(settings.data_bits) &&
-                       port_.setParity(settings.parity) && port_.setStopBits(settings.stop_bits);
-  return applied ? PortError{} : DeviceError(kInvalidValue, port_.errorString());
+  if (!port_.setBaudRate(settings.baud) || !port_.setDataBits(settings.data_bits) ||
+      !port_.setStopBits(settings.stop_bits)) {
+    return DeviceError(kInvalidValue, port_.errorString());
+  }
+  // Refused where there is no parity.
+  port_.setParity(settings.parity);
+  return PortOpen() ? PortError{} : NotOpen();
 }
 
 PortError QtSerialPort::SetInputLen(int length) {

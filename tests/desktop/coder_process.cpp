@@ -1,0 +1,64 @@
+#include "desktop/coder_process.h"
+
+#include <csignal>
+#include <stdexcept>
+
+namespace corvalis::test {
+
+namespace {
+
+constexpr int kPatience = 10'000;  // milliseconds
+const std::string kReady = "ready ";
+
+}  // namespace
+
+CoderProcess::CoderProcess(const QStringList& options) {
+  process_.setProcessChannelMode(QProcess::MergedChannels);
+  // Should a test die, its Coder goes too.
+  process_.start(CORVALIS_CODER_PROGRAM, options + QStringList{"--with-stdin"});
+  WaitForReady();
+}
+
+CoderProcess::~CoderProcess() {
+  process_.closeWriteChannel();
+  if (!process_.waitForFinished(kPatience)) Kill();
+}
+
+std::string CoderProcess::ReadLine() {
+  while (!process_.canReadLine()) {
+    if (!process_.waitForReadyRead(kPatience)) {
+      throw std::runtime_error("corvalis-coder: " + process_.errorString().toStdString() + ": " +
+                               process_.readAll().toStdString());
+    }
+  }
+  std::string line = process_.readLine().toStdString();
+  if (line.ends_with('\n')) line.pop_back();
+  return line;
+}
+
+std::string CoderProcess::WaitForLine(const std::string& start) {
+  std::string line;
+  do {
+    line = ReadLine();
+  } while (!line.starts_with(start));
+  return line;
+}
+
+void CoderProcess::WaitForReady() { path_ = WaitForLine(kReady).substr(kReady.size()); }
+
+std::vector<std::string> CoderProcess::Memory() {
+  kill(static_cast<pid_t>(process_.processId()), SIGUSR1);
+  WaitForLine("memory");
+  std::vector<std::string> lines;
+  for (std::string line = ReadLine(); line != "end of memory"; line = ReadLine()) {
+    lines.push_back(line);
+  }
+  return lines;
+}
+
+void CoderProcess::Kill() {
+  process_.kill();
+  process_.waitForFinished(kPatience);
+}
+
+}  // namespace corvalis::test

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QProcess>
+#include <QStringList>
+#include <string>
+#include <vector>
+
+namespace corvalis::test {
+
+/// The program `corvalis-coder`, running for as long as this lives. Every wait here is for what the
+/// program prints, and fails after ten seconds without it.
+class CoderProcess {
+ public:
+  /// Starts the program with these options (see `corvalis-coder --help`) and returns once its line
+  /// is there. Throws `std::runtime_error`, with what it printed, if it doesn't come up.
+  explicit CoderProcess(const QStringList& options);
+  ~CoderProcess();
+  CoderProcess(const CoderProcess&) = delete;
+  CoderProcess& operator=(const CoderProcess&) = delete;
+
+  /// The pseudo-terminal, "/dev/pts/4"; the newest one after `WaitForReady`.
+  [[nodiscard]] const std::string& Path() const { return path_; }
+
+  /// The next line printed that begins with `start`; the lines before it are passed over.
+  /// Throws `std::runtime_error` if it doesn't come.
+  std::string WaitForLine(const std::string& start);
+  /// Waits for the line that comes with a new plugging (`--replug-after`).
+  void WaitForReady();
+  /// What the Coder holds, a line for each item ("PI 00: 35 32 30 31  \"5201\""), the Coder ID
+  /// first. For a program started with `--dump`.
+  std::vector<std::string> Memory();
+  /// The program's end, the line's with it; an end like a cable being pulled.
+  void Kill();
+
+ private:
+  std::string ReadLine();
+
+  QProcess process_;
+  std::string path_;
+};
+
+}  // namespace corvalis::test

@@ -1,0 +1,66 @@
+// Message boxes as they stand on the screen.
+
+#include <gtest/gtest.h>
+
+#include <QApplication>
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTimer>
+#include <functional>
+#include <memory>
+
+#include "desktop/qt_dialogs.h"
+
+namespace corvalis::desktop {
+namespace {
+
+// Shows the box and does `work` with it while it is there.
+void Show(const Box& box, const std::function<void(QMessageBox&)>& work) {
+  QTimer::singleShot(0, qApp, [&] {
+    auto* shown = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(shown, nullptr);
+    work(*shown);
+  });
+  QtDialogs().Show(box);
+}
+
+TEST(DialogsTest, ABoxShowsItsTextAsItStands) {
+  const std::tuple<BoxStyle, QMessageBox::Icon> cases[] = {
+      {BoxStyle::kCritical, QMessageBox::Critical},
+      {BoxStyle::kWarning, QMessageBox::Warning},
+      {BoxStyle::kInformation, QMessageBox::Information}};
+  for (const auto& [style, icon] : cases) {
+    int seen = 0;
+    Show({"PI:   [ TX ] <b>&serial</b>  \x80   ", "Serial \xFC", style, "DEMO.HLP", 1000},
+         [&](QMessageBox& box) {
+           ++seen;
+           const auto* label = box.findChild<QLabel*>("qt_msgbox_label");
+           ASSERT_NE(label, nullptr);
+           EXPECT_EQ(label->text(), QStringLiteral(u"PI:   [ TX ] <b>&serial</b>  \u20AC   "));
+           EXPECT_EQ(label->textFormat(), Qt::PlainText);
+           EXPECT_EQ(box.windowTitle(), QStringLiteral(u"Serial \u00FC"));
+           EXPECT_EQ(box.icon(), icon);
+           ASSERT_EQ(box.buttons().size(), 1);
+           EXPECT_TRUE(box.buttons()[0]->isEnabled());
+           box.button(QMessageBox::Ok)->click();
+         });
+    EXPECT_EQ(seen, 1);
+  }
+}
+
+TEST(DialogsTest, ABoxGoesWithItsOwner) {
+  auto owner = std::make_unique<QWidget>();
+  owner->show();
+  QApplication::setActiveWindow(owner.get());
+  owner->setEnabled(false);  // as a screen is during a transfer
+  Show({"gone", "", BoxStyle::kWarning, "", 0}, [&](QMessageBox& box) {
+    EXPECT_EQ(box.parentWidget(), owner.get());
+    EXPECT_TRUE(box.button(QMessageBox::Ok)->isEnabled());
+    owner.reset();
+  });
+  EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
+}
+
+}  // namespace
+}  // namespace corvalis::desktop
