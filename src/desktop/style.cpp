@@ -58,6 +58,8 @@ void DrawTab(QPainter& painter, const QStyleOptionTab& tab) {
     line.setTop(line.bottom() - 2);
     const bool enabled = tab.state.testFlag(QStyle::State_Enabled);
     painter.fillRect(line, QColor(enabled ? colours::kAccent : colours::kBorder));
+    const bool focus = tab.state.testFlag(QStyle::State_HasFocus);
+    if (focus) DrawFocusRing(painter, tab.rect.adjusted(0, 0, 0, -kTight));
   }
 }
 
