@@ -3,10 +3,10 @@
 #include <QAbstractItemView>
 #include <QEvent>
 #include <QPainter>
-#include <QScopedValueRollback>
 #include <QSignalBlocker>
 #include <QTextCharFormat>
 #include <QToolButton>
+#include <utility>
 
 #include "desktop/binding.h"
 #include "desktop/style.h"
@@ -44,18 +44,42 @@ CalendarWidget::CalendarWidget(Calendar& calendar, QWidget* parent)
 }
 
 void CalendarWidget::DressParts() {
+  setContentsMargins(kTight, kTight, kTight, kTight);
   QTextCharFormat quiet;
   quiet.setForeground(QColor(colours::kQuietText));
+  quiet.setBackground(Qt::transparent);
   setHeaderTextFormat(quiet);
-  for (const auto day : {Qt::Saturday, Qt::Sunday}) {
-    QTextCharFormat plain;
-    plain.setForeground(QColor(colours::kText));
-    setWeekdayTextFormat(day, plain);
-  }
-  for (auto* button : findChildren<QToolButton*>()) button->setFocusPolicy(Qt::NoFocus);
+  for (const auto day : {Qt::Saturday, Qt::Sunday}) setWeekdayTextFormat(day, quiet);
+
   days_ = findChild<QAbstractItemView*>();
+  days_->setFrameShape(QFrame::NoFrame);
   days_->installEventFilter(this);
-  static_cast<QAbstractItemView*>(days_)->viewport()->installEventFilter(this);
+  days_->viewport()->installEventFilter(this);
+  // The cells draw the date chosen themselves.
+  QPalette palette = days_->palette();
+  palette.setColor(QPalette::Highlight, Qt::transparent);
+  days_->setPalette(palette);
+
+  for (auto* button : findChildren<QToolButton*>()) {
+    button->setFocusPolicy(Qt::NoFocus);
+    QPalette ink = button->palette();
+    for (const auto role : {QPalette::ButtonText, QPalette::HighlightedText}) {
+      ink.setColor(role, QColor(colours::kText));
+      ink.setColor(QPalette::Disabled, role, QColor(colours::kDisabledText));
+    }
+    button->setPalette(ink);
+    if (QWidget* bar = button->parentWidget()) bar->setBackgroundRole(QPalette::Base);
+  }
+  const std::pair<const char*, Qt::ArrowType> arrows[] = {
+      {"qt_calendar_prevmonth", Qt::LeftArrow}, {"qt_calendar_nextmonth", Qt::RightArrow}};
+  for (const auto& [name, arrow] : arrows) {
+    if (auto* button = findChild<QToolButton*>(QLatin1String(name))) button->setArrowType(arrow);
+  }
+}
+
+void CalendarWidget::paintEvent(QPaintEvent* /*event*/) {
+  QPainter painter(this);
+  DrawField(painter, rect(), {.enabled = isEnabled(), .focus = days_->hasFocus()});
 }
 
 void CalendarWidget::Draw() {
@@ -68,6 +92,7 @@ bool CalendarWidget::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::FocusIn:
     case QEvent::FocusOut:
       updateCells();
+      update();
       break;
     case QEvent::MouseButtonPress:
       // Without the focus the press is void: the control left has taken it back.

@@ -4,6 +4,8 @@
 
 #include "screen/calendar.h"
 
+class QAbstractItemView;
+
 namespace corvalis::desktop {
 
 /// The days of one month. The arrow keys move the date by days and weeks, the page keys by months;
@@ -15,6 +17,7 @@ class CalendarWidget : public QCalendarWidget {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  protected:
+  void paintEvent(QPaintEvent* event) override;
   void paintCell(QPainter* painter, const QRect& rect, QDate date) const override;
 
  private:
@@ -22,7 +25,7 @@ class CalendarWidget : public QCalendarWidget {
   void DressParts();
 
   Calendar& calendar_;
-  QWidget* days_ = nullptr;
+  QAbstractItemView* days_ = nullptr;
 };
 
 }  // namespace corvalis::desktop

@@ -27,11 +27,11 @@ ComboBoxWidget::ComboBoxWidget(ComboBox& combo, QWidget* parent)
 }
 
 void ComboBoxWidget::Draw() {
-  DropDownWidget::Draw();
+  const int caret = lineEdit()->cursorPosition();
   const QSignalBlocker silent(lineEdit());
+  DropDownWidget::Draw();  // clears the text where no entry is selected
   const QString text = FromBytes(combo_.Text());
   if (lineEdit()->text() == text) return;
-  const int caret = lineEdit()->cursorPosition();
   lineEdit()->setText(text);
   lineEdit()->setCursorPosition(combo_.Index() == ListBox::kNone ? caret : 0);
 }

@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "desktop/binding.h"
+#include "desktop/style.h"
 #include "desktop/text.h"
 #include "screen/keys.h"
 
@@ -54,6 +55,7 @@ std::string WithLineEnds(const QString& text) {
 
 MemoWidget::MemoWidget(TextBox& box, QWidget* parent) : QPlainTextEdit(parent), box_(box) {
   setTabChangesFocus(true);
+  document()->setDocumentMargin(kNear - kTight / 2);
   connect(this, &QPlainTextEdit::textChanged, this, [this] { TellEdit(); });
   connect(this, &QPlainTextEdit::selectionChanged, this, [this] { TellSelection(); });
   connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { TellSelection(); });
@@ -69,7 +71,15 @@ QString MemoWidget::Plain() const {
 void MemoWidget::Draw() {
   if (in_step_) return;
   const QScopedValueRollback<bool> guard(in_step_, true);
-  setReadOnly(box_.Locked());
+  if (isReadOnly() != box_.Locked()) {
+    setReadOnly(box_.Locked());
+    QPalette palette = parentWidget()->palette();
+    if (isReadOnly()) {
+      palette.setColor(QPalette::Active, QPalette::Base, QColor(colours::kDisplay));
+      palette.setColor(QPalette::Inactive, QPalette::Base, QColor(colours::kDisplay));
+    }
+    setPalette(palette);
+  }
   if (const std::string& text = box_.Text(); shown_ != text || Plain() != Shown(text)) {
     const QString had = Plain();
     const QString has = Shown(text);
@@ -92,6 +102,16 @@ void MemoWidget::Draw() {
     cursor.setPosition(end, QTextCursor::KeepAnchor);
     setTextCursor(cursor);
   }
+}
+
+void MemoWidget::focusInEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusInEvent(event);
+  update();
+}
+
+void MemoWidget::focusOutEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusOutEvent(event);
+  update();
 }
 
 void MemoWidget::TellEdit() {

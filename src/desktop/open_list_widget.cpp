@@ -24,6 +24,7 @@ OpenListWidget::OpenListWidget(ListBox& list, QWidget* parent, TextBox::Content 
   setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   setTextElideMode(Qt::ElideNone);
   Bind(*this, list, [this] { Draw(); });
+  ShowSelection();
 }
 
 void OpenListWidget::ShowOnly() {
@@ -83,13 +84,24 @@ void OpenListWidget::keyPressEvent(QKeyEvent* event) {
 void OpenListWidget::focusInEvent(QFocusEvent* event) {
   // Not the base's: it would make an entry current that the list does not have selected.
   QAbstractScrollArea::focusInEvent(event);
+  ShowSelection();
+}
+
+void OpenListWidget::ShowSelection() {
+  QPalette palette = parentWidget()->palette();
+  if (!hasFocus()) {
+    for (const auto group : {QPalette::Active, QPalette::Inactive}) {
+      palette.setColor(group, QPalette::Highlight, QColor(colours::kPressed));
+      palette.setColor(group, QPalette::HighlightedText, QColor(colours::kText));
+    }
+  }
+  setPalette(palette);
   update();
-  viewport()->update();
 }
 
 void OpenListWidget::focusOutEvent(QFocusEvent* event) {
   QListWidget::focusOutEvent(event);
-  update();
+  ShowSelection();
 }
 
 DirListWidget::DirListWidget(DirList& list, QWidget* parent)

@@ -32,6 +32,8 @@ class OpenListWidget : public QListWidget {
   void Draw();
 
  private:
+  /// The entry selected stands out more while the list has the keyboard.
+  void ShowSelection();
   [[nodiscard]] QString Shown(const std::string& entry) const;
 
   ListBox& list_;

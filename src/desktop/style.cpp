@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QStyleOption>
 #include <QToolTip>
@@ -55,7 +56,10 @@ void DrawTab(QPainter& painter, const QStyleOptionTab& tab) {
   if (selected) {
     QRect line = tab.rect;
     line.setTop(line.bottom() - 2);
-    painter.fillRect(line, QColor(colours::kAccent));
+    const bool enabled = tab.state.testFlag(QStyle::State_Enabled);
+    painter.fillRect(line, QColor(enabled ? colours::kAccent : colours::kBorder));
+    const bool focus = tab.state.testFlag(QStyle::State_HasFocus);
+    if (focus) DrawFocusRing(painter, tab.rect.adjusted(0, 0, 0, -kTight));
   }
 }
 
@@ -80,6 +84,8 @@ QPalette LightPalette() {
   for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
     palette.setColor(QPalette::Disabled, role, QColor(colours::kDisabledText));
   }
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(colours::kFaintBorder));
+  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, QColor(colours::kDisabledText));
   palette.setColor(QPalette::Disabled, QPalette::Base, QColor(colours::kWindow));
   return palette;
 }
@@ -135,8 +141,11 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
       return;
     }
     case PE_Frame:
-      if (qobject_cast<const QAbstractItemView*>(widget) != nullptr) {
+      if (qobject_cast<const QAbstractItemView*>(widget) != nullptr ||
+          qobject_cast<const QPlainTextEdit*>(widget) != nullptr) {
         FieldLook look = LookOf(*option);
+        const auto* text = qobject_cast<const QPlainTextEdit*>(widget);
+        look.display_only = text != nullptr && text->isReadOnly();
         look.focus = widget->hasFocus();
         DrawField(*painter, option->rect, look);
         return;
@@ -195,14 +204,31 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
       painter->setPen(QColor(box->state.testFlag(State_Enabled) ? colours::kQuietText
                                                                 : colours::kDisabledText));
       QRect title = option->rect;
-      title.setBottom(frame.rect.top());
-      title.adjust(1, 0, 0, -kTight);
+      title.setBottom(frame.rect.top() - kTight);
+      title.adjust(1, 0, 0, 0);
       painter->drawText(title, Qt::AlignLeft | Qt::AlignBottom | Qt::TextShowMnemonic, box->text);
       painter->restore();
       return;
     }
   }
   QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                            SubControl part, const QWidget* widget) const {
+  if (control == CC_ComboBox && part == SC_ComboBoxEditField) {
+    // The text begins where that of a text box does.
+    return option->rect.adjusted(kNear - 2, kTight / 2, -kArrowWidth, -kTight / 2);
+  }
+  if (control == CC_GroupBox && (part == SC_GroupBoxFrame || part == SC_GroupBoxContents)) {
+    const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    QRect frame = option->rect;
+    if (box != nullptr && !box->text.isEmpty() && widget != nullptr) {
+      frame.setTop(frame.top() + QFontMetrics(Bold(widget->font())).height() + kTight);
+    }
+    return frame;
+  }
+  return QProxyStyle::subControlRect(control, option, part, widget);
 }
 
 QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
@@ -237,6 +263,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_LayoutRightMargin:
     case PM_LayoutBottomMargin:
       return kGap;
+    case PM_FocusFrameHMargin:
+      return kTight;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
       return 0;

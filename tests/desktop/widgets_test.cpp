@@ -1,0 +1,472 @@
+// The widgets in a shown window, under a person's hand: keys and clicks go in as events, and what
+// counts is what the controls hold, what the screen's rules refuse, and what is seen.
+
+#include <gtest/gtest.h>
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QClipboard>
+#include <QDropEvent>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QTabBar>
+#include <QTest>
+#include <QVBoxLayout>
+
+#include "desktop/calendar_widget.h"
+#include "desktop/check_box_widget.h"
+#include "desktop/combo_box_widget.h"
+#include "desktop/drop_down_widget.h"
+#include "desktop/memo_widget.h"
+#include "desktop/open_list_widget.h"
+#include "desktop/screen_host.h"
+#include "desktop/tabs_widget.h"
+#include "desktop/text.h"
+#include "desktop/text_box_widget.h"
+#include "desktop/window_view.h"
+#include "screen/keys.h"
+
+namespace corvalis::desktop {
+namespace {
+
+using std::chrono::November;
+using std::chrono::year;
+
+/// A screen with one control of each kind. Its box takes hexadecimal digits, four at most, makes
+/// them capitals, and may not be left while it is not full; its rule beeps into `refused`.
+struct Screen {
+  Screen() {
+    box.KeyPress = [this](int& key) {
+      const bool letter = key >= 'a' && key <= 'f';
+      const bool full = box.Text().size() >= 4 && box.SelLength() == 0;
+      if (letter) key -= 'a' - 'A';
+      const bool digit = (key >= '0' && key <= '9') || (key >= 'A' && key <= 'F');
+      if (key == kKeyBackspace || (digit && !full)) return;
+      key = kKeyCancelled;
+      ++refused;
+    };
+    for (ListBox* list : {&drop, static_cast<ListBox*>(&combo), &open}) {
+      list->Fill({"10", "20", "30"});
+      list->SetIndex(0);
+    }
+    drop.KeyPress = [this](int& key) {
+      key = kKeyCancelled;
+      ++refused;
+    };
+    drop.Click = [this] { ++clicks; };
+    open.Click = [this] { ++clicks; };
+    memo.SetText("one\r\ntwo\nthree");
+    calendar.SetDate(year(2026) / November / 24);
+  }
+
+  void GuardBox() {
+    box.LostFocus = [this] {
+      if (box.Text().size() == 4) return;
+      box.SelectAll();
+      box.SetFocus();
+    };
+  }
+
+  Window window{this, "Screen"};
+  TextBox box{window, "Text1"};
+  TextBox name{window, "Text2", TextBox::Content::kFileName};
+  TextBox memo{window, "Text3"};
+  ListBox drop{window, "Combo1"};
+  ComboBox combo{window, "Combo2"};
+  ListBox open{window, "List1"};
+  CheckBox check{window, "Check1"};
+  Calendar calendar{window, "Calendar1"};
+  Tabs tabs{window, "SSTab1", {"PI", "TP"}};
+  int refused = 0;
+  int clicks = 0;
+};
+
+struct View : WindowView {
+  explicit View(Screen& screen) : WindowView(screen.window) {
+    auto* column = new QVBoxLayout(this);
+    const std::initializer_list<QWidget*> parts = {
+        box = new TextBoxWidget(screen.box, 8, this),
+        name = new TextBoxWidget(screen.name, 0, this),
+        memo = new MemoWidget(screen.memo, this),
+        drop = new DropDownWidget(screen.drop, this),
+        combo = new ComboBoxWidget(screen.combo, this),
+        open = new OpenListWidget(screen.open, this),
+        check = new CheckBoxWidget(screen.check, this),
+        calendar = new CalendarWidget(screen.calendar, this),
+        tabs = new TabsWidget(screen.tabs, this)};
+    for (QWidget* part : parts) column->addWidget(part);
+    tabs->AddPage(new QWidget);
+    tabs->AddPage(new QWidget);
+    last = this;
+  }
+
+  TextBoxWidget* box;
+  TextBoxWidget* name;
+  MemoWidget* memo;
+  DropDownWidget* drop;
+  ComboBoxWidget* combo;
+  OpenListWidget* open;
+  CheckBoxWidget* check;
+  CalendarWidget* calendar;
+  TabsWidget* tabs;
+  static inline View* last = nullptr;
+};
+
+class WidgetsTest : public testing::Test {
+ protected:
+  WidgetsTest() {
+    // Lest the click on a list that has just opened counts as the rest of the opening one.
+    QApplication::setDoubleClickInterval(0);
+    host_.Register<Screen, View>();
+    screen_.window.Show();
+    view_ = View::last;
+    EXPECT_TRUE(QTest::qWaitForWindowActive(view_));
+    QTest::mouseClick(view_->box, Qt::LeftButton);
+  }
+
+  /// Lets the toolkit do what it has put off.
+  static void Settle() { QCoreApplication::processEvents(); }
+
+  static void Click(QWidget* widget, QPoint at = {}) {
+    QTest::mouseClick(widget, Qt::LeftButton, {}, at);
+    Settle();
+  }
+
+  static void Compose(QWidget* widget, const QString& text) {
+    QInputMethodEvent event;
+    event.setCommitString(text);
+    QCoreApplication::sendEvent(widget, &event);
+  }
+
+  static QPoint Middle(const QAbstractItemView& list, int row) {
+    return list.visualRect(list.model()->index(row, 0)).center();
+  }
+
+  QtScreenHost host_;
+  Screen screen_;
+  View* view_ = nullptr;
+};
+
+TEST(TextConversion, EveryByteOfAScreenTextComesBack) {
+  std::string all;
+  for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
+  EXPECT_EQ(ToBytes(FromBytes(all)), all);
+  EXPECT_EQ(FromBytes("\x80\x9F\xE9"), QStringLiteral(u"\u20AC\u0178\u00E9"));
+  EXPECT_EQ(ToBytes(QStringLiteral(u"\u0416\U0001F600\u0080x")), "???x");
+}
+
+TEST(TextConversion, EveryFileNameComesBack) {
+  for (const std::string name : {"plain.rds", "M\xC3\xBCnchen \xE2\x82\xAC \xF0\x9F\x93\xBB",
+                                 "latin \xFC.rds", "\xC3", "\xE2\x82x", "\xED\xA0\x80", "\xC0\xAF",
+                                 "\xEF\xBB\xBF"
+                                 "bom",
+                                 "\xF0\x9F\x93"}) {
+    EXPECT_EQ(ToFileName(FromFileName(name)), name);
+  }
+  EXPECT_EQ(FromFileName("M\xC3\xBCnchen"), QStringLiteral(u"M\u00FCnchen"));
+}
+
+TEST(KeyCodes, AreThoseThatAFormKnows) {
+  struct Case {
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    QString text;
+    int code;
+  };
+  const Case cases[] = {
+      {Qt::Key_A, {}, "a", 'a'},
+      {0, {}, QStringLiteral(u"\u20AC"), 0x80},
+      {0, Qt::GroupSwitchModifier, "@", '@'},
+      {0, {}, QStringLiteral(u"\u0416"), kKeyCancelled},
+      {Qt::Key_Backspace, {}, "\b", kKeyBackspace},
+      {Qt::Key_Escape, {}, "\x1B", kKeyEscape},
+      {Qt::Key_V, Qt::ControlModifier, "\x16", kKeyPaste},
+      {Qt::Key_V, Qt::ControlModifier, "v", kKeyPaste},
+      {Qt::Key_A, Qt::AltModifier, "a", kKeyCancelled},
+      {Qt::Key_Enter, Qt::KeypadModifier, "\r", '\r'},
+      {Qt::Key_Tab, {}, "\t", kKeyCancelled},
+      {Qt::Key_Delete, {}, "\x7F", kKeyCancelled},
+      {Qt::Key_Left, {}, "", kKeyCancelled},
+  };
+  for (const Case& c : cases) {
+    EXPECT_EQ(KeyCode(QKeyEvent(QEvent::KeyPress, c.key, c.modifiers, c.text)), c.code) << c.key;
+  }
+}
+
+TEST_F(WidgetsTest, NothingGetsPastTheRuleOfABox) {
+  QTest::keyClicks(view_->box, "5xa");
+  EXPECT_EQ(screen_.box.Text(), "5A");  // the x cancelled, the a replaced
+  EXPECT_EQ(screen_.refused, 1);
+  QTest::keyClicks(view_->box, "b0c");
+  EXPECT_EQ(screen_.box.Text(), "5AB0");  // a fifth is refused
+  EXPECT_EQ(screen_.refused, 2);
+
+  QApplication::clipboard()->setText("FFFF");
+  view_->box->selectAll();
+  QTest::keyClick(view_->box, Qt::Key_V, Qt::ControlModifier);
+  QTest::keyClick(view_->box, Qt::Key_Insert, Qt::ShiftModifier);
+  EXPECT_EQ(screen_.refused, 4);
+  QMimeData dragged;
+  dragged.setText("FFFF");
+  QDragEnterEvent enter({2, 2}, Qt::CopyAction, &dragged, Qt::LeftButton, {});
+  QCoreApplication::sendEvent(view_->box, &enter);
+  QDropEvent drop(QPointF(2, 2), Qt::CopyAction, &dragged, Qt::LeftButton, {});
+  QCoreApplication::sendEvent(view_->box, &drop);
+  EXPECT_EQ(screen_.refused, 5);
+  Compose(view_->box, "zz");
+  EXPECT_EQ(screen_.refused, 7);
+  Compose(view_->box, QStringLiteral(u"\u0416"));
+  EXPECT_EQ(screen_.box.Text(), "5AB0");
+  EXPECT_EQ(view_->box->text(), "5AB0");
+}
+
+TEST_F(WidgetsTest, APasteThatIsAllowedTakesTheFirstLine) {
+  screen_.box.KeyPress = nullptr;
+  QApplication::clipboard()->setText("12\t34\nmore");
+  QTest::keyClick(view_->box, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(screen_.box.Text(), "1234");
+}
+
+TEST_F(WidgetsTest, SelectionAndCaretAreTheSameOnBothSides) {
+  QTest::keyClicks(view_->box, "1234");
+  QTest::keyClick(view_->box, Qt::Key_Left, Qt::ShiftModifier);
+  QTest::keyClick(view_->box, Qt::Key_Left, Qt::ShiftModifier);
+  EXPECT_EQ(screen_.box.SelStart(), 2);
+  EXPECT_EQ(screen_.box.SelLength(), 2);
+  QTest::keyClick(view_->box, Qt::Key_Right, Qt::ShiftModifier);  // the caret end moves
+  EXPECT_EQ(view_->box->selectedText(), "4");
+  QTest::keyClicks(view_->box, "a");  // full, but a selection gives way
+  EXPECT_EQ(screen_.box.Text(), "123A");
+
+  screen_.box.Select(1, 2);
+  EXPECT_EQ(view_->box->selectedText(), "23");
+  QTest::keyClick(view_->box, Qt::Key_Delete);
+  EXPECT_EQ(screen_.box.Text(), "1A");
+  EXPECT_EQ(screen_.box.SelStart(), 1);
+  QTest::keyClick(view_->box, Qt::Key_Backspace);
+  EXPECT_EQ(screen_.box.Text(), "A");
+  QTest::keyClick(view_->box, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(screen_.box.Text(), "1A");
+  EXPECT_EQ(view_->box->text(), "1A");
+}
+
+TEST_F(WidgetsTest, WhatTheFormMakesOfATextIsShown) {
+  screen_.box.Change = [this] {
+    if (screen_.box.Text() == "1") screen_.box.SetText("0001");
+  };
+  QTest::keyClicks(view_->box, "1");
+  EXPECT_EQ(view_->box->text(), "0001");
+}
+
+TEST_F(WidgetsTest, ABoxOfAFileNameTakesWholeCharacters) {
+  view_->name->setFocus();
+  screen_.name.SetText("\xC3\xBC\xFF");
+  QTest::keyClick(view_->name, Qt::Key_End);
+  QTest::keyClick(view_->name, Qt::Key_Backspace);
+  EXPECT_EQ(screen_.name.Text(), "\xC3\xBC");
+  Compose(view_->name, QStringLiteral(u"\u0416"));
+  EXPECT_EQ(screen_.name.Text(), "\xC3\xBC\xD0\x96");
+  EXPECT_EQ(screen_.name.SelStart(), 4);
+  QTest::keyClick(view_->name, Qt::Key_Backspace);
+  QTest::keyClick(view_->name, Qt::Key_Backspace);
+  EXPECT_EQ(screen_.name.Text(), "");
+}
+
+TEST_F(WidgetsTest, ALostFocusRuleTakesTheFocusBackAndTheClickIsVoid) {
+  screen_.GuardBox();
+  QTest::keyClicks(view_->box, "12");
+  const int clicks = screen_.clicks;
+  Click(view_->check);
+  Click(view_->drop);
+  Click(view_->open->viewport(), Middle(*view_->open, 2));
+  Click(view_->tabs->findChild<QTabBar*>(),
+        view_->tabs->findChild<QTabBar*>()->tabRect(1).center());
+  QTest::keyClick(view_->box, Qt::Key_Tab);
+  Settle();
+  EXPECT_TRUE(view_->box->hasFocus());
+  EXPECT_TRUE(screen_.box.HasFocus());
+  EXPECT_EQ(view_->box->selectedText(), "12");
+  EXPECT_FALSE(screen_.check.Checked());
+  EXPECT_FALSE(view_->drop->view()->isVisible());
+  EXPECT_EQ(screen_.open.Index(), 0);
+  EXPECT_EQ(screen_.clicks, clicks);
+  EXPECT_EQ(screen_.tabs.Tab(), 0);
+  EXPECT_EQ(view_->tabs->findChild<QTabBar*>()->currentIndex(), 0);
+
+  QTest::keyClicks(view_->box, "1234");
+  Click(view_->check);
+  EXPECT_TRUE(screen_.check.Checked());
+}
+
+TEST_F(WidgetsTest, AClosedListTakesArrowsAndTellsTypedKeys) {
+  Click(view_->drop);
+  QTest::keyClick(view_->drop->view(), Qt::Key_3);  // while it is dropped down, too
+  EXPECT_EQ(screen_.refused, 1);
+  QTest::keyClick(view_->drop->view(), Qt::Key_Escape);
+  Settle();
+  QTest::keyClicks(view_->drop, "23");
+  EXPECT_EQ(screen_.refused, 3);
+  EXPECT_EQ(screen_.drop.Index(), 0);
+  QTest::keyClick(view_->drop, Qt::Key_Down);
+  EXPECT_EQ(screen_.drop.Index(), 1);
+  QTest::keyClick(view_->drop, Qt::Key_End);
+  EXPECT_EQ(screen_.drop.Index(), 2);
+  EXPECT_EQ(view_->drop->currentText(), "30");
+}
+
+TEST_F(WidgetsTest, AListForThePointerAloneSwallowsEveryKeyButTab) {
+  screen_.drop.SetPointerOnly(true);
+  view_->drop->setFocus();
+  for (const auto key : {Qt::Key_Down, Qt::Key_End, Qt::Key_PageDown, Qt::Key_Space, Qt::Key_2}) {
+    QTest::keyClick(view_->drop, key);
+  }
+  QTest::keyClick(view_->drop, Qt::Key_F4);
+  QTest::keyClick(view_->drop, Qt::Key_Down, Qt::AltModifier);
+  EXPECT_FALSE(view_->drop->view()->isVisible());
+  EXPECT_EQ(screen_.drop.Index(), 0);
+
+  QAbstractItemView* popup = view_->drop->view();
+  Click(view_->drop);
+  ASSERT_TRUE(popup->isVisible());
+  for (const auto key : {Qt::Key_Down, Qt::Key_Return, Qt::Key_Space, Qt::Key_F4}) {
+    QTest::keyClick(popup, key);
+  }
+  EXPECT_TRUE(popup->isVisible());
+  EXPECT_EQ(screen_.drop.Index(), 0);
+  QTest::keyClick(popup, Qt::Key_Escape);
+  EXPECT_FALSE(popup->isVisible());
+
+  Click(view_->drop);
+  Click(popup->viewport(), Middle(*popup, 2));
+  EXPECT_EQ(screen_.drop.Index(), 2);
+
+  QTest::keyClick(view_->drop, Qt::Key_Tab);
+  EXPECT_TRUE(screen_.combo.HasFocus());
+  QTest::keyClick(view_->combo, Qt::Key_Backtab, Qt::ShiftModifier);
+  EXPECT_TRUE(screen_.drop.HasFocus());
+}
+
+TEST_F(WidgetsTest, WhatIsTypedIntoAComboBoxSelectsNoEntry) {
+  view_->combo->setFocus();
+  view_->combo->lineEdit()->selectAll();
+  QTest::keyClicks(view_->combo, "20");
+  QTest::keyClick(view_->combo, Qt::Key_Return);
+  QTest::keyClick(view_->combo, Qt::Key_Tab);
+  EXPECT_EQ(screen_.combo.Index(), ListBox::kNone);
+  EXPECT_EQ(screen_.combo.Text(), "20");
+  EXPECT_EQ(view_->combo->lineEdit()->text(), "20");
+  QTest::keyClick(view_->combo, Qt::Key_Down);
+  EXPECT_EQ(screen_.combo.Index(), 0);
+  EXPECT_EQ(view_->combo->lineEdit()->text(), "10");
+}
+
+TEST_F(WidgetsTest, TheWheelChoosesNothing) {
+  view_->drop->setFocus();
+  for (QWidget* widget :
+       std::initializer_list<QWidget*>{view_->drop, view_->combo, view_->combo->lineEdit(),
+                                       view_->tabs->findChild<QTabBar*>()}) {
+    QWheelEvent wheel({5, 5}, widget->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
+                      Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(widget, &wheel);
+  }
+  EXPECT_EQ(screen_.drop.Index(), 0);
+  EXPECT_EQ(screen_.combo.Index(), 0);
+  EXPECT_EQ(screen_.tabs.Tab(), 0);
+}
+
+TEST_F(WidgetsTest, AnOpenListIsChosenFromByPointerAndArrows) {
+  const int clicks = screen_.clicks;
+  Click(view_->open->viewport(), Middle(*view_->open, 2));
+  EXPECT_EQ(screen_.open.Index(), 2);
+  Click(view_->open->viewport(), Middle(*view_->open, 2));
+  EXPECT_EQ(screen_.clicks, clicks + 2);  // also for the entry that was selected already
+  QTest::keyClick(view_->open, Qt::Key_Up);
+  QTest::keyClicks(view_->open, "1");
+  EXPECT_EQ(screen_.open.Index(), 1);
+  EXPECT_EQ(view_->open->currentRow(), 1);
+  screen_.open.Fill({"10"});
+  EXPECT_TRUE(view_->open->selectedItems().isEmpty());
+}
+
+TEST_F(WidgetsTest, ACheckBoxIsPressedByMouseAndSpaceAndShowsWhatTheFormMakesOfIt) {
+  Click(view_->check);
+  EXPECT_TRUE(screen_.check.Checked());
+  QTest::keyClick(view_->check, Qt::Key_Space);
+  EXPECT_FALSE(screen_.check.Checked());
+  screen_.check.SetChecked(true);
+  screen_.check.Click = [this] { screen_.check.SetChecked(true); };  // an indicator
+  Click(view_->check);
+  EXPECT_TRUE(view_->check->isChecked());
+}
+
+TEST_F(WidgetsTest, ATabIsShownOnlyOnceTheModelHasIt) {
+  auto* bar = view_->tabs->findChild<QTabBar*>();
+  Click(bar, bar->tabRect(1).center());
+  EXPECT_EQ(screen_.tabs.Tab(), 1);
+  QTest::keyClick(bar, Qt::Key_Left);
+  EXPECT_EQ(screen_.tabs.Tab(), 0);
+  screen_.tabs.Click = [this] { screen_.tabs.SetTab(0); };
+  QTest::keyClick(bar, Qt::Key_Right);
+  EXPECT_EQ(bar->currentIndex(), 0);
+}
+
+TEST_F(WidgetsTest, AMemoKeepsTheBytesThatAreNotTouched) {
+  screen_.memo.SetText("one\r\ntwo\nthree\xA0");
+  view_->memo->setFocus();
+  QTest::keyClick(view_->memo, Qt::Key_End);
+  QTest::keyClick(view_->memo, Qt::Key_Return);
+  QTest::keyClicks(view_->memo, "x");
+  EXPECT_EQ(screen_.memo.Text(), "one\r\nx\r\ntwo\nthree\xA0");
+  EXPECT_EQ(screen_.memo.SelStart(), 6);
+  QTest::keyClick(view_->memo, Qt::Key_Backspace);
+  QTest::keyClick(view_->memo, Qt::Key_Backspace);
+  EXPECT_EQ(screen_.memo.Text(), "one\r\ntwo\nthree\xA0");
+
+  screen_.memo.KeyPress = [](int& key) { key = kKeyCancelled; };
+  QApplication::clipboard()->setText("pasted");
+  QTest::keyClicks(view_->memo, "y");
+  view_->memo->paste();
+  EXPECT_EQ(screen_.memo.Text(), "one\r\ntwo\nthree\xA0");
+
+  screen_.memo.KeyPress = nullptr;
+  screen_.memo.SetLocked(true);
+  QTest::keyClicks(view_->memo, "y");
+  QTest::keyClick(view_->memo, Qt::Key_Delete);
+  EXPECT_EQ(screen_.memo.Text(), "one\r\ntwo\nthree\xA0");
+}
+
+TEST_F(WidgetsTest, ACalendarMovesByKeysAndShowsTheDateOfTheModel) {
+  view_->calendar->setFocus();
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
+  EXPECT_EQ(screen_.calendar.Date(), year(2026) / November / 25);
+  EXPECT_TRUE(screen_.calendar.HasFocus());
+  screen_.calendar.Change = [this] { screen_.calendar.SetDate(year(2026) / November / 1); };
+  QTest::keyClick(QApplication::focusWidget(), Qt::Key_Down);
+  EXPECT_EQ(view_->calendar->selectedDate(), QDate(2026, 11, 1));
+}
+
+TEST_F(WidgetsTest, ADisabledWindowTakesNothing) {
+  screen_.window.SetEnabled(false);
+  QTest::keyClicks(view_->box, "1");
+  Compose(view_->box, "1");
+  QTest::keyClicks(view_->memo, "1");
+  Click(view_->check);
+  Click(view_->drop);
+  Click(view_->open->viewport(), Middle(*view_->open, 1));
+  QTest::keyClick(view_->box, Qt::Key_Tab);
+  view_->close();
+  EXPECT_EQ(screen_.box.Text() + screen_.memo.Text(), "one\r\ntwo\nthree");
+  EXPECT_FALSE(screen_.check.Checked());
+  EXPECT_FALSE(view_->drop->view()->isVisible());
+  EXPECT_EQ(screen_.open.Index(), 0);
+  EXPECT_TRUE(screen_.box.HasFocus());
+  EXPECT_TRUE(view_->isVisible());
+}
+
+TEST_F(WidgetsTest, AToolTipIsPlainText) {
+  screen_.box.SetToolTip("<b>bold</b>");
+  EXPECT_TRUE(view_->box->toolTip().contains("&lt;b&gt;"));
+}
+
+}  // namespace
+}  // namespace corvalis::desktop
