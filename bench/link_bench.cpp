@@ -26,9 +26,9 @@
 #include "link/serial_management.h"
 #include "platform/platform.h"
 
+namespace corvalis {
 namespace {
 
-using namespace corvalis;
 using SteadyClock = std::chrono::steady_clock;
 
 constexpr int kFrames = 2000;
@@ -217,6 +217,7 @@ void WaitForSilentCoder(benchmark::State& state) {
 BENCHMARK(WaitForSilentCoder)->Iterations(1)->Unit(benchmark::kSecond);
 
 }  // namespace
+}  // namespace corvalis
 
 int main(int argc, char** argv) {
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");

@@ -95,7 +95,7 @@ bool DropDownWidget::eventFilter(QObject* watched, QEvent* event) {
       TakenInPopup(*static_cast<QKeyEvent*>(event))) {
     return true;
   }
-  // The list chooses at the release of such keys too.
+  // The popup chooses at this event already, before the key itself.
   if (watched == view() && event->type() == QEvent::ShortcutOverride && list_.PointerOnly()) {
     event->accept();
     return true;

@@ -16,6 +16,8 @@ namespace corvalis::desktop {
 
 namespace {
 
+constexpr double kMargin = kNear - 2;  // the frame is the rest of what a box of one line has
+
 /// The length of the line end at `at`: CR LF, CR or LF; 0 if there is none.
 std::size_t LineEnd(const std::string& bytes, std::size_t at) {
   if (bytes[at] == '\n') return 1;
@@ -55,7 +57,7 @@ std::string WithLineEnds(const QString& text) {
 
 MemoWidget::MemoWidget(TextBox& box, QWidget* parent) : QPlainTextEdit(parent), box_(box) {
   setTabChangesFocus(true);
-  document()->setDocumentMargin(kNear - kTight / 2);
+  document()->setDocumentMargin(kMargin);
   connect(this, &QPlainTextEdit::textChanged, this, [this] { TellEdit(); });
   connect(this, &QPlainTextEdit::selectionChanged, this, [this] { TellSelection(); });
   connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { TellSelection(); });

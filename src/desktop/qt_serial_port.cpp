@@ -6,6 +6,7 @@
 #include <chrono>
 #include <optional>
 #include <string_view>
+#include <utility>
 
 #include "desktop/port_names.h"
 #include "desktop/qt_time.h"
@@ -118,13 +119,12 @@ PortError QtSerialPort::Open() {
     hold_.Release();
     return DeviceError(kCannotOpen, words);
   }
-  const PortError error = ApplySettings();
-  if (error) {
+  if (PortError error = ApplySettings()) {
     Close();
-  } else {
-    port_.setRequestToSend(request_to_send_);
+    return error;
   }
-  return error;
+  port_.setRequestToSend(request_to_send_);
+  return {};
 }
 
 void QtSerialPort::Close() {

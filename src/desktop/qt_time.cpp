@@ -38,12 +38,13 @@ double QtTime::Timer() const {
 }
 
 DateTime QtTime::Now() const {
-  using namespace std::chrono;
+  namespace chrono = std::chrono;
   const std::tm local = LocalTime(system_clock::now());
-  return local_days{year{local.tm_year + kFirstYear} /
-                    month{static_cast<unsigned>(local.tm_mon + 1)} /
-                    day{static_cast<unsigned>(local.tm_mday)}} +
-         hours{local.tm_hour} + minutes{local.tm_min} + seconds{local.tm_sec};
+  return chrono::local_days{chrono::year{local.tm_year + kFirstYear} /
+                            chrono::month{static_cast<unsigned>(local.tm_mon + 1)} /
+                            chrono::day{static_cast<unsigned>(local.tm_mday)}} +
+         chrono::hours{local.tm_hour} + chrono::minutes{local.tm_min} +
+         chrono::seconds{local.tm_sec};
 }
 
 void QtTime::RunPending() { QCoreApplication::processEvents(); }

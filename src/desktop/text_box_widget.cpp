@@ -175,25 +175,24 @@ void TextBoxWidget::Paste(const QString& clip) {
 }
 
 void TextBoxWidget::keyPressEvent(QKeyEvent* event) {
+  if (!box_.Locked() && event->matches(QKeySequence::Paste)) {
+    Paste(QApplication::clipboard()->text());
+    return;
+  }
   const int key = KeyCode(*event);
   const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
   const bool printable = !event->text().isEmpty() && event->text()[0].isPrint();
-  if (box_.Locked()) {
-    QLineEdit::keyPressEvent(event);
-  } else if (event->matches(QKeySequence::Paste)) {
-    Paste(QApplication::clipboard()->text());
-  } else if (key == kKeyBackspace) {
-    StrikeBackspace();
-  } else if (IsEditCommand(*event)) {
+  const bool moves = key == kKeyCancelled && !printable;
+  if (box_.Locked() || moves || IsEditCommand(*event)) {
     QLineEdit::keyPressEvent(event);
   } else if (printable && !command) {
     Strike(event->text());
+  } else if (key == kKeyBackspace) {
+    StrikeBackspace();
   } else if (key != kKeyCancelled) {
     box_.TypeKey(key);
-  } else if (printable) {
-    event->ignore();
   } else {
-    QLineEdit::keyPressEvent(event);
+    event->ignore();
   }
 }
 

@@ -33,14 +33,14 @@ TEST(DialogsTest, ABoxShowsItsTextAsItStands) {
   for (const auto& [style, icon] : cases) {
     int seen = 0;
     Show({"PI:   [ TX ] <b>&serial</b>  \x80   ", "Serial \xFC", style, "DEMO.HLP", 1000},
-         [&](QMessageBox& box) {
+         [&, wanted = icon](QMessageBox& box) {
            ++seen;
            const auto* label = box.findChild<QLabel*>("qt_msgbox_label");
            ASSERT_NE(label, nullptr);
            EXPECT_EQ(label->text(), QStringLiteral(u"PI:   [ TX ] <b>&serial</b>  \u20AC   "));
            EXPECT_EQ(label->textFormat(), Qt::PlainText);
            EXPECT_EQ(box.windowTitle(), QStringLiteral(u"Serial \u00FC"));
-           EXPECT_EQ(box.icon(), icon);
+           EXPECT_EQ(box.icon(), wanted);
            ASSERT_EQ(box.buttons().size(), 1);
            EXPECT_TRUE(box.buttons()[0]->isEnabled());
            box.button(QMessageBox::Ok)->click();
