@@ -41,14 +41,13 @@ CtPage::CtPage(CtTab& tab, QWidget* parent) : QWidget(parent) {
            new SpinField(tab.Text9, tab.VScroll6, kOffsetColumns, time));
   AddField(*fields, tab.DatePsnLabel, FixedBox(tab.Text7, kPsnColumns, time));
   AddField(*fields, tab.HourPsnLabel, FixedBox(tab.Text8, kPsnColumns, time));
-  fields->setRowStretch(fields->rowCount(), 1);
   AddLine(*fields, ButtonRow({&tab.Command1, &tab.Command2}, time));
 
   QHBoxLayout* row = Row(this);
   row->setContentsMargins(0, kApart, 0, 0);
   row->setSpacing(kApart);
-  row->addWidget(date, 1);
-  row->addWidget(time);
+  row->addWidget(date, 0, Qt::AlignTop);
+  row->addWidget(time, 1, Qt::AlignTop);
 }
 
 }  // namespace corvalis::desktop

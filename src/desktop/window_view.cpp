@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QWindow>
@@ -170,6 +171,17 @@ void WindowView::closeEvent(QCloseEvent* event) {
     model_->Close();
   }
   if (model_ != nullptr) ShowFocus();
+}
+
+// A press beside all controls, or on one that can't be used, leaves the control that has the focus,
+// so that what was chosen or typed there is taken.
+void WindowView::mousePressEvent(QMouseEvent* /*event*/) {
+  if (model_ == nullptr) return;
+  {
+    const QScopedValueRollback<bool> guard(in_model_, true);
+    if (!model_->MoveFocus(nullptr)) return;
+  }
+  if (focusWidget() != nullptr) focusWidget()->clearFocus();
 }
 
 void WindowView::resizeEvent(QResizeEvent* event) {

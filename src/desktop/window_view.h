@@ -30,6 +30,7 @@ class WindowView : public QWidget {
 
  protected:
   void closeEvent(QCloseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
