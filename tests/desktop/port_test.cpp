@@ -210,6 +210,7 @@ TEST_F(PortTest, KeepsTheLineForItself) {
   }
   ASSERT_FALSE(port.SetPortOpen(false));
   ASSERT_FALSE(port.SetPortOpen(false));
+  EXPECT_FALSE(line.Settings().c_cflag & HUPCL);  // a call stays up while the port is reopened
   EXPECT_FALSE(second.SetPortOpen(true));
 }
 
