@@ -21,6 +21,7 @@
 
 #include "config/config_data.h"
 #include "desktop/coder_process.h"
+#include "desktop/own_line.h"
 #include "desktop/port_names.h"
 #include "desktop/qt_serial_port.h"
 #include "desktop/qt_time.h"
@@ -34,46 +35,6 @@ namespace {
 namespace fs = std::filesystem;
 
 using desktop::QtSerialPort;
-using Bytes = std::vector<std::uint8_t>;
-
-// A line whose other end the test itself is.
-class OwnLine {
- public:
-  OwnLine() : master_(posix_openpt(O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)) {
-    std::array<char, 64> name{};
-    if (grantpt(master_) != 0 || unlockpt(master_) != 0 ||
-        ptsname_r(master_, name.data(), name.size()) != 0) {
-      throw std::runtime_error("no pseudo-terminal");
-    }
-    path_ = name.data();
-  }
-  ~OwnLine() { Unplug(); }
-  OwnLine(const OwnLine&) = delete;
-  OwnLine& operator=(const OwnLine&) = delete;
-
-  [[nodiscard]] const std::string& Path() const { return path_; }
-  [[nodiscard]] int Descriptor() const { return master_; }
-  void Unplug() {
-    if (master_ >= 0) close(std::exchange(master_, -1));
-  }
-  void Send(const Bytes& bytes) const {
-    ASSERT_EQ(write(master_, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
-  }
-  [[nodiscard]] Bytes Receive() const {
-    std::array<std::uint8_t, 4096> buffer{};
-    const ssize_t count = read(master_, buffer.data(), buffer.size());
-    return {buffer.begin(), buffer.begin() + std::max<ssize_t>(count, 0)};
-  }
-  [[nodiscard]] termios Settings() const {
-    termios settings{};
-    EXPECT_EQ(tcgetattr(master_, &settings), 0);
-    return settings;
-  }
-
- private:
-  int master_;
-  std::string path_;
-};
 
 // An administrator may open everything, so the tests of what may not be opened are somebody else.
 class AsNobody {
@@ -210,6 +171,7 @@ TEST_F(PortTest, KeepsTheLineForItself) {
   }
   ASSERT_FALSE(port.SetPortOpen(false));
   ASSERT_FALSE(port.SetPortOpen(false));
+  EXPECT_FALSE(line.Settings().c_cflag & HUPCL);  // a call stays up while the port is reopened
   EXPECT_FALSE(second.SetPortOpen(true));
 }
 
