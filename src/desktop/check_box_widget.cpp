@@ -88,7 +88,7 @@ void CheckBoxWidget::paintEvent(QPaintEvent* /*event*/) {
     painter.setBrush(QColor(tone.ground));
     painter.drawRoundedRect(QRectF(rect()), kCorner, kCorner);
   }
-  const QRectF square(kTight, (height() - kSquare) / 2, kSquare, kSquare);
+  const QRectF square = QRect(kTight, (height() - kSquare) / 2, kSquare, kSquare);
   QRgb fill = isChecked() ? tone.strong : colours::kField;
   if (!isEnabled() && !isChecked()) fill = colours::kWindow;
   if (isEnabled() && !isChecked() && underMouse()) fill = colours::kHover;

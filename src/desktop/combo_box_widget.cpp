@@ -47,7 +47,7 @@ void ComboBoxWidget::keyPressEvent(QKeyEvent* event) {
     return;
   }
   if (key != kKeyCancelled) combo_.TypeKey(key);
-  if (code != Qt::Key_Return && code != Qt::Key_Enter) QComboBox::keyPressEvent(event);
+  if (code != Qt::Key_Return && code != Qt::Key_Enter) lineEdit()->event(event);
 }
 
 }  // namespace corvalis::desktop

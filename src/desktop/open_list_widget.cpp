@@ -15,7 +15,7 @@ namespace corvalis::desktop {
 namespace {
 constexpr int kRows = 8;
 constexpr int kLeastWidth = 180;
-constexpr int kIndent = 3;  // blanks per depth
+constexpr qsizetype kIndent = 3;  // blanks per depth
 }  // namespace
 
 OpenListWidget::OpenListWidget(ListBox& list, QWidget* parent, TextBox::Content content)
@@ -70,7 +70,8 @@ void OpenListWidget::keyPressEvent(QKeyEvent* event) {
   const int to = EntryByKey(list_, *event);
   if (to != ListBox::kNone && !list_.PointerOnly()) {
     if (!choosing_) {
-      QAbstractScrollArea::keyPressEvent(event);
+      // Past the base, which would choose.
+      QAbstractScrollArea::keyPressEvent(event);  // NOLINT(bugprone-parent-virtual-call)
     } else if (to != list_.Index()) {
       list_.Choose(to);
     }
@@ -83,7 +84,7 @@ void OpenListWidget::keyPressEvent(QKeyEvent* event) {
 
 void OpenListWidget::focusInEvent(QFocusEvent* event) {
   // Not the base's: it would make an entry current that the list does not have selected.
-  QAbstractScrollArea::focusInEvent(event);
+  QAbstractScrollArea::focusInEvent(event);  // NOLINT(bugprone-parent-virtual-call)
   ShowSelection();
 }
 
