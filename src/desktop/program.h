@@ -20,6 +20,8 @@ class Program {
 
   /// Starts: returns when the main menu can be used. Closing the menu ends the application.
   void Start();
+  /// The main menu; not before `Start`.
+  [[nodiscard]] MainForm& Menu() const { return *menu_; }
 
  private:
   QtTime time_;

@@ -1,0 +1,113 @@
+// The program as a person waits for it: from its start to the main menu, and Save and Open on the
+// main menu. It runs on whatever screen Qt finds; a virtual one will do (xvfb-run), and without any
+// it draws into memory (QT_QPA_PLATFORM=offscreen).
+
+#include <benchmark/benchmark.h>
+#include <fcntl.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <QApplication>
+#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+#include "desktop/program.h"
+
+extern char** environ;
+
+namespace {
+
+namespace fs = std::filesystem;
+
+/// Folders of the benchmark's own, with a terminal as COM 1 at which nobody answers. The default
+/// configuration is for a one-way path, so nothing is waited for.
+class Home {
+ public:
+  Home() : terminal_(posix_openpt(O_RDWR | O_NOCTTY)) {
+    std::string name = (fs::temp_directory_path() / "corvalis-bench-XXXXXX").string();
+    if (terminal_ < 0 || grantpt(terminal_) != 0 || unlockpt(terminal_) != 0 ||
+        mkdtemp(name.data()) == nullptr) {
+      throw std::runtime_error("no terminal or no folder");
+    }
+    folder_ = name;
+    fs::create_directories(folder_ / "config/corvalis");
+    fs::create_symlink(ptsname(terminal_), folder_ / "config/corvalis/com1");
+    setenv("XDG_CONFIG_HOME", (folder_ / "config").c_str(), 1);
+    setenv("XDG_DATA_HOME", (folder_ / "data").c_str(), 1);
+  }
+  ~Home() {
+    close(terminal_);
+    fs::remove_all(folder_);
+  }
+  Home(const Home&) = delete;
+  Home& operator=(const Home&) = delete;
+
+  /// As before the first start: no configuration, no language file.
+  void Forget() const { fs::remove_all(folder_ / "data"); }
+
+ private:
+  int terminal_;
+  fs::path folder_;
+};
+
+void Start() {
+  std::string program = CORVALIS_TOUR_PROGRAM;
+  std::string only = "--start";
+  char* words[] = {program.data(), only.data(), nullptr};
+  pid_t child = 0;
+  int status = 0;
+  if (posix_spawn(&child, program.c_str(), nullptr, nullptr, words, environ) != 0 ||
+      waitpid(child, &status, 0) != child || status != 0) {
+    throw std::runtime_error("the program does not start");
+  }
+}
+
+// The whole life of a process that ends as soon as its main menu has been painted.
+void BM_StartToMainMenu(benchmark::State& state) {
+  const Home home;
+  const bool first = state.range(0) != 0;
+  if (!first) Start();
+  for (auto _ : state) {
+    if (first) {
+      state.PauseTiming();
+      home.Forget();
+      state.ResumeTiming();
+    }
+    Start();
+  }
+}
+BENCHMARK(BM_StartToMainMenu)
+    ->ArgName("first")
+    ->Arg(0)
+    ->Arg(1)
+    ->Iterations(10)
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+
+void BM_Button(benchmark::State& state, corvalis::Button corvalis::MainForm::*button) {
+  const Home home;
+  corvalis::desktop::Program program;
+  program.Start();
+  for (auto _ : state) (program.Menu().*button).Press();
+}
+BENCHMARK_CAPTURE(BM_Button, Save, &corvalis::MainForm::SaveButton)
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK_CAPTURE(BM_Button, Open, &corvalis::MainForm::OpenButton)
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+  }
+  const QApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}
