@@ -85,6 +85,7 @@ SpinField::SpinField(TextBox& box, Spinner& spinner, int columns, QWidget* paren
   number->setFrame(false);
   box_ = number;
   spinner_ = new SpinnerWidget(spinner, this);
+  spinner_->setFocusPolicy(Qt::ClickFocus);  // the box steps it from the keyboard
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(2, 2, 2, 2);
   row->setSpacing(0);
