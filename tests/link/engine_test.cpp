@@ -133,6 +133,47 @@ INSTANTIATE_TEST_SUITE_P(
         Cause{"OtherLength", Sealed({2, 1, 0, '1', 3}), 21, "[ RX ] number of bytes wrong", 0}),
     [](const auto& info) { return std::string(info.param.name); });
 
+TEST_F(EngineTest, CoderRefusesByNumber) {
+  Start(kLocal, {}, /*open=*/false);
+  Open();
+  WriteTp();
+  EXPECT_EQ(LinkError, 8);
+
+  const auto transfer = [](Bytes frame) {
+    frame.push_back(0);  // the checksum's place
+    TransferFrame(frame);
+    return LinkError;
+  };
+  const Bytes address{2, 8, 0, '?', '?', '?', '?', '?', 3};
+  const std::pair<Bytes, int> cases[] = {{address, kLinkOk},
+                                         {{2, 1, 1, 3}, 2},
+                                         {{2, 0x7F, 0, 3}, 3},
+                                         {{2, 2, 0, '1', '1', 3}, 6},
+                                         {{2, 8, 0, 3}, 7},
+                                         {{1, 2, 0, '1', 3}, 9},
+                                         {{2, 2, 0, '2', 3}, 10},
+                                         {{2, 2, 0, '1', 3}, kLinkOk},
+                                         {{2, 8, 0, 'o', 't', 'h', 'e', 'r', 3}, 11}};
+  for (const auto& [frame, error] : cases) EXPECT_EQ(transfer(frame), error);
+}
+
+TEST_F(EngineTest, LineThatGoesAwayEndsInAnError) {
+  Start(kLocal, {.unplug_after = 2});
+  Open();
+  WriteTp();
+  ASSERT_EQ(LinkError, kLinkOk);
+  EXPECT_FALSE(ReadTp());  // goes with the request, and nobody is left to answer
+  EXPECT_EQ(BoxText(), "TP:   [ TX ] serial timeout    ");
+  EXPECT_NEAR(time.Elapsed(), kTimeOut, 0.001);
+  EXPECT_FALSE(ReadTp());
+  EXPECT_EQ(BoxText(), "TP: [ TX ] serial unconnected  ");
+  EXPECT_NEAR(time.Elapsed(), kTimeOut, 0.001);
+  line->Replug();
+  Open();
+  WriteTp();
+  EXPECT_EQ(LinkError, kLinkOk);
+}
+
 TEST_F(EngineTest, TextsThatNothingSetsStandInTheTableToo) {
   const std::pair<std::int16_t, const char*> cases[] = {
       {0, "                            "},  {17, "[ RX ] pointer value too big"},
@@ -168,9 +209,7 @@ TEST_F(EngineTest, ReadThatTimesOutThreeTimesAsksThreeTimes) {
   StartLocal();
   port.answer = [](const Bytes&) { return Bytes{kAck}; };
   EXPECT_FALSE(ReadTp());
-  EXPECT_EQ(port.written, Bytes(Sealed({2, 2, 0, 3})).empty()
-                              ? port.written
-                              : std::vector<Bytes>(3, Sealed({2, 2, 0, 3})));
+  EXPECT_EQ(port.written, std::vector<Bytes>(3, Sealed({2, 2, 0, 3})));
   EXPECT_NEAR(time.Elapsed(), 45, 0.001);
   EXPECT_EQ(dialogs.boxes.size(), 1U);
 }
@@ -280,10 +319,35 @@ TEST_F(EngineTest, WaitAcrossMidnightEndsByAnAnswerOrByEscOnly) {
   WriteTp();
   EXPECT_EQ(LinkError, kErrorAborted);
 
+  port.answer = [](const Bytes&) { return Bytes{kAck}; };
+  time.SetTimer(86400 - 5);
+  time.After(800, [this] { port.Receive(Sealed({2, 2, 0, '1', 3})); });
+  EXPECT_TRUE(ReadTp());
+  EXPECT_GE(time.Elapsed(), 800);
+
   // The same silence ends by itself on any other hour.
+  port.answer = [](const Bytes&) { return Bytes{}; };
   time.SetTimer(100);
   WriteTp();
   EXPECT_EQ(LinkError, kErrorTxTimeout);
+}
+
+TEST_F(EngineTest, PauseAcrossMidnightEndsByEscOnly) {
+  StartLocal();
+  time.SetTimer(86400 - 0.1);
+  time.After(300, [] {});
+  time.After(600, [] { EscPressed = true; });
+  WaitSeconds(0.2F);
+  EXPECT_NEAR(time.Elapsed(), 600, 0.001);
+  EXPECT_TRUE(EscPressed);  // for the transfer that comes next
+
+  // The pause of an abort has its ESC already; it ends at the next event after its time.
+  port.answer = [](const Bytes&) { return Bytes{}; };
+  time.SetTimer(86400 - 0.1);
+  for (const double tick : {0.05, 0.15, 0.25}) time.After(tick, [] {});
+  WriteTp();
+  EXPECT_EQ(LinkError, kErrorAborted);
+  EXPECT_NEAR(time.Elapsed(), 0.25, 0.001);
 }
 
 TEST_F(EngineTest, ClosedLinkWritesNothing) {
