@@ -134,8 +134,8 @@ TEST_F(EngineTest, OnlyABadStartOrEndEmptiesTheQueue) {
                                                 {Sealed({1, 2, 0, '1', 3}), kErrorRxStart, true},
                                                 {Sealed({2, 2, 0, '1', 4}), kErrorRxLength, true}};
   for (const auto& [answer, error, emptied] : cases) {
-    port.answer = [&answer](const Bytes&) {
-      Bytes bytes = answer;
+    port.answer = [&reply = answer](const Bytes&) {
+      Bytes bytes = reply;
       bytes.insert(bytes.begin(), kAck);
       bytes.push_back('x');  // one too many
       return bytes;
