@@ -12,9 +12,6 @@ namespace corvalis::desktop {
 namespace {
 constexpr int kWidth = 320;
 constexpr int kHeight = 10;
-// The bar ticks a hundred times a second. Drawn at every fourth tick it looks as smooth, and a wait
-// stays cheap.
-constexpr int kDrawnTicks = 4;
 }  // namespace
 
 ProgressBarWidget::ProgressBarWidget(ProgressBar& bar, QWidget* parent) : QWidget(parent) {
@@ -31,8 +28,7 @@ ProgressBarWidget::ProgressBarWidget(ProgressBar& bar, QWidget* parent) : QWidge
 QSize ProgressBarWidget::sizeHint() const { return {kWidth, kHeight}; }
 
 int ProgressBarWidget::Filled() const {
-  const int drawn = (value_ - ProgressBar::kMin) / kDrawnTicks * kDrawnTicks;
-  return width() * drawn / (ProgressBar::kMax - ProgressBar::kMin);
+  return width() * (value_ - ProgressBar::kMin) / (ProgressBar::kMax - ProgressBar::kMin);
 }
 
 void ProgressBarWidget::paintEvent(QPaintEvent* event) {
