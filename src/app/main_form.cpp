@@ -79,7 +79,6 @@ MainForm::~MainForm() {
 }
 
 void MainForm::Load() {
-  const ProfileStore::Series series(*Machine().profiles);
   window.Show();
   window.SetEnabled(false);
   window.SetCaption(std::string(kDesignCaption) + kVersion);
@@ -121,7 +120,6 @@ void MainForm::InitMain() {
 }
 
 void MainForm::New() {
-  const ProfileStore::Series series(*Machine().profiles);
   window.SetEnabled(false);
   ShowWait();
   configData->GetIniFile();
@@ -133,7 +131,6 @@ void MainForm::New() {
 }
 
 void MainForm::Open() {
-  const ProfileStore::Series series(*Machine().profiles);
   window.SetEnabled(false);
   configData->SetFile(Text105.Text());
   configData->GetIni();

@@ -264,6 +264,21 @@ TEST_F(MainFormTest, OpenBringsTheLanguageOfItsFile) {
   EXPECT_EQ(TheWaitForm().WaitMessage.Caption(), "Un instant !");
 }
 
+TEST_F(MainFormTest, FilesAreSafeWhileABoxWaitsForTheOperator) {
+  port.missing[1] = "No such file or directory";
+  int boxes = 0;
+  dialogs.Shown = [&] {
+    ++boxes;
+    for (const auto& entry : std::filesystem::directory_iterator(machine.program_folder)) {
+      EXPECT_FALSE(entry.path().filename().string().starts_with(".")) << entry.path();
+    }
+  };
+  Run("");
+  std::filesystem::remove(machine.program_folder + "/Language.ini");
+  form->OpenButton.Press();
+  EXPECT_EQ(boxes, 2);
+}
+
 TEST_F(MainFormTest, EndTellsThatItWaitsForASilentCoder) {
   Run("[Serial Setup]\nSatellite=Off\n");
   port.answer = [](const Bytes&) { return Bytes{}; };
