@@ -49,7 +49,7 @@ void Play(Modem& modem, const std::vector<Step>& steps) {
   }
 }
 
-TEST(Modem, AnswersCommandLines) {
+TEST(CoderModem, AnswersCommandLines) {
   const struct {
     std::string line;
     std::string answer;
@@ -80,7 +80,7 @@ TEST(Modem, AnswersCommandLines) {
   }
 }
 
-TEST(Modem, DialsWithEachOutcome) {
+TEST(CoderModem, DialsWithEachOutcome) {
   const struct {
     Calls calls;
     std::string line;
@@ -106,7 +106,7 @@ TEST(Modem, DialsWithEachOutcome) {
   }
 }
 
-TEST(Modem, CarriesTheCallAndTellsTheEscapeFromData) {
+TEST(CoderModem, CarriesTheCallAndTellsTheEscapeFromData) {
   const struct {
     const char* name;
     std::vector<Step> steps;
@@ -150,7 +150,7 @@ TEST(Modem, CarriesTheCallAndTellsTheEscapeFromData) {
   }
 }
 
-TEST(Modem, GivesUpDiallingForAByteButNotForTheLineFeed) {
+TEST(CoderModem, GivesUpDiallingForAByteButNotForTheLineFeed) {
   Modem modem;
   Play(modem, {{"ATDT1\r", "ATDT1\r"}, {"\n", ""}});
   EXPECT_TRUE(modem.Dialling());
@@ -158,25 +158,25 @@ TEST(Modem, GivesUpDiallingForAByteButNotForTheLineFeed) {
   EXPECT_FALSE(modem.Dialling());
 }
 
-TEST(Modem, KeepsTheLineFeedOfTheDialTextFromTheCoder) {
+TEST(CoderModem, KeepsTheLineFeedOfTheDialTextFromTheCoder) {
   Modem modem;
   Play(modem, {{"ATDT1\r", "ATDT1\r"}, kConnect, {"\n\n\5", "", "\n\5"}});
 }
 
-TEST(Modem, WithoutPowerSaysNothingAtAll) {
+TEST(CoderModem, WithoutPowerSaysNothingAtAll) {
   Modem modem(Calls::kSilent);
   Play(modem, {{"AT\r", ""}, {"ATDT800\r\n", ""}, {"+++", ""}, {kPause, ""}, {"ATI\r", ""}});
   EXPECT_FALSE(modem.Dialling());
   EXPECT_FALSE(modem.Online());
 }
 
-TEST(Modem, ForgetsAnEndlessLine) {
+TEST(CoderModem, ForgetsAnEndlessLine) {
   Modem modem;
   static_cast<void>(modem.Take(Bytes(100'000, 'x')));
   Play(modem, {{"AT\r", "AT\r\r\nOK\r\n"}});
 }
 
-TEST(Modem, TellsWhatHappenedInWords) {
+TEST(CoderModem, TellsWhatHappenedInWords) {
   std::vector<std::string> said;
   const auto tell = [&said](const std::string& what) { said.push_back(what); };
   Modem modem;
