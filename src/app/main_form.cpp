@@ -45,7 +45,9 @@ MainForm::MainForm()
   MSComm1.CommEventRaised = OnComm;
   window.Unloading = [this] { Unload(); };
 
+  Drive1.GotFocus = [this] { Drive1.Refresh(); };  // a medium may have come or gone
   Drive1.Click = [this] { DriveChanged(); };
+  Dir1.Click = [this] { File1.Refresh(); };
   Dir1.Change = [this] { DirChanged(); };
   File1.Click = [this] { FileClicked(); };
   File1.PathChange = [this] { File1.Refresh(); };
@@ -77,7 +79,6 @@ MainForm::~MainForm() {
 }
 
 void MainForm::Load() {
-  const ProfileStore::Series series(*Machine().profiles);
   window.Show();
   window.SetEnabled(false);
   window.SetCaption(std::string(kDesignCaption) + kVersion);
@@ -119,7 +120,6 @@ void MainForm::InitMain() {
 }
 
 void MainForm::New() {
-  const ProfileStore::Series series(*Machine().profiles);
   window.SetEnabled(false);
   ShowWait();
   configData->GetIniFile();
@@ -131,12 +131,12 @@ void MainForm::New() {
 }
 
 void MainForm::Open() {
-  const ProfileStore::Series series(*Machine().profiles);
   window.SetEnabled(false);
   configData->SetFile(Text105.Text());
   configData->GetIni();
   languageData->InitLanguage();
   InitMain();
+  TheWaitForm().InitMask();
   ShowWait();
   OpenLink(MSComm1);
   if (LinkOpen) ProbeCoder();
@@ -155,13 +155,18 @@ void MainForm::Save() {
     globals_.Store();
   }
   File1.Refresh();
+  MatchFile();
   HideWait();
   FocusBack();
 }
 
 void MainForm::Unload() {
   window.SetEnabled(false);
-  if (configData->Modem() ? configData->ModemHookOn() : LinkOpen) SendEnq();
+  if (configData->Modem() ? configData->ModemHookOn() : LinkOpen) {
+    ShowWait();  // a Coder that has gone silent keeps the operator waiting
+    SendEnq();
+    HideWait();
+  }
   ReleaseLink();
   globals_.Release();
   if (Ended) Ended();
@@ -193,9 +198,14 @@ void MainForm::ShowFolder() {
   const std::string path = configData->Path();
   Drive1.Refresh();
   Drive1.SetDrive(path);
-  Dir1.SetPath(path);
-  configData->SetDrive(drive);
-  configData->SetPath(path);
+  if (Dir1.SetPath(path)) {
+    configData->SetDrive(drive);
+    configData->SetPath(path);
+  } else if (!Dir1.Path().empty()) {
+    // There is no such folder. Save is to write where the panel is then, not into nowhere.
+    configData->SetDrive(Drive1.Drive());
+    configData->SetPath(Dir1.Path());
+  }
 }
 
 void MainForm::MatchFile() {

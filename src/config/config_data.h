@@ -84,12 +84,15 @@ class ConfigData {
   [[nodiscard]] std::int16_t StopBit() const { return stop_bit_; }
   void SetStopBit(std::int16_t stop_bit) { stop_bit_ = stop_bit; }
 
+  /// A whole PI value that old files hold. Read from the file, never stored, used by nothing else.
   [[nodiscard]] std::int32_t Pi() const { return pi_; }
   void SetPi(std::int32_t pi) { pi_ = pi; }
 
-  // What this Coder model offers; from the file alone.
+  /// True: AF method A lists are in use; false: method B.
   [[nodiscard]] bool AfMethodA() const { return af_method_a_; }
   void SetAfMethodA(bool method_a) { af_method_a_ = method_a; }
+
+  // What this Coder model offers; from the file alone.
   [[nodiscard]] bool GroupsEnable() const { return groups_enable_; }
   [[nodiscard]] bool GroupsBEnable() const { return groups_b_enable_; }
   [[nodiscard]] bool EonEnable() const { return eon_enable_; }

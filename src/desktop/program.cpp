@@ -1,5 +1,8 @@
 #include "desktop/program.h"
 
+#include <pwd.h>
+#include <unistd.h>
+
 #include <QApplication>
 #include <QDir>
 
@@ -10,6 +13,13 @@
 namespace corvalis::desktop {
 
 namespace {
+
+// Started without a login (by a service, by sudo), the program may not be told the home folder; the
+// root of the file system, which would be taken instead, is no place for its files.
+void KnowHomeFolder() {
+  if (!qEnvironmentVariableIsEmpty("HOME")) return;
+  if (const passwd* user = getpwuid(getuid())) qputenv("HOME", user->pw_dir);
+}
 
 // A folder of the program's own under the one that `variable` names, else under `otherwise` in the
 // home folder. It is made if it is missing; where that fails, reading finds nothing and writing is
@@ -25,6 +35,7 @@ std::string OwnFolder(const char* variable, const QString& otherwise) {
 }  // namespace
 
 Program::Program() {
+  KnowHomeFolder();
   ApplyStyle(*qApp);
   QApplication::setQuitOnLastWindowClosed(false);
   platform_.clock = &time_;

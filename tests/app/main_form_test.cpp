@@ -222,6 +222,82 @@ TEST_F(MainFormTest, FolderThatCantBeWrittenLosesAndShowsNothing) {
   EXPECT_TRUE(form->window.Enabled());
 }
 
+TEST_F(MainFormTest, PanelAndRecordAgreeWhereTheProgramHasNoFolder) {
+  Run("");
+  form.reset();
+  machine.program_folder = ProgramFile() + "/no folder";
+  form = std::make_unique<MainForm>();
+  form->Load();
+  EXPECT_TRUE(form->window.Enabled());
+  EXPECT_TRUE(dialogs.boxes.empty());
+  EXPECT_EQ(configData->Path(), form->Dir1.Path());
+
+  form->Dir1.SetPath(folder);
+  form->NewButton.Press();
+  EXPECT_EQ(form->Dir1.Path(), folder);
+  EXPECT_EQ(configData->Path(), folder);
+  form->SaveButton.Press();
+  EXPECT_EQ(profiles.Read(folder + "/corvalis.rds", "PI", "Country"), "5");
+}
+
+TEST_F(MainFormTest, FileListFollowsTheFolder) {
+  Run("");
+  form->File1.Choose(0);
+  WriteFile(machine.program_folder + "/from a stick.rds", "");
+  form->Dir1.Choose(form->Dir1.Here());
+  EXPECT_EQ(form->File1.Count(), 2);
+  EXPECT_EQ(form->File1.FileName(), "corvalis.rds");
+  form->Text105.SetText("tonight.rds");
+  form->SaveButton.Press();
+  EXPECT_EQ(form->File1.Count(), 3);
+  EXPECT_EQ(form->File1.FileName(), "tonight.rds");
+}
+
+TEST_F(MainFormTest, OpenBringsTheLanguageOfItsFile) {
+  Run("");
+  WriteFile(machine.program_folder + "/fr.ini",
+            "[MAIN]\nSaveKeyMsg=ENREGISTRER\n[MESSAGE]\nWaitKeyMsg=Un instant !\n");
+  WriteFile(machine.program_folder + "/fr.rds", "[Language]\nName0=F\nFileName0=fr.ini\n");
+  form->Text105.SetText("fr.rds");
+  form->OpenButton.Press();
+  EXPECT_EQ(form->SaveButton.Caption(), "ENREGISTRER");
+  EXPECT_EQ(TheWaitForm().WaitMessage.Caption(), "Un instant !");
+}
+
+TEST_F(MainFormTest, FilesAreSafeWhileABoxWaitsForTheOperator) {
+  port.missing[1] = "No such file or directory";
+  int boxes = 0;
+  dialogs.Shown = [&] {
+    ++boxes;
+    for (const auto& entry : std::filesystem::directory_iterator(machine.program_folder)) {
+      EXPECT_FALSE(entry.path().filename().string().starts_with(".")) << entry.path();
+    }
+  };
+  Run("");
+  std::filesystem::remove(machine.program_folder + "/Language.ini");
+  form->OpenButton.Press();
+  EXPECT_EQ(boxes, 2);
+}
+
+TEST_F(MainFormTest, EndTellsThatItWaitsForASilentCoder) {
+  Run("[Serial Setup]\nSatellite=Off\n");
+  port.answer = [](const Bytes&) { return Bytes{}; };
+  int looked = 0;
+  time.After(1, [&] {
+    ++looked;
+    EXPECT_TRUE(TheWaitForm().window.Visible());
+    EXPECT_EQ(TheWaitForm().window.OwnerWindow(), &form->window);
+    form->window.Close();
+  });
+  int ended = 0;
+  form->Ended = [&] { ++ended; };
+  form->window.Close();
+  EXPECT_EQ(looked, 1);
+  EXPECT_EQ(ended, 1);
+  EXPECT_EQ(dialogs.boxes.size(), 1U);
+  EXPECT_FALSE(TheWaitForm().window.Visible());
+}
+
 TEST_F(MainFormTest, EndSendsEnqWhereTheCoderCanBeReached) {
   struct Case {
     const char* file;
