@@ -113,7 +113,7 @@ void WindowView::Leave() {
 void WindowView::Draw() {
   const QString title = FromBytes(model_->Caption());
   if (windowTitle() != title) setWindowTitle(title);
-  if (!model_->Visible()) hide();
+  if (!model_->Visible()) TakeDown();
   RunTimers();
   if (model_->Enabled()) {
     veil_delay_.stop();
@@ -122,6 +122,15 @@ void WindowView::Draw() {
     veil_delay_.start();
   }
   ShowFocus();
+}
+
+// A window that is hidden before the window manager has put it up is put up all the same for a
+// moment, and with its late activation it would keep the keyboard from whatever is in front. So the
+// system's window goes, and with it all that is still on the way to it.
+void WindowView::TakeDown() {
+  if (isHidden()) return;
+  hide();
+  if (windowHandle() != nullptr) windowHandle()->destroy();
 }
 
 void WindowView::RunTimers() {

@@ -35,6 +35,7 @@ class WindowView : public QWidget {
 
  private:
   void Draw();
+  void TakeDown();
   void RunTimers();
   void PlaceBefore(QWidget& owner);
   void MoveFocus(QWidget* now);
