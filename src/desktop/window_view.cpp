@@ -97,8 +97,10 @@ void WindowView::PlaceBefore(QWidget& owner) {
   winId();  // a window of the system must be there to be tied to the owner's
   windowHandle()->setTransientParent(owner.window()->windowHandle());
   adjustSize();
-  move(owner.frameGeometry().center() - rect().center());
+  move(PlaceOver(owner.frameGeometry()));
 }
+
+QPoint WindowView::PlaceOver(const QRect& owner) const { return owner.center() - rect().center(); }
 
 void WindowView::Leave() {
   model_ = nullptr;
