@@ -158,6 +158,7 @@ void PiEccLicTab::Open() {
 
 void PiEccLicTab::FillLists() {
   std::vector<std::string> names;
+  names.reserve(kCountries);
   for (int line = 0; line < kCountries; ++line) {
     names.push_back(CountryName(CountriesByName().RowOfLine(line)));
   }
