@@ -34,7 +34,7 @@ CalendarWidget::CalendarWidget(Calendar& calendar, QWidget* parent)
   setVerticalHeaderFormat(QCalendarWidget::NoVerticalHeader);
   setHorizontalHeaderFormat(QCalendarWidget::ShortDayNames);
   setDateEditEnabled(false);
-  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  setSizePolicy(QSizePolicy::Fixed, QSizePolicy::MinimumExpanding);
   DressParts();
   connect(this, &QCalendarWidget::selectionChanged, this, [this] {
     calendar_.Pick(FromDate(selectedDate()));
@@ -84,7 +84,9 @@ void CalendarWidget::paintEvent(QPaintEvent* /*event*/) {
 
 void CalendarWidget::Draw() {
   const QSignalBlocker silent(this);
-  if (const QDate date = ToDate(calendar_.Date()); selectedDate() != date) setSelectedDate(date);
+  const QDate date = ToDate(calendar_.Date());
+  if (selectedDate() != date) setSelectedDate(date);
+  setCurrentPage(date.year(), date.month());
 }
 
 bool CalendarWidget::eventFilter(QObject* watched, QEvent* event) {

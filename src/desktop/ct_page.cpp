@@ -1,6 +1,7 @@
 #include "desktop/ct_page.h"
 
 #include <QGroupBox>
+#include <QLabel>
 
 #include "desktop/calendar_widget.h"
 #include "desktop/layout.h"
@@ -16,6 +17,14 @@ constexpr int kTimeColumns = 5;
 constexpr int kOffsetColumns = 5;
 constexpr int kPsnColumns = 3;
 
+QWidget* Unit(const char* symbol, QWidget* parent) {
+  auto* label = new QLabel(QString::fromLatin1(symbol), parent);
+  QPalette palette = label->palette();
+  palette.setColor(QPalette::WindowText, QColor(colours::kQuietText));
+  label->setPalette(palette);
+  return label;
+}
+
 // The hour's arrows before the time, the minute's behind it.
 QWidget* Time(CtTab& tab, QWidget* parent) {
   auto* group = new QWidget(parent);
@@ -23,7 +32,9 @@ QWidget* Time(CtTab& tab, QWidget* parent) {
   QHBoxLayout* row = Row(group);
   row->setSpacing(kTight);
   row->addWidget(new SpinnerWidget(tab.VScroll2, group));
+  row->addWidget(Unit("h", group));
   row->addWidget(CodeBox(tab.Text1, kTimeColumns, group));
+  row->addWidget(Unit("min", group));
   row->addWidget(new SpinnerWidget(tab.VScroll1, group));
   return group;
 }
@@ -43,11 +54,14 @@ CtPage::CtPage(CtTab& tab, QWidget* parent) : QWidget(parent) {
   AddField(*fields, tab.HourPsnLabel, FixedBox(tab.Text8, kPsnColumns, time));
   AddLine(*fields, ButtonRow({&tab.Command1, &tab.Command2}, time));
 
-  QHBoxLayout* row = Row(this);
-  row->setContentsMargins(0, kApart, 0, 0);
+  auto* row = new QHBoxLayout;
   row->setSpacing(kApart);
-  row->addWidget(date, 0, Qt::AlignTop);
-  row->addWidget(time, 1, Qt::AlignTop);
+  row->addWidget(date);
+  row->addWidget(time, 1);
+  QVBoxLayout* column = Column(this);
+  column->setContentsMargins(0, kApart, 0, 0);
+  column->addLayout(row);
+  column->addStretch(1);
 }
 
 }  // namespace corvalis::desktop

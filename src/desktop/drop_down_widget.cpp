@@ -1,9 +1,12 @@
 #include "desktop/drop_down_widget.h"
 
 #include <QAbstractItemView>
+#include <QCoreApplication>
 #include <QKeyEvent>
+#include <QMouseEvent>
 #include <QSignalBlocker>
 #include <QWheelEvent>
+#include <QWindow>
 
 #include "desktop/binding.h"
 #include "desktop/list_keys.h"
@@ -90,7 +93,37 @@ bool DropDownWidget::TakenInPopup(const QKeyEvent& event) {
   return key != kKeyCancelled || list_.PointerOnly();
 }
 
+void DropDownWidget::showPopup() {
+  QComboBox::showPopup();
+  view()->window()->installEventFilter(this);
+}
+
+bool DropDownWidget::PressedBeside(const QMouseEvent& event) {
+  const QPointF at = event.globalPosition();
+  QWidget* popup = view()->window();
+  const auto in = [&at](const QWidget& widget) {
+    return widget.rect().contains(widget.mapFromGlobal(at.toPoint()));
+  };
+  if (in(*popup) || in(*this)) return false;
+  popup->setAttribute(Qt::WA_NoMouseReplay);  // where the toolkit would do the rest itself
+  hidePopup();
+  if (!in(*window())) return true;
+  const QPointF there = window()->mapFromGlobal(at);
+  QWidget* hit = window()->childAt(there.toPoint());
+  while (hit != nullptr && (hit->focusPolicy() & Qt::ClickFocus) == 0) hit = hit->parentWidget();
+  if (hit != nullptr && hit->isEnabled()) hit->setFocus(Qt::MouseFocusReason);
+  QCoreApplication::postEvent(
+      window()->windowHandle(),
+      new QMouseEvent(event.type(), there, at, event.button(), event.buttons(), event.modifiers()));
+  return true;
+}
+
 bool DropDownWidget::eventFilter(QObject* watched, QEvent* event) {
+  // One press, though a list stands open: it closes, and what was pressed is pressed.
+  if (watched == view()->window() && event->type() == QEvent::MouseButtonPress &&
+      PressedBeside(*static_cast<QMouseEvent*>(event))) {
+    return true;
+  }
   if (watched == view() && event->type() == QEvent::KeyPress &&
       TakenInPopup(*static_cast<QKeyEvent*>(event))) {
     return true;

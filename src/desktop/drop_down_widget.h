@@ -20,6 +20,7 @@ class DropDownWidget : public QComboBox {
                  TextBox::Content content = TextBox::Content::kWindows1252);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
+  void showPopup() override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -32,6 +33,8 @@ class DropDownWidget : public QComboBox {
 
  private:
   [[nodiscard]] bool TakenInPopup(const QKeyEvent& event);
+  // Closes the list and passes on a press that is neither in it nor on the box.
+  [[nodiscard]] bool PressedBeside(const QMouseEvent& event);
   void Choose(int index);
 
   ListBox& list_;

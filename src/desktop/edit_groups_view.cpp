@@ -14,7 +14,13 @@ namespace corvalis::desktop {
 namespace {
 
 constexpr int kRepetitionColumns = 3;
-constexpr int kPercentWidth = 48;
+constexpr int kPercentWidth = 42;
+constexpr int kSelectedWidth = 88;
+// A box and a number for each version, then what they make together.
+constexpr int kVersionAColumn = 0;
+constexpr int kVersionBColumn = 2;
+constexpr int kShareColumn = 4;
+constexpr int kBarColumn = 5;
 constexpr int kBlock = kGroupNumbers / 2;
 
 void AddGroup(EditGroupsForm& form, int group, QGridLayout& grid, int row, int column,
@@ -32,18 +38,29 @@ QWidget* Block(EditGroupsForm& form, int first, QWidget* parent) {
   grid->setVerticalSpacing(kTight);
   for (int row = 0; row < kBlock; ++row) {
     const int number = first + row;
-    AddGroup(form, number, *grid, row, 0, block);
-    AddGroup(form, number + kGroupNumbers, *grid, row, 3, block);
+    AddGroup(form, number, *grid, row, kVersionAColumn, block);
+    AddGroup(form, number + kGroupNumbers, *grid, row, kVersionBColumn, block);
     auto* share = new LabelWidget(form.PercentText[number], block);
     share->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     share->setFixedWidth(kPercentWidth);
-    grid->addWidget(share, row, 6);
-    grid->addWidget(new MeterWidget(form.PercentBar[number], block), row, 7);
+    grid->addWidget(share, row, kShareColumn);
+    grid->addWidget(new MeterWidget(form.PercentBar[number], block), row, kBarColumn);
   }
-  grid->setColumnMinimumWidth(2, kNear);
-  grid->setColumnMinimumWidth(5, kNear);
-  grid->setColumnStretch(7, 1);
+  grid->setColumnStretch(kBarColumn, 1);
   return block;
+}
+
+// What the two buttons beside it are about: as wide as the longest name, so that they stand still.
+QWidget* Selected(EditGroupsForm& form, QWidget* parent) {
+  auto* part = new QWidget(parent);
+  QHBoxLayout* row = Row(part);
+  row->setSpacing(kGap);
+  auto* name = new LabelWidget(form.SelectedLabel, part);
+  name->setFont(Bold(name->font()));
+  name->setFixedWidth(kSelectedWidth);
+  row->addWidget(name);
+  row->addWidget(ButtonRow({&form.Command2, &form.Command11}, part));
+  return part;
 }
 
 }  // namespace
@@ -57,10 +74,10 @@ EditGroupsView::EditGroupsView(EditGroupsForm& form) : WindowView(form.window) {
   QVBoxLayout* column = WindowColumn(this);
   column->addLayout(blocks, 1);
   auto* row = new QHBoxLayout;
-  row->addWidget(new LabelWidget(form.SelectedLabel, this));
-  row->addStretch();
-  row->addWidget(ButtonRow(
-      {&form.Command2, &form.Command13, &form.Command11, &form.Command1, &form.Command12}, this));
+  row->setSpacing(kGap);
+  row->addWidget(Selected(form, this));
+  row->addStretch(1);
+  row->addWidget(ButtonRow({&form.Command13, &form.Command1, &form.Command12}, this));
   column->addLayout(row);
 }
 

@@ -13,6 +13,7 @@ namespace {
 
 constexpr double kPointSize = 34;
 constexpr int kLeastWidth = 300;
+constexpr int kLeastHeight = 170;
 constexpr double kCorner = 6;
 
 QFont LargeFont(const QWidget& widget) {
@@ -30,11 +31,12 @@ IndicatorWidget::IndicatorWidget(CheckBox& box, QWidget* parent) : QWidget(paren
 QSize IndicatorWidget::sizeHint() const {
   const QFontMetrics metrics(LargeFont(*this));
   return {std::max(metrics.horizontalAdvance(FromBytes(box_.Caption())) + 4 * kApart, kLeastWidth),
-          metrics.height() + 2 * kApart};
+          std::max(metrics.height() + 2 * kApart, kLeastHeight)};
 }
 
 void IndicatorWidget::mousePressEvent(QMouseEvent* event) {
-  if (event->button() == Qt::LeftButton) box_.Press();
+  // It only shows: a press changes nothing, and leaves the keyboard where it is.
+  event->accept();
 }
 
 void IndicatorWidget::paintEvent(QPaintEvent* /*event*/) {

@@ -9,6 +9,7 @@ namespace corvalis::desktop {
 
 namespace {
 constexpr int kWidth = 120;
+constexpr int kLeastWidth = 56;
 constexpr int kHeight = 12;
 }  // namespace
 
@@ -18,6 +19,8 @@ MeterWidget::MeterWidget(Meter& meter, QWidget* parent) : QWidget(parent), meter
 }
 
 QSize MeterWidget::sizeHint() const { return {kWidth, kHeight}; }
+
+QSize MeterWidget::minimumSizeHint() const { return {kLeastWidth, kHeight}; }
 
 void MeterWidget::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);

@@ -12,6 +12,7 @@ class MeterWidget : public QWidget {
   MeterWidget(Meter& meter, QWidget* parent);
 
   [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
   void paintEvent(QPaintEvent* event) override;

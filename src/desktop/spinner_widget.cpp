@@ -77,6 +77,9 @@ void SpinnerWidget::paintEvent(QPaintEvent* /*event*/) {
   }
   DrawArrow(painter, QRectF(up).translated(0, 1), true, isEnabled());
   DrawArrow(painter, QRectF(down).translated(0, -1), false, isEnabled());
+  // Within a field, the field shows the focus.
+  const bool alone = (focusPolicy() & Qt::TabFocus) != 0;
+  if (alone && hasFocus()) DrawFocusRing(painter, rect());
 }
 
 SpinField::SpinField(TextBox& box, Spinner& spinner, int columns, QWidget* parent)
@@ -85,6 +88,7 @@ SpinField::SpinField(TextBox& box, Spinner& spinner, int columns, QWidget* paren
   number->setFrame(false);
   box_ = number;
   spinner_ = new SpinnerWidget(spinner, this);
+  spinner_->setFocusPolicy(Qt::ClickFocus);  // the box steps it from the keyboard
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(2, 2, 2, 2);
   row->setSpacing(0);
@@ -92,7 +96,8 @@ SpinField::SpinField(TextBox& box, Spinner& spinner, int columns, QWidget* paren
   row->addWidget(spinner_);
   setFixedHeight(kControlHeight);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-  for (QWidget* part : {box_, spinner_}) part->installEventFilter(this);
+  box_->installEventFilter(this);
+  spinner_->installEventFilter(this);
 }
 
 bool SpinField::eventFilter(QObject* watched, QEvent* event) {
@@ -109,7 +114,12 @@ bool SpinField::eventFilter(QObject* watched, QEvent* event) {
 void SpinField::paintEvent(QPaintEvent* /*event*/) {
   QPainter painter(this);
   DrawField(painter, rect(),
-            {.enabled = spinner_->isEnabled(), .focus = box_->hasFocus() || spinner_->hasFocus()});
+            {.enabled = spinner_->isEnabled(),
+             .focus = box_->hasFocus() || spinner_->hasFocus(),
+             .display_only = box_->isReadOnly()});
+  if (box_->isReadOnly() && spinner_->isEnabled()) {
+    painter.fillRect(spinner_->geometry(), QColor(colours::kField));
+  }
   painter.setPen(QColor(colours::kFaintBorder));
   const int x = spinner_->x();
   painter.drawLine(x, kTight, x, height() - kTight - 1);

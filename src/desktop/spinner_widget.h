@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLineEdit>
 #include <QTimer>
 #include <QWidget>
 
@@ -44,7 +45,7 @@ class SpinField : public QWidget {
   void paintEvent(QPaintEvent* event) override;
 
  private:
-  QWidget* box_;
+  QLineEdit* box_;
   QWidget* spinner_;
 };
 

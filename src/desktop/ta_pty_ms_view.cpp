@@ -25,7 +25,10 @@ QWidget* Switch(Label& title, std::initializer_list<CheckBox*> states, Button& t
                 QWidget* parent) {
   auto* group = new LabelledGroup(title, parent);
   auto* column = new QVBoxLayout(group);
-  for (CheckBox* state : states) column->addWidget(new IndicatorWidget(*state, group), 1);
+  // All in one place: only one of them shows, and the window keeps its size when they change over.
+  auto* place = new QGridLayout;
+  for (CheckBox* state : states) place->addWidget(new IndicatorWidget(*state, group), 0, 0);
+  column->addLayout(place, 1);
   column->addWidget(LargeButton(toggle, group));
   return group;
 }

@@ -6,6 +6,7 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 #include <QWindow>
+#include <algorithm>
 
 #include "desktop/binding.h"
 #include "desktop/style.h"
@@ -20,6 +21,8 @@ namespace {
 
 constexpr int kVeilDelayMs = 400;  // what is busy for less does not flicker
 constexpr int kVeilAlpha = 120;
+// A timer that is faster than the eye fires several times in a row, so that a wait stays cheap.
+constexpr int kFrameMs = 40;
 
 /// Pales a window that takes no input, without a change in the controls themselves.
 class Veil : public QWidget {
@@ -74,8 +77,11 @@ void WindowView::Present(QWidget* owner) {
       if (timer == nullptr) continue;
       auto* clock = new QTimer(this);
       clock->setTimerType(Qt::PreciseTimer);
-      clock->setInterval(timer->IntervalMs());
-      connect(clock, &QTimer::timeout, this, [timer] { timer->Fire(); });
+      const int ticks = std::max(kFrameMs / timer->IntervalMs(), 1);
+      clock->setInterval(ticks * timer->IntervalMs());
+      connect(clock, &QTimer::timeout, this, [timer, ticks] {
+        for (int i = 0; i < ticks; ++i) timer->Fire();
+      });
       timer->Drawn = [this] { RunTimers(); };
       timers_.emplace(timer, clock);
     }

@@ -1,6 +1,5 @@
 #include "link/body.h"
 
-#include <algorithm>
 #include <string>
 
 #include "config/conversions.h"

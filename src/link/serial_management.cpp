@@ -1,6 +1,5 @@
 #include "link/serial_management.h"
 
-#include <algorithm>
 #include <array>
 #include <optional>
 #include <utility>
@@ -160,6 +159,8 @@ void WaitSeconds(float seconds) {
   Wait wait(seconds);
   do {
     wait.Pump();
+    // Nothing else would ever end a wait that has crossed midnight.
+    if (EscPressed && wait.OverButForMidnight()) return;
   } while (!wait.Expired());
 }
 

@@ -22,9 +22,12 @@ void RunSend(Window& screen, const std::function<void()>& work);
 /// Sends `passes` times, under the rule of `RunSend`. Ends at the first pass that leaves an error.
 void RunBurst(Window& screen, int passes, const std::function<void()>& pass);
 
-/// Sends a live control: no address rule, `ConfigData::Burst` passes on a one-way link and one on
-/// any other, whatever a pass leaves.
-void RunLive(Window& screen, const std::function<void()>& pass);
+/// Sends a live control, as `work` says with `SendLive`. There is no address rule.
+void RunLive(Window& screen, const std::function<void()>& work);
+
+/// Within `RunLive`: `ConfigData::Burst` passes on a one-way link and one on any other, whatever a
+/// pass leaves.
+void SendLive(const std::function<void()>& pass);
 
 /// The loop of every run of frames, to be called inside one of the roads above: clears `LinkError`,
 /// does `item` for 0 to `count` - 1 with events handled after each, and ends at the first that

@@ -6,7 +6,13 @@
 
 namespace corvalis {
 
-Wait::Wait(double seconds) : deadline_(Machine().clock->Timer() + seconds) {}
+namespace {
+
+constexpr double kDay = 86400;
+
+}  // namespace
+
+Wait::Wait(double seconds) : start_(Machine().clock->Timer()), deadline_(start_ + seconds) {}
 
 Wait Wait::Until(double deadline) {
   Wait wait(0);
@@ -23,5 +29,10 @@ void Wait::Pump() {
 }
 
 bool Wait::Expired() const { return Machine().clock->Timer() > deadline_; }
+
+bool Wait::OverButForMidnight() const {
+  const double now = Machine().clock->Timer();
+  return now < start_ && now + kDay > deadline_;
+}
 
 }  // namespace corvalis

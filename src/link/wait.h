@@ -16,8 +16,11 @@ class Wait {
   void Pump();
   /// True once the clock is past the deadline: the start plus the seconds given.
   [[nodiscard]] bool Expired() const;
+  /// True once the time is over for anybody but the clock, which has fallen back at midnight.
+  [[nodiscard]] bool OverButForMidnight() const;
 
  private:
+  double start_;
   double deadline_;
   bool first_ = true;
 };

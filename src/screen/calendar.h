@@ -14,12 +14,14 @@ class Calendar : public Control {
   using Control::Control;
 
   [[nodiscard]] std::chrono::year_month_day Date() const { return date_; }
-  /// Raises `Change` if that is another date. A date that does not exist is not taken.
+  /// Shows the month of `date`, whichever the operator has turned to, and raises `Change` if that
+  /// is another date. A date that does not exist is not taken.
   void SetDate(std::chrono::year_month_day date) {
-    if (date_ == date || !date.ok()) return;
+    if (!date.ok()) return;
+    const bool another = date_ != date;
     date_ = date;
     Redraw();
-    if (Change) Change();
+    if (another && Change) Change();
   }
 
   /// The operator picks a day, which takes the focus.

@@ -50,6 +50,8 @@ void TextBox::Edit(const std::string& text, int caret) {
   if (text_ != text) {
     text_ = text;
     if (Change) Change();
+    // A form that has put another text there has put the caret too.
+    if (text_ != text) return Redraw();
   }
   Select(caret, 0);
 }

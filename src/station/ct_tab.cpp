@@ -105,6 +105,7 @@ void CtTab::StepTime(int hours, int minutes) {
 }
 
 void CtTab::StepOffset(int step) {
+  if (Text9.HasFocus()) TakeOffset();  // a step from the keyboard does not leave the box
   const int offset = configData->CtOffset();
   if (step > 0 ? offset >= kMaxOffset : offset <= -kMaxOffset) return;
   configData->SetCtOffset(static_cast<std::int16_t>(offset + step));
@@ -131,6 +132,7 @@ void CtTab::TakePsn(TextBox& box, PsnGetter own, PsnGetter other, PsnSetter set)
     (configData->*set)(*number);
   } else {
     box.SetText(PsnText((configData->*own)()));
+    box.SelectAll();  // the next digit begins another number
   }
 }
 

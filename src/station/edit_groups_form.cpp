@@ -102,7 +102,7 @@ void EditGroupsForm::Load() {
 
 void EditGroupsForm::Select(int group) {
   selected_ = group;
-  SelectedLabel.SetCaption(GroupName(group));
+  SelectedLabel.SetCaption("Group " + GroupName(group));
 }
 
 void EditGroupsForm::Tick(int group) {
@@ -111,7 +111,7 @@ void EditGroupsForm::Tick(int group) {
   // A box that is set from the table, when the screen opens or reads, comes here as well; that is
   // no choice of the operator's, whose click always brings the focus.
   if (box.HasFocus()) Select(group);
-  box.SetTone(box.Checked() ? CheckBox::Tone::kOn : CheckBox::Tone::kOff);
+  ShowTone(group);
   ShowShares();
 }
 
@@ -125,10 +125,14 @@ void EditGroupsForm::Step(int group, int step) {
 }
 
 void EditGroupsForm::ShowGroup(int group) {
-  const bool active = groupsData->Active(group);
   Text1[group].SetText(Digits(groupsData->Repetitions(group), kRepetitionDigits));
-  Check1[group].SetChecked(active);
-  Check1[group].SetTone(active ? CheckBox::Tone::kOn : CheckBox::Tone::kOff);
+  Check1[group].SetChecked(groupsData->Active(group));
+  ShowTone(group);
+}
+
+void EditGroupsForm::ShowTone(int group) {
+  CheckBox& box = Check1[group];
+  box.SetTone(box.Checked() ? CheckBox::Tone::kOn : CheckBox::Tone::kOff);
 }
 
 void EditGroupsForm::ShowShares() {

@@ -42,6 +42,7 @@ class EditGroupsForm {
 
   // What is shown of one group, from the table.
   void ShowGroup(int group);
+  void ShowTone(int group);
   void ShowShares();
 
   void SendAll();

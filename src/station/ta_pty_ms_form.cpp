@@ -88,19 +88,23 @@ void TaPtyMsForm::SendPtyLive() {
                              .help_file = {}});
     return;
   }
-  RunLive(window, [] { SendPty(configData->Pty()); });
+  RunLive(window, [] { SendLive([] { SendPty(configData->Pty()); }); });
 }
 
 void TaPtyMsForm::ToggleTa() {
-  configData->SetTa(!configData->Ta());
-  RunLive(window, [] { SendTa(configData->Ta()); });
-  ShowTa();
+  RunLive(window, [this] {
+    configData->SetTa(!configData->Ta());
+    SendLive([] { SendTa(configData->Ta()); });
+    ShowTa();
+  });
 }
 
 void TaPtyMsForm::ToggleMs() {
-  configData->SetMusic(!configData->Music());
-  RunLive(window, [] { SendMs(configData->Music()); });
-  ShowMs();
+  RunLive(window, [this] {
+    configData->SetMusic(!configData->Music());
+    SendLive([] { SendMs(configData->Music()); });
+    ShowMs();
+  });
 }
 
 void TaPtyMsForm::ReadAll() {

@@ -11,7 +11,8 @@
 namespace corvalis::test {
 namespace {
 
-using namespace std::chrono;
+using namespace std::chrono_literals;
+using std::chrono::local_days;
 
 constexpr std::array<std::uint8_t, kTdcPayload> kPayload{2, 3, 5, 6, 0x15, 0, 0xFF, 'A'};
 
@@ -47,7 +48,7 @@ class StationCommands : public LinkTest {
 };
 
 TEST_F(StationCommands, WriteTheseBytes) {
-  const DateTime sunday = local_days{2026y / November / 15} + 13h + 45min + 59s;
+  const DateTime sunday = local_days{2026y / std::chrono::November / 15} + 13h + 45min + 59s;
   const std::pair<std::function<void()>, const char*> cases[] = {
       {[] { SendPi(0xD, 2, 0x0A); }, "02 01 00 44 32 30 41 03 07"},
       {[] { SendTp(true); }, "02 02 00 31 03 32"},
@@ -59,21 +60,16 @@ TEST_F(StationCommands, WriteTheseBytes) {
       {[] { SendLic(0x15); }, "02 1A 00 31 35 03 1F"},
       {[] { SendLi(true, false, true, 0x0AB); }, "02 1B 00 31 30 31 30 41 42 03 19"},
       {[=] { SendCt(sunday, 7, 8, 99, -24); },
-       "02 10 00 32 36 31 31 31 35 37 31 33 34 35 30 38 39 39 30 30 03 2C"},
+       "02 10 00 32 36 31 31 31 35 37 31 33 34 35 30 38 39 39 30 30 03 2D"},
       {[=] { SendCt(sunday, 7, 8, 9, 24); },
-       "02 10 00 32 36 31 31 31 35 37 31 33 34 35 30 38 30 39 34 38 03 29"},
+       "02 10 00 32 36 31 31 31 35 37 31 33 34 35 30 38 30 39 34 38 03 28"},
       {[] { SendEnable(31, true, 0xC3); }, "02 09 1F 30 31 43 33 03 66"},
-      {[] { SendTdc(3, kPayload, false); }, "02 11 03 30 02 03 05 06 15 00 FF 41 03 88"},
+      {[] { SendTdc(3, kPayload, false); }, "02 11 03 30 02 03 05 06 15 00 FF 41 03 8A"},
   };
   for (const auto& [send, bytes] : cases) {
     send();
-    // Each checksum is the XOR of the bytes before it, by hand for the first ones.
-    EXPECT_EQ(FrameChecksum(port.written.back()), 0) << bytes;
-    EXPECT_EQ(Request().substr(0, Request().size() - 3),
-              std::string(bytes).substr(0, std::string(bytes).size() - 3));
+    EXPECT_EQ(Request(), bytes);
   }
-  SendPi(0xD, 2, 0x0A);
-  EXPECT_EQ(Request(), "02 01 00 44 32 30 41 03 07");
 }
 
 TEST_F(StationCommands, ReadPi) {
@@ -151,7 +147,8 @@ TEST_F(StationCommands, ReadCt) {
   std::int16_t date_psn = 0;
   std::int16_t hour_psn = 0;
   std::int16_t offset = 0;
-  const std::pair<const char*, year> years[] = {{"29", 2029y}, {"30", 1930y}, {"00", 2000y}};
+  const std::pair<const char*, std::chrono::year> years[] = {
+      {"29", 2029y}, {"30", 1930y}, {"00", 2000y}};
   for (const auto& [digits, year] : years) {
     Answer(0x10, 0,
            std::string(digits) +
@@ -162,7 +159,7 @@ TEST_F(StationCommands, ReadCt) {
                "09"
                "00");
     ReadCt(when, day, date_psn, hour_psn, offset);
-    EXPECT_EQ(when, DateTime(local_days{year / February / 28} + 23h + 59min));
+    EXPECT_EQ(when, DateTime(local_days{year / std::chrono::February / 28} + 23h + 59min));
   }
   EXPECT_EQ(std::tuple(day, date_psn, hour_psn, offset), std::tuple(7, 8, 9, -24));
 
@@ -253,7 +250,7 @@ TEST_F(StationCommands, EveryItemComesBackFromTheCoderAsItWasSent) {
   configData->SetEcc(0xF3);
   configData->SetLic(0x7F);
   configData->SetTp(true);
-  configData->SetDateValue(local_days{2029y / December / 31} + 23h + 59min);
+  configData->SetDateValue(local_days{2029y / std::chrono::December / 31} + 23h + 59min);
   configData->SetDayOfWeek(1);
   configData->SetCtOffset(-3);
   for (const auto send : {&ConfigData::SetPiRds, &ConfigData::SetEccRds, &ConfigData::SetLicRds,

@@ -196,6 +196,18 @@ TEST_F(CtTabTest, OffsetThatNobodyTypedStaysAsItIs) {
   EXPECT_EQ(configData->CtOffset(), 6);
 }
 
+TEST_F(CtTabTest, OffsetStepsFromWhatIsTypedInTheBox) {
+  OpenScreen(kLocal);
+  form->window.MoveFocus(&Tab().Text9);
+  Tab().Text9.Edit("-4", 2);
+  Tab().VScroll6.PressUp();
+  EXPECT_EQ(Tab().Text9.Text(), "-03.5");
+  Tab().VScroll6.PressUp();
+  EXPECT_EQ(configData->CtOffset(), -6);
+  Leave();
+  EXPECT_EQ(configData->CtOffset(), -6);
+}
+
 TEST_F(CtTabTest, OffsetBeyondTheLineIsRefusedByTheCoder) {
   OpenScreen(kLocal);
   const std::string before = Sent();
@@ -238,6 +250,17 @@ TEST_F(CtTabTest, PsnNumbersAreRepairedAtEveryChange) {
   }
   EXPECT_EQ(dialogs.beeps, 0);
   EXPECT_TRUE(dialogs.boxes.empty());
+}
+
+TEST_F(CtTabTest, ADigitAfterARefusedOneBeginsAnotherNumber) {
+  OpenScreen(kLocal);
+  Tab().Text8.Edit("1", 1);
+  Tab().Text7.SelectAll();
+  Tab().Text7.Type("1");  // the hour's number
+  EXPECT_EQ(Tab().Text7.Text(), "08");
+  Tab().Text7.Type("2");
+  EXPECT_EQ(Tab().Text7.Text(), "2");
+  EXPECT_EQ(configData->DatePsn(), 2);
 }
 
 TEST_F(CtTabTest, PsnNumbersOfAFileAreShownAsTheyAre) {

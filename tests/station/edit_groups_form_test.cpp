@@ -62,7 +62,9 @@ class EditGroupsTest : public LinkTest {
     const Bytes item = *the_coder->Item(kEnableCode, static_cast<std::uint8_t>(group));
     return {item.begin(), item.end()};
   }
-  [[nodiscard]] std::string Selected() const { return form->SelectedLabel.Caption(); }
+  [[nodiscard]] std::string Selected() const {
+    return form->SelectedLabel.Caption().substr(std::string("Group ").size());
+  }
   [[nodiscard]] std::vector<int> SentGroups() const {
     std::vector<int> sent;
     for (const Bytes& frame : port.written) sent.push_back(frame.at(2));
