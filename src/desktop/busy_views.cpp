@@ -5,6 +5,7 @@
 #include "desktop/label_widget.h"
 #include "desktop/layout.h"
 #include "desktop/progress_bar_widget.h"
+#include "desktop/style.h"
 
 namespace corvalis::desktop {
 
@@ -13,6 +14,11 @@ WaitView::WaitView(WaitForm& form) : WindowView(form.window) {
   column->addWidget(new BrandHeader(form.marks, nullptr, this));
   column->addWidget(new LabelWidget(form.WaitMessage, this));
   column->addWidget(new ProgressBarWidget(form.WaitBar, this));
+}
+
+QPoint WaitView::PlaceOver(const QRect& owner) const {
+  const QPoint middle = WindowView::PlaceOver(owner);
+  return {middle.x(), owner.bottom() - height() - 2 * kApart};
 }
 
 SerialCommunicationView::SerialCommunicationView(SerialCommunicationForm& form)

@@ -10,6 +10,10 @@ namespace corvalis::desktop {
 class WaitView : public WindowView {
  public:
   explicit WaitView(WaitForm& form);
+
+ protected:
+  /// Low, so that the lists that a port scan moves along stay in sight.
+  [[nodiscard]] QPoint PlaceOver(const QRect& owner) const override;
 };
 
 /// A transfer is under way, and can be aborted.

@@ -26,9 +26,12 @@ PiEccLicPage::PiEccLicPage(PiEccLicTab& tab, QWidget* parent) : QWidget(parent) 
   AddField(*pi, tab.CoverageLabel, new DropDownWidget(tab.CoverageCombo, identity));
   AddField(*pi, tab.IDNumberLabel,
            new SpinField(tab.IDNumberText, tab.VScroll3, kIdNumberColumns, identity));
-  AddLine(*pi, CodeBox(tab.PiText, kPiColumns, identity));
-  AddLine(*pi,
-          ButtonRow({&tab.ReadPiCommand, &tab.SendPiCommand, &tab.SendPiBurstCommand}, identity));
+  // Under the three parts that make it up, without a label of its own: it is the group's.
+  const int row = pi->rowCount();
+  pi->addWidget(CodeBox(tab.PiText, kPiColumns, identity), row, 1, Qt::AlignLeft);
+  pi->addWidget(
+      ButtonRow({&tab.ReadPiCommand, &tab.SendPiCommand, &tab.SendPiBurstCommand}, identity),
+      row + 1, 1);
 
   auto* extended = new LabelledGroup(tab.EccLabel, this);
   QGridLayout* ecc = Fields(extended);

@@ -103,8 +103,10 @@ void WindowView::PlaceBefore(QWidget& owner) {
   winId();  // a window of the system must be there to be tied to the owner's
   windowHandle()->setTransientParent(owner.window()->windowHandle());
   adjustSize();
-  move(owner.frameGeometry().center() - rect().center());
+  move(PlaceOver(owner.frameGeometry()));
 }
+
+QPoint WindowView::PlaceOver(const QRect& owner) const { return owner.center() - rect().center(); }
 
 void WindowView::Leave() {
   model_ = nullptr;
@@ -119,7 +121,7 @@ void WindowView::Leave() {
 void WindowView::Draw() {
   const QString title = FromBytes(model_->Caption());
   if (windowTitle() != title) setWindowTitle(title);
-  if (!model_->Visible()) hide();
+  if (!model_->Visible()) TakeDown();
   RunTimers();
   if (model_->Enabled()) {
     veil_delay_.stop();
@@ -128,6 +130,15 @@ void WindowView::Draw() {
     veil_delay_.start();
   }
   ShowFocus();
+}
+
+// A window that is hidden before the window manager has put it up is put up all the same for a
+// moment, and with its late activation it would keep the keyboard from whatever is in front. So the
+// system's window goes, and with it all that is still on the way to it.
+void WindowView::TakeDown() {
+  if (isHidden()) return;
+  hide();
+  if (windowHandle() != nullptr) windowHandle()->destroy();
 }
 
 void WindowView::RunTimers() {

@@ -33,8 +33,12 @@ class WindowView : public QWidget {
   void mousePressEvent(QMouseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
+  /// Where the window comes up: the middle of its owner's frame, if nothing else is said.
+  [[nodiscard]] virtual QPoint PlaceOver(const QRect& owner) const;
+
  private:
   void Draw();
+  void TakeDown();
   void RunTimers();
   void PlaceBefore(QWidget& owner);
   void MoveFocus(QWidget* now);

@@ -10,7 +10,9 @@ namespace {
 bool CoderAnswers(SerialPort& port, const PortChoice& choice) {
   const std::string settings = PortSettings(choice.baudrate, choice.parity, choice.stop_bit);
   LinkOpen = SerialOpen(port, choice.number, settings, /*show_errors=*/false);
-  if (LinkOpen) ProbeCoder();
+  if (!LinkOpen) return false;
+  LinkError = kErrorTxTimeout;  // a write that fails leaves it, and what stood there may be success
+  ProbeCoder();
   return LinkOpen;
 }
 

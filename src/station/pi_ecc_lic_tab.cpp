@@ -158,6 +158,7 @@ void PiEccLicTab::Open() {
 
 void PiEccLicTab::FillLists() {
   std::vector<std::string> names;
+  names.reserve(kCountries);
   for (int line = 0; line < kCountries; ++line) {
     names.push_back(CountryName(CountriesByName().RowOfLine(line)));
   }
@@ -195,9 +196,10 @@ void PiEccLicTab::ChooseLanguage() {
 }
 
 void PiEccLicTab::StepProgramNum(int step) {
-  const int number = configData->ProgramNum() + step;
-  if (number < 0 || number > kMaxProgramNum) return;
-  configData->SetProgramNum(static_cast<std::int16_t>(number));
+  // A file may bring a number beyond either limit: a step back towards the range is taken.
+  const int number = configData->ProgramNum();
+  if (step > 0 ? number >= kMaxProgramNum : number < 1) return;
+  configData->SetProgramNum(static_cast<std::int16_t>(number + step));
   ShowProgramNum();
   ShowPi();
 }

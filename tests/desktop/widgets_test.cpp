@@ -12,6 +12,7 @@
 #include <QTabBar>
 #include <QTest>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "desktop/calendar_widget.h"
 #include "desktop/check_box_widget.h"
@@ -484,6 +485,17 @@ TEST_F(WidgetsTest, ADisabledWindowTakesNothing) {
   EXPECT_EQ(screen_.open.Index(), 0);
   EXPECT_TRUE(screen_.box.HasFocus());
   EXPECT_TRUE(view_->isVisible());
+}
+
+TEST_F(WidgetsTest, AHiddenWindowIsOffTheSystemsScreenAndComesBack) {
+  screen_.window.Hide();
+  // What the window manager still does with it would take the keyboard from the window in front.
+  EXPECT_EQ(view_->windowHandle()->handle(), nullptr);
+  screen_.window.Show();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(view_));
+  view_->box->setFocus();
+  QTest::keyClick(view_->box, Qt::Key_Backspace);
+  EXPECT_EQ(view_->box->text().toStdString(), screen_.box.Text());
 }
 
 TEST_F(WidgetsTest, AToolTipIsPlainText) {

@@ -329,6 +329,14 @@ TEST_F(SetupScreen, AutosettingPassesOverPortsThatDoNotOpen) {
   EXPECT_EQ(time.Elapsed(), 0);
 }
 
+TEST_F(SetupScreen, AutosettingTakesAPortThatCannotBeWrittenForNoCoder) {
+  OpenScreen(kLocal);
+  LinkError = kLinkOk;  // of an earlier transfer
+  port.output_error = {.number = 8099, .description = "Input/output error"};
+  form->Command31.Press();
+  EXPECT_EQ(PortLists(), "COM 1/2400/even/1");
+}
+
 TEST_F(SetupScreen, ToneAndPulseAreOneChoiceOfTwo) {
   OpenScreen(kModemLink);
   RS232CForm& f = *form;

@@ -129,6 +129,14 @@ TEST_F(PiTabTest, CoverageNumberAndLanguage) {
   EXPECT_EQ(Tab().IDNumberText.Text(), "254");
 }
 
+TEST_F(PiTabTest, ANumberBeyondTheRangeCanBeSteppedBack) {
+  OpenScreen("[PI]\nProgram Number=1FF\n");
+  Tab().VScroll3.PressUp();
+  EXPECT_EQ(configData->ProgramNum(), 0x1FF);
+  Tab().VScroll3.PressDown();
+  EXPECT_EQ(configData->ProgramNum(), 0x1FE);
+}
+
 TEST_F(PiTabTest, TypedPiGivesItsParts) {
   OpenScreen(kLocal);
   Tab().VScroll3.PressUp();
