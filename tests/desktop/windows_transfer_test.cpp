@@ -117,37 +117,49 @@ TEST_F(WindowsTransferTest, WhatTheRulesRefuseIsRefusedInTheWindow) {
 }
 
 TEST_F(WindowsTransferTest, EscEndsAWaitAndNothingElseDoes) {
-  // The ENQ is answered; then the cable is as good as cut.
-  for (const bool by_key : {true, false}) {
-    StartWithCoder({"--open", "--cut", "3"});
+  struct Case {
+    QStringList options;
+    std::string file;
+    const char* button;
+    Lines arrived;
+  };
+  const std::string read = "PI read -> 1000 (country 1, coverage 0, programme 00)";
+  const Case cases[] = {
+      // Nobody answers. With a modem in the path no ENQ goes out at the start.
+      {{"--silent"},
+       "[Serial Setup]\nSatellite=Off\nModem=On\n",
+       "SendPiCommand",
+       {kSentPi, kSentPi}},
+      // The answer comes and does not end.
+      {{"--open", "--cut", "3"}, kLocalFile, "ReadPiCommand", {"ENQ", read, read}}};
+  for (const Case& c : cases) {
+    StartWithCoder(c.options, c.file);
     OpenIdentity();
-    during_transfer = [&] {
-      static_cast<void>(hand.Window(kTransfer));
-      EXPECT_EQ(Focus(), "Command1");
-      const int filled = Filled();
-      EXPECT_TRUE(QTest::qWaitFor([&] { return Filled() > filled; }));
-      for (const QString& window : {kTransfer, kStation, kMain}) {
-        PressCloseBox(window);
-        EXPECT_NE(OnScreen(window), nullptr) << window.toStdString();
-      }
-      QTest::mouseClick(OnScreen(kStation)->findChild<QWidget*>("SendEccCommand"), Qt::LeftButton);
-      if (by_key) {
+    for (const bool by_key : {true, false}) {
+      during_transfer = [&] {
         static_cast<void>(hand.Window(kTransfer));
-        Press(Qt::Key_Escape);
-      } else {
-        hand.Click(kTransfer, "Command1");
-      }
-    };
-    hand.Click(kStation, "ReadPiCommand");
-    EXPECT_EQ(LinkError, kErrorAborted);
-    EXPECT_EQ(during_transfer, nullptr);
-    ExpectUsable();
-    hand.Click(kStation, "SendPiCommand");
-    EXPECT_EQ(LinkError, kLinkOk);
-    EXPECT_EQ(coder->Arrived(), (Lines{"ENQ",
-                                       "PI read -> 1000 (country 1, coverage 0, "
-                                       "programme 00)",
-                                       kSentPi}));
+        EXPECT_EQ(Focus(), "Command1");
+        const int filled = Filled();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return Filled() > filled; }));
+        for (const QString& window : {kTransfer, kStation, kMain}) {
+          PressCloseBox(window);
+          EXPECT_NE(OnScreen(window), nullptr) << window.toStdString();
+        }
+        QTest::mouseClick(OnScreen(kStation)->findChild<QWidget*>("SendEccCommand"),
+                          Qt::LeftButton);
+        static_cast<void>(hand.Window(kTransfer));
+        if (by_key) {
+          Press(Qt::Key_Escape);
+        } else {
+          hand.Click(kTransfer, "Command1");
+        }
+      };
+      hand.Click(kStation, c.button);
+      EXPECT_EQ(LinkError, kErrorAborted);
+      EXPECT_FALSE(EscPressed);
+      ExpectUsable();
+    }
+    EXPECT_EQ(coder->Arrived(), c.arrived);
     EXPECT_EQ(boxes, Lines{});
     program.reset();
     coder.reset();
@@ -218,6 +230,11 @@ TEST_F(WindowsTransferTest, NothingGoesOutOnAOneWayPathBeforeTheAddress) {
   EXPECT_EQ(coder->Arrived(), Lines(3, kSentPi));
   EXPECT_EQ(boxes.size(), 3U);
   EXPECT_FALSE(hand.Window(kStation).findChild<QWidget*>("ReadPiCommand")->isVisible());
+  // A line that has gone ends it at the first frame.
+  coder->Kill();
+  boxes.clear();
+  hand.Click(kStation, "SendPiBurstCommand");
+  EXPECT_EQ(boxes, Lines{"PI: [ TX ] serial unconnected  "});
 }
 
 TEST_F(WindowsTransferTest, EscCutsABurstAfterTheFrameAtHand) {
