@@ -2,6 +2,7 @@
 
 #include <csignal>
 #include <stdexcept>
+#include <utility>
 
 namespace corvalis::test {
 
@@ -62,10 +63,12 @@ std::vector<std::string> CoderProcess::Memory() {
   return LinesUntil(kEndOfMemory);
 }
 
-std::vector<std::string> CoderProcess::Arrived() {
+std::vector<std::string> CoderProcess::Arrived(std::size_t at_least) {
+  std::vector<std::string> lines;
+  while (lines.size() < at_least) lines.push_back(ReadLine());
   // What lies on the line is taken before the question is.
   AskForMemory();
-  std::vector<std::string> lines = LinesUntil(kMemory);
+  for (std::string& line : LinesUntil(kMemory)) lines.push_back(std::move(line));
   LinesUntil(kEndOfMemory);
   return lines;
 }

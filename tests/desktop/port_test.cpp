@@ -307,7 +307,7 @@ TEST_F(PortTest, CarriesCommandsToTheCoderAndBack) {
   for (const std::string& item : coder.Memory()) {
     if (item.starts_with("TP ")) held = item;
   }
-  EXPECT_EQ(held, "TP 00: 31  \"1\"");
+  EXPECT_EQ(held, "TP 00: 31 (on)  \"1\"");
   EXPECT_EQ(dialogs.boxes, std::vector<std::string>{});
 }
 

@@ -53,7 +53,7 @@ TEST_F(WindowsSetupTest, TheMouseChoosesInAListAndTheKeyboardDoesNot) {
   hand.Choose(kSetup, "RdsOptionCombo", "Local");
   // Closed with the choice in the list still: nothing is lost, and the line is opened anew.
   EXPECT_EQ(Focus(), "RdsOptionCombo");
-  static_cast<void>(coder->Arrived());
+  static_cast<void>(coder->Arrived(1));
   hand.Close(kSetup);
   EXPECT_EQ(OnScreen(kSetup), nullptr);
   EXPECT_EQ(coder->Arrived(), Lines{"ENQ"});

@@ -61,11 +61,11 @@ TEST_F(WindowsStationTest, AProgrammeTypeIsStoredWhenItsListIsLeft) {
 
 TEST_F(WindowsStationTest, OnAOneWayPathALiveButtonNeedsNoAddress) {
   StartWithCoder({"--open"}, "[Serial Setup]\nSatellite=On\nBurst=4\n");
-  static_cast<void>(coder->Arrived());
+  static_cast<void>(coder->Arrived(1));
   hand.Click(kMain, "TaPtyMsButton");
   EXPECT_FALSE(Seen("Command8"));
   hand.Click(kOnAir, "Command2");
-  EXPECT_EQ(coder->Arrived(), Lines(4, "TA <- 1 (on)"));
+  EXPECT_EQ(coder->Arrived(4), Lines(4, "TA <- 1 (on)"));
   EXPECT_EQ(boxes, Lines{});
 }
 

@@ -216,7 +216,7 @@ TEST_F(WindowsTransferTest, ALineThatIsPulledOutIsFoundAgain) {
 TEST_F(WindowsTransferTest, NothingGoesOutOnAOneWayPathBeforeTheAddress) {
   StartWithCoder({"--open"}, "[Serial Setup]\nSatellite=On\nBurst=3\n");
   OpenIdentity();
-  static_cast<void>(coder->Arrived());
+  static_cast<void>(coder->Arrived(1));
   for (const char* button : {"SendPiCommand", "SendPiBurstCommand", "SendLicBurstCommand"}) {
     hand.Click(kStation, button);
   }
@@ -225,7 +225,7 @@ TEST_F(WindowsTransferTest, NothingGoesOutOnAOneWayPathBeforeTheAddress) {
   // Once it has gone out, a burst is so many frames.
   AddressSent = true;
   hand.Click(kStation, "SendPiBurstCommand");
-  EXPECT_EQ(coder->Arrived(), Lines(3, kSentPi));
+  EXPECT_EQ(coder->Arrived(3), Lines(3, kSentPi));
   EXPECT_EQ(boxes.size(), 3U);
   EXPECT_FALSE(hand.Window(kStation).findChild<QWidget*>("ReadPiCommand")->isVisible());
   // A line that has gone ends it at the first frame.
