@@ -10,6 +10,7 @@
 #include <utility>
 
 #include "link/serial_management.h"
+#include "platform/platform.h"
 
 namespace corvalis::test {
 
@@ -34,7 +35,8 @@ class RunningProgram::Watcher : public QObject {
     if (event->type() != QEvent::Show) return false;
     if (auto* box = qobject_cast<QMessageBox*>(receiver)) {
       test_.boxes.push_back(box->text().toStdString());
-      QMetaObject::invokeMethod(box, &QDialog::accept, Qt::QueuedConnection);
+      QMetaObject::invokeMethod(
+          box, [this, box] { Answer(*box); }, Qt::QueuedConnection);
     } else if (receiver->isWidgetType() && receiver->objectName() == kTransfer) {
       QMetaObject::invokeMethod(
           this, [this] { Transfer(); }, Qt::QueuedConnection);
@@ -43,6 +45,14 @@ class RunningProgram::Watcher : public QObject {
   }
 
  private:
+  void Answer(QMessageBox& box) {
+    if (test_.during_box) test_.during_box();
+    QTest::keyClick(&box, Qt::Key_Escape);
+    if (!box.isVisible()) return;
+    ADD_FAILURE() << "The box can't be answered: " << box.text().toStdString();
+    box.accept();
+  }
+
   // Nothing may be thrown into the toolkit.
   void Transfer() try {
     if (const auto work = std::exchange(test_.during_transfer, nullptr)) work();
@@ -52,6 +62,19 @@ class RunningProgram::Watcher : public QObject {
   }
 
   RunningProgram& test_;
+};
+
+/// Passes boxes on and counts the beeps, which a machine without a loudspeaker swallows.
+class RunningProgram::Ear : public Dialogs {
+ public:
+  Ear(RunningProgram& test, Dialogs& real) : test_(test), real_(real) {}
+
+  void Show(const Box& box) override { real_.Show(box); }
+  void Beep() override { ++test_.beeps; }
+
+ private:
+  RunningProgram& test_;
+  Dialogs& real_;
 };
 
 RunningProgram::RunningProgram() : watcher_(std::make_unique<Watcher>(*this)) {
@@ -91,6 +114,8 @@ void RunningProgram::Plug(const std::string& device, int number) const {
 void RunningProgram::Start(const std::string& default_file) {
   WriteFile("corvalis.rds", default_file);
   program = std::make_unique<desktop::Program>();
+  ear_ = std::make_unique<Ear>(*this, *Machine().dialogs);
+  Machine().dialogs = ear_.get();
   program->Start();
 }
 

@@ -65,18 +65,23 @@ class RunningProgram : public testing::Test {
   desktop::Hand hand{{}};
   std::unique_ptr<CoderProcess> coder;
   std::unique_ptr<desktop::Program> program;
-  /// The texts of the boxes that were shown. Each is answered at once.
+  /// The texts of the boxes that were shown. Each is answered at once, by the key ESC, after what
+  /// `during_box` does.
   std::vector<std::string> boxes;
+  std::function<void()> during_box;
+  int beeps = 0;
   /// What to do once when the next transfer screen is up.
   std::function<void()> during_transfer;
 
  private:
   class Watcher;
+  class Ear;
 
   [[nodiscard]] std::string LinkOf(int number) const;
 
   std::string folder_;
   std::unique_ptr<Watcher> watcher_;
+  std::unique_ptr<Ear> ear_;
 };
 
 }  // namespace corvalis::test

@@ -85,15 +85,19 @@ TEST_F(WindowsTransferTest, WhatTheRulesRefuseIsRefusedInTheWindow) {
     QWidget& widget = hand.Control(kStation, list);
     const QString before = hand.Shown(kStation, list);
     widget.setFocus(Qt::TabFocusReason);
+    beeps = 0;
     QTest::keyClicks(&widget, "sP7 ");
+    EXPECT_EQ(beeps, 4) << list;
     EXPECT_EQ(hand.Shown(kStation, list), before) << list;
     EXPECT_EQ(Focus(), list);
     Press(Qt::Key_Tab);
     EXPECT_NE(Focus(), list);
   }
   // A fifth character, and characters of no PI.
+  beeps = 0;
   hand.Type(kStation, "PiText", "1g2-3c4d");
   EXPECT_EQ(hand.Shown(kStation, "PiText"), "123C");
+  EXPECT_EQ(beeps, 4);
   // A PI that is none holds the operator fast, whatever is clicked, and nothing is sent.
   static_cast<void>(coder->Arrived());
   for (const char* pi : {"12", "0123"}) {
@@ -102,7 +106,9 @@ TEST_F(WindowsTransferTest, WhatTheRulesRefuseIsRefusedInTheWindow) {
     box.selectAll();
     QTest::keyClicks(&box, pi);
     for (const char* other : {"SendPiCommand", "LicCombo", "VScroll3"}) {
+      beeps = 0;
       hand.Click(kStation, other);
+      EXPECT_EQ(beeps, 1) << pi << other;
       EXPECT_EQ(Focus(), "PiText") << pi << other;
       EXPECT_EQ(box.selectedText(), QString(pi)) << other;
     }
@@ -176,10 +182,18 @@ TEST_F(WindowsTransferTest, AFaultOfTheLineIsSaidOnceAndEndsTheTransfer) {
       {{"--open", "--garble", "2"}, "ReadPiCommand", {"PI: [ RX ] checksum was wrong  "}},
       {{"--open", "--late", "30"}, "ReadPiCommand", {}},
       {{"--open", "--pace"}, "ReadPiCommand", {}}};
+  // The box stands over everything, and its own ESC is no abort of the next transfer.
+  during_box = [] {
+    for (const QString& window : {kTransfer, kStation, kMain}) {
+      PressCloseBox(window);
+      EXPECT_NE(OnScreen(window), nullptr) << window.toStdString();
+    }
+  };
   for (const Case& c : cases) {
     StartWithCoder(c.options);
     OpenIdentity();
     hand.Click(kStation, c.button);
+    EXPECT_FALSE(EscPressed);
     EXPECT_EQ(boxes, c.boxes) << c.options.join(' ').toStdString();
     EXPECT_EQ(OnScreen(kTransfer), nullptr);
     EXPECT_TRUE(hand.Control(kStation, c.button).isEnabled());
