@@ -1,6 +1,7 @@
 #include "desktop/screen_host.h"
 
 #include <QApplication>
+#include <QDialog>
 #include <QEvent>
 #include <QWindow>
 
@@ -48,6 +49,8 @@ const WindowView* QtScreenHost::ViewUnder(QObject* receiver) const {
   for (auto* widget = static_cast<QWidget*>(receiver); widget != nullptr;
        widget = widget->parentWidget()) {
     if (const auto* view = dynamic_cast<WindowView*>(widget)) return view;
+    // A box in front of a disabled window can be answered.
+    if (qobject_cast<QDialog*>(widget) != nullptr) return nullptr;
   }
   return nullptr;
 }

@@ -2,6 +2,7 @@
 
 #include <csignal>
 #include <stdexcept>
+#include <utility>
 
 namespace corvalis::test {
 
@@ -9,6 +10,8 @@ namespace {
 
 constexpr int kPatience = 10'000;  // milliseconds
 const std::string kReady = "ready ";
+const std::string kMemory = "memory";
+const std::string kEndOfMemory = "end of memory";
 
 }  // namespace
 
@@ -46,13 +49,27 @@ std::string CoderProcess::WaitForLine(const std::string& start) {
 
 void CoderProcess::WaitForReady() { path_ = WaitForLine(kReady).substr(kReady.size()); }
 
-std::vector<std::string> CoderProcess::Memory() {
-  kill(static_cast<pid_t>(process_.processId()), SIGUSR1);
-  WaitForLine("memory");
+std::vector<std::string> CoderProcess::LinesUntil(const std::string& last) {
   std::vector<std::string> lines;
-  for (std::string line = ReadLine(); line != "end of memory"; line = ReadLine()) {
-    lines.push_back(line);
-  }
+  for (std::string line = ReadLine(); line != last; line = ReadLine()) lines.push_back(line);
+  return lines;
+}
+
+void CoderProcess::AskForMemory() const { kill(static_cast<pid_t>(process_.processId()), SIGUSR1); }
+
+std::vector<std::string> CoderProcess::Memory() {
+  AskForMemory();
+  LinesUntil(kMemory);
+  return LinesUntil(kEndOfMemory);
+}
+
+std::vector<std::string> CoderProcess::Arrived(std::size_t at_least) {
+  std::vector<std::string> lines;
+  while (lines.size() < at_least) lines.push_back(ReadLine());
+  // What lies on the line is taken before the question is.
+  AskForMemory();
+  for (std::string& line : LinesUntil(kMemory)) lines.push_back(std::move(line));
+  LinesUntil(kEndOfMemory);
   return lines;
 }
 

@@ -1,0 +1,177 @@
+#include "desktop/running_program.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QTest>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+#include <utility>
+
+#include "link/serial_management.h"
+#include "platform/platform.h"
+
+namespace corvalis::test {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr int kIdentityPage = 2;
+
+void PutIntoEnvironment(const char* variable, const std::string& value) {
+  qputenv(variable, QByteArray::fromStdString(value));
+}
+
+}  // namespace
+
+/// Sees windows come up. What is to be done with one is done once it is there.
+class RunningProgram::Watcher : public QObject {
+ public:
+  explicit Watcher(RunningProgram& test) : test_(test) { qApp->installEventFilter(this); }
+
+  bool eventFilter(QObject* receiver, QEvent* event) override {
+    if (event->type() != QEvent::Show) return false;
+    if (auto* box = qobject_cast<QMessageBox*>(receiver)) {
+      test_.boxes.push_back(box->text().toStdString());
+      QMetaObject::invokeMethod(
+          box, [this, box] { Answer(*box); }, Qt::QueuedConnection);
+    } else if (receiver->isWidgetType() && receiver->objectName() == kTransfer) {
+      QMetaObject::invokeMethod(
+          this, [this] { Transfer(); }, Qt::QueuedConnection);
+    }
+    return false;
+  }
+
+ private:
+  void Answer(QMessageBox& box) {
+    if (test_.during_box) test_.during_box();
+    QTest::keyClick(&box, Qt::Key_Escape);
+    if (!box.isVisible()) return;
+    ADD_FAILURE() << "The box can't be answered: " << box.text().toStdString();
+    box.accept();
+  }
+
+  // Nothing may be thrown into the toolkit.
+  void Transfer() try {
+    if (const auto work = std::exchange(test_.during_transfer, nullptr)) work();
+  } catch (const std::exception& error) {
+    ADD_FAILURE() << error.what();
+    EscPressed = true;
+  }
+
+  RunningProgram& test_;
+};
+
+/// Passes boxes on and counts the beeps, which a machine without a loudspeaker swallows.
+class RunningProgram::Ear : public Dialogs {
+ public:
+  Ear(RunningProgram& test, Dialogs& real) : test_(test), real_(real) {}
+
+  void Show(const Box& box) override { real_.Show(box); }
+  void Beep() override { ++test_.beeps; }
+
+ private:
+  RunningProgram& test_;
+  Dialogs& real_;
+};
+
+RunningProgram::RunningProgram() : watcher_(std::make_unique<Watcher>(*this)) {
+  std::string name = (fs::temp_directory_path() / "corvalis-windows-XXXXXX").string();
+  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+  folder_ = name;
+  fs::create_directories(folder_ + "/config/corvalis");
+  fs::create_directories(folder_ + "/data/corvalis");
+  PutIntoEnvironment("XDG_CONFIG_HOME", folder_ + "/config");
+  PutIntoEnvironment("XDG_DATA_HOME", folder_ + "/data");
+  // Lest the click on a list that has just opened counts as the rest of the opening one.
+  QApplication::setDoubleClickInterval(0);
+  LinkError = kLinkOk;
+  LinkOpen = AddressSent = EscPressed = AutoSettingActive = false;
+}
+
+RunningProgram::~RunningProgram() {
+  program.reset();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  coder.reset();
+  fs::remove_all(folder_);
+}
+
+std::string RunningProgram::LinkOf(int number) const {
+  return folder_ + "/config/corvalis/com" + std::to_string(number);
+}
+
+void RunningProgram::PlugCoder(const QStringList& options, int number) {
+  coder = std::make_unique<CoderProcess>(
+      QStringList{"--print", "--dump", "--link", QString::fromStdString(LinkOf(number))} + options);
+}
+
+void RunningProgram::Plug(const std::string& device, int number) const {
+  fs::create_symlink(device, LinkOf(number));
+}
+
+void RunningProgram::Start(const std::string& default_file) {
+  WriteFile("corvalis.rds", default_file);
+  program = std::make_unique<desktop::Program>();
+  ear_ = std::make_unique<Ear>(*this, *Machine().dialogs);
+  Machine().dialogs = ear_.get();
+  program->Start();
+}
+
+void RunningProgram::StartWithCoder(const QStringList& options, const std::string& default_file) {
+  PlugCoder(options);
+  Start(default_file);
+}
+
+void RunningProgram::WriteFile(const std::string& name, const std::string& text) const {
+  std::ofstream(folder_ + "/data/corvalis/" + name, std::ios::binary) << text;
+}
+
+std::string RunningProgram::ReadFile(const std::string& name) const {
+  std::ifstream file(folder_ + "/data/corvalis/" + name, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), {}};
+}
+
+void RunningProgram::OpenIdentity() const {
+  hand.Click(kMain, "CtTpDiPiButton");
+  hand.TurnToTab(kStation, kIdentityPage);
+}
+
+QWidget* RunningProgram::OnScreen(const QString& name) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (window->objectName() == name && window->isVisible()) return window;
+  }
+  return nullptr;
+}
+
+void RunningProgram::PressCloseBox(const QString& name) {
+  QWidget* window = OnScreen(name);
+  ASSERT_NE(window, nullptr) << name.toStdString();
+  window->close();
+  QCoreApplication::processEvents();
+}
+
+void RunningProgram::Press(Qt::Key key, int times) {
+  for (int i = 0; i < times; ++i) {
+    QWidget* focus = QApplication::focusWidget();
+    ASSERT_NE(focus, nullptr);
+    QTest::keyClick(focus, key);
+  }
+}
+
+QString RunningProgram::Focus() {
+  const QWidget* focus = QApplication::focusWidget();
+  return focus == nullptr ? QString() : focus->objectName();
+}
+
+std::string RunningProgram::Held(const std::string& item) {
+  for (const std::string& line : coder->Memory()) {
+    if (!line.starts_with(item + ": ")) continue;
+    const std::size_t quote = line.find("  \"");
+    return line.substr(quote + 3, line.size() - quote - 4);
+  }
+  return {};
+}
+
+}  // namespace corvalis::test

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QStringList>
+#include <QWidget>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "desktop/coder_process.h"
+#include "desktop/program.h"
+#include "desktop/tour/hand.h"
+
+namespace corvalis::test {
+
+/// The windows, by their names.
+inline const QString kMain = QStringLiteral("MainForm");
+inline const QString kStation = QStringLiteral("CtTpDiPiForm");
+inline const QString kOnAir = QStringLiteral("TaPtyMsForm");
+inline const QString kGroups = QStringLiteral("EditGroupsForm");
+inline const QString kSetup = QStringLiteral("RS232CForm");
+inline const QString kTransfer = QStringLiteral("SerialCommunicationForm");
+inline const QString kWait = QStringLiteral("WaitForm");
+
+/// A file for a two-way line at port 1 that any `corvalis-coder` understands.
+inline constexpr const char* kLocalFile =
+    "[Serial Setup]\nSatellite=Off\nSerialPort=1\nBaudrate=9600\nParity=N\nStopBit=2\n";
+
+/// The program in folders of its own, with an operator's hand on its real windows and a simulated
+/// Coder at its real port.
+class RunningProgram : public testing::Test {
+ protected:
+  RunningProgram();
+  ~RunningProgram() override;
+
+  /// Puts a `corvalis-coder` with these options at port `number`, before the program starts.
+  void PlugCoder(const QStringList& options, int number = 1);
+  /// Has port `number` lead to a device, or to nothing.
+  void Plug(const std::string& device, int number = 1) const;
+  /// Starts the program with this text as its default file.
+  void Start(const std::string& default_file);
+  /// The two, for the usual case.
+  void StartWithCoder(const QStringList& options, const std::string& default_file = kLocalFile);
+
+  /// Files of the program's own folder.
+  void WriteFile(const std::string& name, const std::string& text) const;
+  [[nodiscard]] std::string ReadFile(const std::string& name) const;
+
+  /// Opens the screen of one value each, at the page of PI, ECC and LIC.
+  void OpenIdentity() const;
+
+  /// The window of that name, if it is on the screen; else null.
+  [[nodiscard]] static QWidget* OnScreen(const QString& name);
+  /// A press of the window's close box. What the program makes of it is another matter.
+  static void PressCloseBox(const QString& name);
+  /// Keys for whatever has the keyboard.
+  static void Press(Qt::Key key, int times = 1);
+  [[nodiscard]] static QString Focus();
+
+  /// The body of an item in the Coder's memory ("PI 00"), as a text; empty if it has none.
+  [[nodiscard]] std::string Held(const std::string& item);
+
+  desktop::Hand hand{{}};
+  std::unique_ptr<CoderProcess> coder;
+  std::unique_ptr<desktop::Program> program;
+  /// The texts of the boxes that were shown. Each is answered at once, by the key ESC, after what
+  /// `during_box` does.
+  std::vector<std::string> boxes;
+  std::function<void()> during_box;
+  int beeps = 0;
+  /// What to do once when the next transfer screen is up.
+  std::function<void()> during_transfer;
+
+ private:
+  class Watcher;
+  class Ear;
+
+  [[nodiscard]] std::string LinkOf(int number) const;
+
+  std::string folder_;
+  std::unique_ptr<Watcher> watcher_;
+  std::unique_ptr<Ear> ear_;
+};
+
+}  // namespace corvalis::test
