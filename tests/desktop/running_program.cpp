@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QTest>
+#include <QTimer>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -150,6 +151,23 @@ void RunningProgram::PressCloseBox(const QString& name) {
   ASSERT_NE(window, nullptr) << name.toStdString();
   window->close();
   QCoreApplication::processEvents();
+}
+
+int RunningProgram::InHaste(const QStringList& windows, const std::function<void()>& work) {
+  int times = 0;
+  QTimer hand;
+  QObject::connect(&hand, &QTimer::timeout, &hand, [&] {
+    if (OnScreen(kWait) == nullptr) return;
+    ++times;
+    for (const QString& window : windows + QStringList{kWait}) {
+      PressCloseBox(window);
+      EXPECT_NE(OnScreen(window), nullptr) << window.toStdString();
+    }
+  });
+  hand.start(1);
+  work();
+  EXPECT_EQ(OnScreen(kWait), nullptr);
+  return times;
 }
 
 void RunningProgram::Press(Qt::Key key, int times) {

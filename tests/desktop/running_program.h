@@ -55,6 +55,9 @@ class RunningProgram : public testing::Test {
   [[nodiscard]] static QWidget* OnScreen(const QString& name);
   /// A press of the window's close box. What the program makes of it is another matter.
   static void PressCloseBox(const QString& name);
+  /// Does `work`; while the wait screen is up, presses the close boxes of it and of `windows` all
+  /// the time. They must stay. Returns how many times that was.
+  static int InHaste(const QStringList& windows, const std::function<void()>& work);
   /// Keys for whatever has the keyboard.
   static void Press(Qt::Key key, int times = 1);
   [[nodiscard]] static QString Focus();

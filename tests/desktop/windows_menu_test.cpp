@@ -134,23 +134,7 @@ TEST_F(WindowsMenuTest, NothingGetsInTheWayOfTheLastEnq) {
 
 TEST_F(WindowsMenuTest, NothingGetsInTheWayOfOpen) {
   StartWithCoder({"--open", "--late", "40"}, std::string(kLocalFile) + "[PI]\nCoverage=3\n");
-  int presses = 0;
-  QTimer hasty;
-  QObject::connect(&hasty, &QTimer::timeout, &hasty, [&] {
-    if (OnScreen(kWait) == nullptr) return;
-    ++presses;
-    for (const QString& window : {kWait, kMain}) {
-      PressCloseBox(window);
-      EXPECT_NE(OnScreen(window), nullptr) << window.toStdString();
-    }
-    QTest::mouseClick(OnScreen(kMain)->findChild<QWidget*>("CtTpDiPiButton"), Qt::LeftButton);
-  });
-  hasty.start(1);
-  hand.Click(kMain, "OpenButton");
-  hasty.stop();
-  EXPECT_GT(presses, 0);
-  EXPECT_EQ(OnScreen(kWait), nullptr);
-  EXPECT_EQ(OnScreen(kStation), nullptr);
+  EXPECT_GT(InHaste({kMain}, [&] { hand.Click(kMain, "OpenButton"); }), 0);
   EXPECT_EQ(coder->Arrived(), (Lines{"ENQ", "ENQ"}));
   OpenIdentity();
   EXPECT_EQ(hand.Shown(kStation, "PiText"), "5300");

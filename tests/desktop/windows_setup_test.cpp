@@ -90,6 +90,21 @@ TEST_F(WindowsSetupTest, AutosettingFindsTheCoderOnAnotherPort) {
   EXPECT_EQ(boxes.size(), 1U);
 }
 
+TEST_F(WindowsSetupTest, NothingGetsInTheWayOfTheSearchAndOfTheClose) {
+  StartWithCoder({"--open", "--late", "40"});
+  OpenSetup();
+  EXPECT_GT(InHaste({kSetup, kMain}, [&] { hand.Click(kSetup, "Command31"); }), 0);
+  EXPECT_EQ(Shown("BaudrateCombo"), "2400");
+  static_cast<void>(coder->Arrived());
+  EXPECT_GT(InHaste({kSetup, kMain}, [&] { hand.Close(kSetup); }), 0);
+  EXPECT_EQ(OnScreen(kSetup), nullptr);
+  EXPECT_EQ(coder->Arrived(), Lines{"ENQ"});
+  OpenIdentity();
+  hand.Click(kStation, "SendPiCommand");
+  EXPECT_EQ(Held("PI 00"), "5000");
+  EXPECT_EQ(boxes, Lines{});
+}
+
 TEST_F(WindowsSetupTest, ACallIsDialledUsedAndHungUp) {
   StartWithCoder({"--open", "--modem", "answer", "--dial-ms", "10"},
                  "[Serial Setup]\nSatellite=Off\nModem=On\nModemTone=Off\n");
