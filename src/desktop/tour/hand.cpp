@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListView>
@@ -117,6 +118,7 @@ QString Hand::Shown(const QString& window, const QString& control) const {
   if (auto* memo = qobject_cast<QPlainTextEdit*>(&widget)) return memo->toPlainText();
   if (auto* button = qobject_cast<QAbstractButton*>(&widget)) return button->text();
   if (auto* label = qobject_cast<QLabel*>(&widget)) return label->text();
+  if (auto* group = qobject_cast<QGroupBox*>(&widget)) return group->title();
   Fail(control + " shows no text.");
 }
 
