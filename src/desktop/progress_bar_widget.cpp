@@ -20,7 +20,7 @@ ProgressBarWidget::ProgressBarWidget(ProgressBar& bar, QWidget* parent) : QWidge
   Bind(*this, bar, [this, &bar] {
     const int before = Filled();
     value_ = bar.Value();
-    const auto [left, right] = std::minmax(before, Filled());
+    const auto [left, right] = std::minmax({before, Filled()});
     if (left < right) update(left, 0, right - left, height());
   });
 }
