@@ -153,6 +153,12 @@ void RunningProgram::PressCloseBox(const QString& name) {
   QCoreApplication::processEvents();
 }
 
+void RunningProgram::ClickBeneath(const QString& window, const QString& control) {
+  QWidget* shown = OnScreen(window);
+  ASSERT_NE(shown, nullptr) << window.toStdString();
+  QTest::mouseClick(shown->findChild<QWidget*>(control), Qt::LeftButton);
+}
+
 int RunningProgram::InHaste(const QStringList& windows, const std::function<void()>& work) {
   int times = 0;
   QTimer hand;

@@ -55,6 +55,8 @@ class RunningProgram : public testing::Test {
   [[nodiscard]] static QWidget* OnScreen(const QString& name);
   /// A press of the window's close box. What the program makes of it is another matter.
   static void PressCloseBox(const QString& name);
+  /// A click on a control of a window that lies beneath another.
+  static void ClickBeneath(const QString& window, const QString& control);
   /// Does `work`; while the wait screen is up, presses the close boxes of it and of `windows` all
   /// the time. They must stay. Returns how many times that was.
   static int InHaste(const QStringList& windows, const std::function<void()>& work);

@@ -1,7 +1,6 @@
 // The main menu as a window: start, files, what can't be closed, and the end.
 
 #include <QApplication>
-#include <QTest>
 #include <QTimer>
 
 #include "desktop/running_program.h"
@@ -37,7 +36,7 @@ TEST_F(WindowsMenuTest, StartsOnItsFileWithTheScreensThatThereAre) {
     ASSERT_NE(OnScreen(screen), nullptr) << button;
     // The menu under it takes nothing: neither its close box nor a press.
     PressCloseBox(kMain);
-    QTest::mouseClick(OnScreen(kMain)->findChild<QWidget*>("NewButton"), Qt::LeftButton);
+    ClickBeneath(kMain, "NewButton");
     EXPECT_NE(OnScreen(kMain), nullptr);
     EXPECT_NE(OnScreen(screen), nullptr);
     hand.Close(screen);

@@ -149,8 +149,7 @@ TEST_F(WindowsTransferTest, EscEndsAWaitAndNothingElseDoes) {
           PressCloseBox(window);
           EXPECT_NE(OnScreen(window), nullptr) << window.toStdString();
         }
-        QTest::mouseClick(OnScreen(kStation)->findChild<QWidget*>("SendEccCommand"),
-                          Qt::LeftButton);
+        ClickBeneath(kStation, "SendEccCommand");
         static_cast<void>(hand.Window(kTransfer));
         if (by_key) {
           Press(Qt::Key_Escape);
