@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QSocketNotifier>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <filesystem>
 #include <fstream>
@@ -47,17 +48,11 @@ class AsNobody {
 class PortTest : public testing::Test {
  protected:
   PortTest() {
-    std::string name = (fs::temp_directory_path() / "corvalis-port-XXXXXX").string();
-    if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-    folder = name;
     chmod(folder.c_str(), 0755);  // for somebody else too
     machine.settings_folder = folder;
     InstallPlatform(&machine);
   }
-  ~PortTest() override {
-    InstallPlatform(nullptr);
-    fs::remove_all(folder);
-  }
+  ~PortTest() override { InstallPlatform(nullptr); }
 
   [[nodiscard]] std::string Link() const { return folder + "/com1"; }
   // Plugs a line in, in place of the last.
@@ -82,8 +77,9 @@ class PortTest : public testing::Test {
     while (!done()) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
   }
 
+  QTemporaryDir temporary;
+  const std::string folder = temporary.path().toStdString();
   Platform machine;
-  std::string folder;
   QtSerialPort port;
 };
 

@@ -4,10 +4,10 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
 #include <utility>
 
 #include "link/serial_management.h"
@@ -75,9 +75,6 @@ class RunningProgram::Ear : public Dialogs {
 };
 
 RunningProgram::RunningProgram() : watcher_(std::make_unique<Watcher>(*this)) {
-  std::string name = (fs::temp_directory_path() / "corvalis-windows-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  folder_ = name;
   fs::create_directories(folder_ + "/config/corvalis");
   fs::create_directories(folder_ + "/data/corvalis");
   qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder_ + "/config"));
@@ -92,7 +89,6 @@ RunningProgram::~RunningProgram() {
   program.reset();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   coder.reset();
-  fs::remove_all(folder_);
 }
 
 std::string RunningProgram::LinkOf(int number) const {
@@ -104,8 +100,8 @@ void RunningProgram::PlugCoder(const QStringList& options, int number) {
       QStringList{"--print", "--dump", "--link", QString::fromStdString(LinkOf(number))} + options);
 }
 
-void RunningProgram::Plug(const std::string& device, int number) const {
-  fs::create_symlink(device, LinkOf(number));
+void RunningProgram::Plug(const std::string& device) const {
+  fs::create_symlink(device, LinkOf(1));
 }
 
 void RunningProgram::Start(const std::string& default_file) {

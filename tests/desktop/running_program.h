@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QWidget>
 #include <functional>
 #include <memory>
@@ -40,8 +41,8 @@ class RunningProgram : public testing::Test {
 
   /// Puts a `corvalis-coder` with these options at port `number`, before the program starts.
   void PlugCoder(const QStringList& options, int number = 1);
-  /// Has port `number` lead to a device, or to nothing.
-  void Plug(const std::string& device, int number = 1) const;
+  /// Has port 1 lead to a device, or to nothing.
+  void Plug(const std::string& device) const;
   /// Starts the program with this text as its default file.
   void Start(const std::string& default_file);
   /// The two, for the usual case; what ran before ends.
@@ -89,7 +90,8 @@ class RunningProgram : public testing::Test {
   [[nodiscard]] std::string LinkOf(int number) const;
   void TearDown() override { EXPECT_EQ(Boxes(), Lines{}); }
 
-  std::string folder_;
+  QTemporaryDir temporary_;
+  const std::string folder_ = temporary_.path().toStdString();
   Lines boxes_;
   std::unique_ptr<Watcher> watcher_;
   std::unique_ptr<Ear> ear_;

@@ -5,7 +5,6 @@
 #include <QTimer>
 
 #include "desktop/running_program.h"
-#include "link/serial_management.h"
 
 namespace corvalis::test {
 namespace {
