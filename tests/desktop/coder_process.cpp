@@ -9,8 +9,6 @@ namespace corvalis::test {
 namespace {
 
 constexpr int kPatience = 10'000;  // milliseconds
-const std::string kMemory = "memory";
-const std::string kEndOfMemory = "end of memory";
 
 }  // namespace
 
@@ -53,9 +51,8 @@ std::vector<std::string> CoderProcess::LinesUntil(const std::string& last) {
 }
 
 std::vector<std::string> CoderProcess::Memory() {
-  kill(static_cast<pid_t>(process_.processId()), SIGUSR1);
-  LinesUntil(kMemory);
-  return LinesUntil(kEndOfMemory);
+  Arrived();
+  return memory_;
 }
 
 std::vector<std::string> CoderProcess::Arrived(std::size_t at_least) {
@@ -63,8 +60,8 @@ std::vector<std::string> CoderProcess::Arrived(std::size_t at_least) {
   while (lines.size() < at_least) lines.push_back(ReadLine());
   // What lies on the line is taken before the question is.
   kill(static_cast<pid_t>(process_.processId()), SIGUSR1);
-  for (std::string& line : LinesUntil(kMemory)) lines.push_back(std::move(line));
-  LinesUntil(kEndOfMemory);
+  for (std::string& line : LinesUntil("memory")) lines.push_back(std::move(line));
+  memory_ = LinesUntil("end of memory");
   return lines;
 }
 

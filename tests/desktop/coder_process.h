@@ -33,6 +33,7 @@ class CoderProcess {
   std::vector<std::string> LinesUntil(const std::string& last);
 
   QProcess process_;
+  std::vector<std::string> memory_;
 };
 
 }  // namespace corvalis::test

@@ -81,11 +81,9 @@ TEST_F(WindowsTransferTest, WhatTheRulesRefuseIsRefusedInTheWindow) {
   StartWithCoder({"--open"});
   OpenIdentity();
   for (const char* list : {"CountryCombo", "CoverageCombo", "LicCombo"}) {
-    QWidget& widget = hand.Control(kStation, list);
     const QString before = hand.Shown(kStation, list);
-    widget.setFocus(Qt::TabFocusReason);
     beeps = 0;
-    QTest::keyClicks(&widget, "sP7 ");
+    QTest::keyClicks(&hand.Control(kStation, list), "sP7 ");
     EXPECT_EQ(beeps, 4) << list;
     EXPECT_EQ(hand.Shown(kStation, list), before) << list;
   }
@@ -109,68 +107,46 @@ TEST_F(WindowsTransferTest, WhatTheRulesRefuseIsRefusedInTheWindow) {
 }
 
 TEST_F(WindowsTransferTest, EscEndsAWaitAndNothingElseDoes) {
-  struct Case {
-    QStringList options;
-    std::string file;
-    const char* button;
-    Lines arrived;
-  };
-  const std::string read = "PI read -> 1000 (country 1, coverage 0, programme 00)";
-  const Case cases[] = {
-      // Nobody answers. With a modem in the path no ENQ goes out at the start.
-      {{"--open", "--silent"},
-       "[Serial Setup]\nSatellite=Off\nModem=On\n",
-       "SendPiCommand",
-       {kSentPi, kSentPi}},
-      // The answer comes and does not end.
-      {{"--open", "--cut", "3"}, kLocalFile, "ReadPiCommand", {"ENQ", read, read}}};
-  for (const Case& c : cases) {
-    StartWithCoder(c.options, c.file);
-    OpenIdentity();
-    for (const bool by_key : {true, false}) {
-      during_transfer = [&] {
-        static_cast<void>(hand.Window(kTransfer));
-        EXPECT_EQ(Focus(), "Command1");
-        const int filled = Filled();
-        EXPECT_TRUE(QTest::qWaitFor([&] { return Filled() > filled; }));
-        ExpectNotToClose({kTransfer, kStation, kMain});
-        QTest::mouseClick(OnScreen(kStation)->findChild<QWidget*>("SendEccCommand"),
-                          Qt::LeftButton);
-        static_cast<void>(hand.Window(kTransfer));
-        if (by_key) {
-          Press(Qt::Key_Escape);
-        } else {
-          hand.Click(kTransfer, "Command1");
-        }
-      };
-      hand.Click(kStation, c.button);
-      ExpectAborted();
-    }
-    EXPECT_EQ(coder->Arrived(), c.arrived);
+  // With a modem in the path no ENQ goes out at the start.
+  StartWithCoder({"--open", "--silent"}, "[Serial Setup]\nSatellite=Off\nModem=On\n");
+  OpenIdentity();
+  for (const bool by_key : {true, false}) {
+    during_transfer = [&] {
+      static_cast<void>(hand.Window(kTransfer));
+      EXPECT_EQ(Focus(), "Command1");
+      const int filled = Filled();
+      EXPECT_TRUE(QTest::qWaitFor([&] { return Filled() > filled; }));
+      ExpectNotToClose({kTransfer, kStation, kMain});
+      QTest::mouseClick(OnScreen(kStation)->findChild<QWidget*>("SendEccCommand"), Qt::LeftButton);
+      static_cast<void>(hand.Window(kTransfer));
+      if (by_key) {
+        Press(Qt::Key_Escape);
+      } else {
+        hand.Click(kTransfer, "Command1");
+      }
+    };
+    hand.Click(kStation, "SendPiCommand");
+    ExpectAborted();
   }
+  EXPECT_EQ(coder->Arrived(), (Lines{kSentPi, kSentPi}));
 }
 
 TEST_F(WindowsTransferTest, AFaultOfTheLineIsSaidOnceAndEndsTheTransfer) {
-  struct Case {
-    QStringList options;
-    const char* button;
-    Lines boxes;
-  };
-  const Case cases[] = {
+  const std::tuple<QStringList, const char*, Lines> cases[] = {
       {{}, "SendPiCommand", {"PI: [RDS] before send address  "}},
       {{"--open", "--garble", "2"}, "SendPiCommand", {"PI:   [ TX ] not acknowledge   "}},
       {{"--open", "--garble", "2"}, "ReadPiCommand", {"PI: [ RX ] checksum was wrong  "}},
       {{"--open", "--late", "30", "--pace"}, "ReadPiCommand", {}}};
   // The box stands over everything, and its own ESC is no abort of the next transfer.
   during_box = [] { ExpectNotToClose({kTransfer, kStation, kMain}); };
-  for (const Case& c : cases) {
-    StartWithCoder(c.options);
+  for (const auto& [options, button, said] : cases) {
+    StartWithCoder(options);
     OpenIdentity();
-    hand.Click(kStation, c.button);
+    hand.Click(kStation, button);
     EXPECT_FALSE(EscPressed);
-    EXPECT_EQ(Boxes(), c.boxes) << c.options.join(' ').toStdString();
+    EXPECT_EQ(Boxes(), said) << options.join(' ').toStdString();
     EXPECT_EQ(OnScreen(kTransfer), nullptr);
-    EXPECT_TRUE(Usable(kStation, c.button));
+    EXPECT_TRUE(Usable(kStation, button));
   }
 }
 
