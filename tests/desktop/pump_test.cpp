@@ -26,7 +26,7 @@ TEST(PumpTest, TheClockShowsLocalTime) {
 TEST(PumpTest, AnEventEndsAWait) {
   QtTime time;
   time.RunPending();
-  for (const double deadline : {time.Timer() + 60, kNeverReached, kNeverReached + 10}) {
+  for (const double deadline : {time.Timer() + 60, kNeverReached + 10}) {
     bool ran = false;
     QTimer::singleShot(1, qApp, [&] { ran = true; });
     while (!ran) time.RunUntil(deadline);
