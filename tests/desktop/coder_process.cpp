@@ -9,9 +9,6 @@ namespace corvalis::test {
 namespace {
 
 constexpr int kPatience = 10'000;  // milliseconds
-const std::string kReady = "ready ";
-const std::string kMemory = "memory";
-const std::string kEndOfMemory = "end of memory";
 
 }  // namespace
 
@@ -19,12 +16,12 @@ CoderProcess::CoderProcess(const QStringList& options) {
   process_.setProcessChannelMode(QProcess::MergedChannels);
   // Should a test die, its Coder goes too.
   process_.start(CORVALIS_CODER_PROGRAM, options + QStringList{"--with-stdin"});
-  WaitForReady();
+  WaitForLine("ready ");
 }
 
 CoderProcess::~CoderProcess() {
   process_.closeWriteChannel();
-  if (!process_.waitForFinished(kPatience)) Kill();
+  process_.waitForFinished(kPatience);  // what hasn't ended by then is killed with `process_`
 }
 
 std::string CoderProcess::ReadLine() {
@@ -47,35 +44,25 @@ std::string CoderProcess::WaitForLine(const std::string& start) {
   return line;
 }
 
-void CoderProcess::WaitForReady() { path_ = WaitForLine(kReady).substr(kReady.size()); }
-
 std::vector<std::string> CoderProcess::LinesUntil(const std::string& last) {
   std::vector<std::string> lines;
   for (std::string line = ReadLine(); line != last; line = ReadLine()) lines.push_back(line);
   return lines;
 }
 
-void CoderProcess::AskForMemory() const { kill(static_cast<pid_t>(process_.processId()), SIGUSR1); }
-
 std::vector<std::string> CoderProcess::Memory() {
-  AskForMemory();
-  LinesUntil(kMemory);
-  return LinesUntil(kEndOfMemory);
+  Arrived();
+  return memory_;
 }
 
 std::vector<std::string> CoderProcess::Arrived(std::size_t at_least) {
   std::vector<std::string> lines;
   while (lines.size() < at_least) lines.push_back(ReadLine());
   // What lies on the line is taken before the question is.
-  AskForMemory();
-  for (std::string& line : LinesUntil(kMemory)) lines.push_back(std::move(line));
-  LinesUntil(kEndOfMemory);
+  kill(static_cast<pid_t>(process_.processId()), SIGUSR1);
+  for (std::string& line : LinesUntil("memory")) lines.push_back(std::move(line));
+  memory_ = LinesUntil("end of memory");
   return lines;
-}
-
-void CoderProcess::Kill() {
-  process_.kill();
-  process_.waitForFinished(kPatience);
 }
 
 }  // namespace corvalis::test

@@ -18,30 +18,22 @@ class CoderProcess {
   CoderProcess(const CoderProcess&) = delete;
   CoderProcess& operator=(const CoderProcess&) = delete;
 
-  /// The pseudo-terminal, "/dev/pts/4"; the newest one after `WaitForReady`.
-  [[nodiscard]] const std::string& Path() const { return path_; }
-
   /// The next line printed that begins with `start`; the lines before it are passed over.
   /// Throws `std::runtime_error` if it doesn't come.
   std::string WaitForLine(const std::string& start);
-  /// Waits for the line that comes with a new plugging (`--replug-after`).
-  void WaitForReady();
   /// What the Coder holds, a line for each item ("PI 00: 35 32 30 31  \"5201\""), the Coder ID
   /// first. For a program started with `--dump`.
   std::vector<std::string> Memory();
   /// What it has printed since the last look, up to now. `at_least` so many lines are waited for,
   /// where nothing else tells that they must have come. For a program started with `--dump`.
   std::vector<std::string> Arrived(std::size_t at_least = 0);
-  /// The program's end, the line's with it; an end like a cable being pulled.
-  void Kill();
 
  private:
   std::string ReadLine();
   std::vector<std::string> LinesUntil(const std::string& last);
-  void AskForMemory() const;
 
   QProcess process_;
-  std::string path_;
+  std::vector<std::string> memory_;
 };
 
 }  // namespace corvalis::test

@@ -4,10 +4,10 @@
 #include <QMessageBox>
 #include <QTest>
 #include <QTimer>
+#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
 #include <utility>
 
 #include "link/serial_management.h"
@@ -21,10 +21,6 @@ namespace {
 
 constexpr int kIdentityPage = 2;
 
-void PutIntoEnvironment(const char* variable, const std::string& value) {
-  qputenv(variable, QByteArray::fromStdString(value));
-}
-
 }  // namespace
 
 /// Sees windows come up. What is to be done with one is done once it is there.
@@ -35,7 +31,7 @@ class RunningProgram::Watcher : public QObject {
   bool eventFilter(QObject* receiver, QEvent* event) override {
     if (event->type() != QEvent::Show) return false;
     if (auto* box = qobject_cast<QMessageBox*>(receiver)) {
-      test_.boxes.push_back(box->text().toStdString());
+      test_.boxes_.push_back(box->text().toStdString());
       QMetaObject::invokeMethod(
           box, [this, box] { Answer(*box); }, Qt::QueuedConnection);
     } else if (receiver->isWidgetType() && receiver->objectName() == kTransfer) {
@@ -79,13 +75,10 @@ class RunningProgram::Ear : public Dialogs {
 };
 
 RunningProgram::RunningProgram() : watcher_(std::make_unique<Watcher>(*this)) {
-  std::string name = (fs::temp_directory_path() / "corvalis-windows-XXXXXX").string();
-  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
-  folder_ = name;
   fs::create_directories(folder_ + "/config/corvalis");
   fs::create_directories(folder_ + "/data/corvalis");
-  PutIntoEnvironment("XDG_CONFIG_HOME", folder_ + "/config");
-  PutIntoEnvironment("XDG_DATA_HOME", folder_ + "/data");
+  qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder_ + "/config"));
+  qputenv("XDG_DATA_HOME", QByteArray::fromStdString(folder_ + "/data"));
   // Lest the click on a list that has just opened counts as the rest of the opening one.
   QApplication::setDoubleClickInterval(0);
   LinkError = kLinkOk;
@@ -96,7 +89,6 @@ RunningProgram::~RunningProgram() {
   program.reset();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   coder.reset();
-  fs::remove_all(folder_);
 }
 
 std::string RunningProgram::LinkOf(int number) const {
@@ -108,8 +100,8 @@ void RunningProgram::PlugCoder(const QStringList& options, int number) {
       QStringList{"--print", "--dump", "--link", QString::fromStdString(LinkOf(number))} + options);
 }
 
-void RunningProgram::Plug(const std::string& device, int number) const {
-  fs::create_symlink(device, LinkOf(number));
+void RunningProgram::Plug(const std::string& device) const {
+  fs::create_symlink(device, LinkOf(1));
 }
 
 void RunningProgram::Start(const std::string& default_file) {
@@ -121,6 +113,8 @@ void RunningProgram::Start(const std::string& default_file) {
 }
 
 void RunningProgram::StartWithCoder(const QStringList& options, const std::string& default_file) {
+  program.reset();
+  coder.reset();
   PlugCoder(options);
   Start(default_file);
 }
@@ -159,34 +153,40 @@ void RunningProgram::ClickBeneath(const QString& window, const QString& control)
   QTest::mouseClick(shown->findChild<QWidget*>(control), Qt::LeftButton);
 }
 
-int RunningProgram::InHaste(const QStringList& windows, const std::function<void()>& work) {
+void RunningProgram::ExpectNotToClose(const QStringList& windows) {
+  for (const QString& window : windows) {
+    PressCloseBox(window);
+    EXPECT_NE(OnScreen(window), nullptr) << window.toStdString();
+  }
+}
+
+void RunningProgram::InHaste(const QStringList& windows, const std::function<void()>& work) {
   int times = 0;
   QTimer hand;
   QObject::connect(&hand, &QTimer::timeout, &hand, [&] {
     if (OnScreen(kWait) == nullptr) return;
     ++times;
-    for (const QString& window : windows + QStringList{kWait}) {
-      PressCloseBox(window);
-      EXPECT_NE(OnScreen(window), nullptr) << window.toStdString();
-    }
+    ExpectNotToClose(windows + QStringList{kWait});
   });
   hand.start(1);
   work();
+  EXPECT_GT(times, 0);
   EXPECT_EQ(OnScreen(kWait), nullptr);
-  return times;
 }
 
-void RunningProgram::Press(Qt::Key key, int times) {
-  for (int i = 0; i < times; ++i) {
-    QWidget* focus = QApplication::focusWidget();
-    ASSERT_NE(focus, nullptr);
-    QTest::keyClick(focus, key);
-  }
+void RunningProgram::Press(Qt::Key key) {
+  QWidget* focus = QApplication::focusWidget();
+  ASSERT_NE(focus, nullptr);
+  QTest::keyClick(focus, key);
 }
 
 QString RunningProgram::Focus() {
   const QWidget* focus = QApplication::focusWidget();
   return focus == nullptr ? QString() : focus->objectName();
+}
+
+bool RunningProgram::Usable(const QString& window, const QString& control) const {
+  return hand.Control(window, control).isEnabled();
 }
 
 std::string RunningProgram::Held(const std::string& item) {

@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QWidget>
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "desktop/coder_process.h"
@@ -14,6 +16,8 @@
 #include "desktop/tour/hand.h"
 
 namespace corvalis::test {
+
+using Lines = std::vector<std::string>;
 
 /// The windows, by their names.
 inline const QString kMain = QStringLiteral("MainForm");
@@ -37,11 +41,11 @@ class RunningProgram : public testing::Test {
 
   /// Puts a `corvalis-coder` with these options at port `number`, before the program starts.
   void PlugCoder(const QStringList& options, int number = 1);
-  /// Has port `number` lead to a device, or to nothing.
-  void Plug(const std::string& device, int number = 1) const;
+  /// Has port 1 lead to a device, or to nothing.
+  void Plug(const std::string& device) const;
   /// Starts the program with this text as its default file.
   void Start(const std::string& default_file);
-  /// The two, for the usual case.
+  /// The two, for the usual case; what ran before ends.
   void StartWithCoder(const QStringList& options, const std::string& default_file = kLocalFile);
 
   /// Files of the program's own folder.
@@ -57,12 +61,17 @@ class RunningProgram : public testing::Test {
   static void PressCloseBox(const QString& name);
   /// A click on a control of a window that lies beneath another.
   static void ClickBeneath(const QString& window, const QString& control);
-  /// Does `work`; while the wait screen is up, presses the close boxes of it and of `windows` all
-  /// the time. They must stay. Returns how many times that was.
-  static int InHaste(const QStringList& windows, const std::function<void()>& work);
-  /// Keys for whatever has the keyboard.
-  static void Press(Qt::Key key, int times = 1);
+  /// Presses the close boxes of these windows. They must stay.
+  static void ExpectNotToClose(const QStringList& windows);
+  /// Does `work`, and `ExpectNotToClose` all the while that the wait screen is up, as it must be.
+  static void InHaste(const QStringList& windows, const std::function<void()>& work);
+  /// A key for whatever has the keyboard.
+  static void Press(Qt::Key key);
   [[nodiscard]] static QString Focus();
+  [[nodiscard]] bool Usable(const QString& window, const QString& control) const;
+
+  /// The texts of the boxes shown since the last look. At the end of a test there must be none.
+  [[nodiscard]] Lines Boxes() { return std::exchange(boxes_, {}); }
 
   /// The body of an item in the Coder's memory ("PI 00"), as a text; empty if it has none.
   [[nodiscard]] std::string Held(const std::string& item);
@@ -70,9 +79,7 @@ class RunningProgram : public testing::Test {
   desktop::Hand hand{{}};
   std::unique_ptr<CoderProcess> coder;
   std::unique_ptr<desktop::Program> program;
-  /// The texts of the boxes that were shown. Each is answered at once, by the key ESC, after what
-  /// `during_box` does.
-  std::vector<std::string> boxes;
+  /// What to do while a box is shown. Each is answered at once, then, by the key ESC.
   std::function<void()> during_box;
   int beeps = 0;
   /// What to do once when the next transfer screen is up.
@@ -83,8 +90,11 @@ class RunningProgram : public testing::Test {
   class Ear;
 
   [[nodiscard]] std::string LinkOf(int number) const;
+  void TearDown() override { EXPECT_EQ(Boxes(), Lines{}); }
 
-  std::string folder_;
+  QTemporaryDir temporary_;
+  const std::string folder_ = temporary_.path().toStdString();
+  Lines boxes_;
   std::unique_ptr<Watcher> watcher_;
   std::unique_ptr<Ear> ear_;
 };
