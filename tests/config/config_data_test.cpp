@@ -203,18 +203,16 @@ TEST_F(ConfigDataTest, PiOfTheSetupIsReadAndNeverWritten) {
 }
 
 TEST_F(ConfigDataTest, BrandByExactComparison) {
-  const std::pair<const char*, const char*> cases[] = {
-      {"VARN", "Varn"},   {"KOR", "KOR"}, {"ZEL", "ZEL"}, {"BRENO", "Breno"}, {"TULM", "Tulm"},
-      {"PAXEN", "Paxen"}, {"DOX", "DOX"}, {"NEU", ""},    {"kor", ""},        {"", ""}};
-  for (const auto& [value, brand] : cases) {
+  const std::pair<const char*, bool (ConfigData::*)() const> brands[] = {
+      {"VARN", &ConfigData::Varn},   {"KOR", &ConfigData::KOR},   {"ZEL", &ConfigData::ZEL},
+      {"BRENO", &ConfigData::Breno}, {"TULM", &ConfigData::Tulm}, {"PAXEN", &ConfigData::Paxen},
+      {"DOX", &ConfigData::DOX}};
+  for (const char* value : {"VARN", "KOR", "ZEL", "BRENO", "TULM", "PAXEN", "DOX", "kor", ""}) {
     WriteFile(machine.settings_folder + "/Firm.ini", std::string("[Firm]\r\nFirm=") + value);
     Load("");
-    const ConfigData& c = *configData;
-    const std::string shown = std::string(c.KOR() ? "KOR" : "") + (c.Varn() ? "Varn" : "") +
-                              (c.ZEL() ? "ZEL" : "") + (c.Breno() ? "Breno" : "") +
-                              (c.Tulm() ? "Tulm" : "") + (c.Paxen() ? "Paxen" : "") +
-                              (c.DOX() ? "DOX" : "");
-    EXPECT_EQ(shown, brand) << value;
+    for (const auto& [name, is] : brands) {
+      EXPECT_EQ((configData->*is)(), std::string(name) == value) << value;
+    }
   }
 }
 

