@@ -181,6 +181,14 @@ TEST_F(EngineTest, EnqDropsTheAddressingEvenIfItFails) {
   EXPECT_FALSE(AddressSent);
 }
 
+TEST_F(EngineTest, OnlyAReceiveEventTakesBytesFromThePort) {
+  StartLocal();
+  port.Receive({1}, /*event=*/1);
+  EXPECT_TRUE(ReceiveQueue()->QEmpty());
+  port.Receive({2});
+  EXPECT_EQ(ReceiveQueue()->QPop(), 1);
+}
+
 TEST_F(EngineTest, FullQueueLosesTheRestAndTheNextTransferForgetsIt) {
   StartLocal();
   port.Receive(Bytes(Queue::kCapacity, 'x'));
