@@ -32,6 +32,7 @@ class MainFormTest : public MachineTest {
 const std::vector<Bytes> kOneEnq{{kEnq}};
 
 TEST_F(MainFormTest, StartOnALocalLink) {
+  WriteFile(machine.settings_folder + "/Firm.ini", "[Firm]\r\nFirm=KOR\r\n");
   Run("[Serial Setup]\nSatellite=Off\nBaudrate=4800\nParity=E\nStopBit=1\nSerialPort=2\n");
   EXPECT_EQ(form->window.Caption(),
             "  Main Menu                                 -CORVALIS-        V2.02.60724.1");
@@ -44,6 +45,7 @@ TEST_F(MainFormTest, StartOnALocalLink) {
   EXPECT_EQ(form->Dir1.Path(), machine.program_folder);
   EXPECT_EQ(form->File1.FileName(), "corvalis.rds");
   EXPECT_EQ(form->SaveButton.Caption(), "SAVE");
+  EXPECT_TRUE(form->marks.Logo_KOR.Visible() && form->Text_KOR.Visible());
 }
 
 TEST_F(MainFormTest, StartByKindOfLink) {
