@@ -13,7 +13,8 @@
 namespace corvalis::test {
 namespace {
 
-using namespace std::chrono;
+using namespace std::chrono_literals;
+using std::chrono::local_days;
 
 class ConfigDataTest : public MachineTest {
  protected:
@@ -59,7 +60,7 @@ TEST_F(ConfigDataTest, DefaultsWithoutAFile) {
   EXPECT_EQ(
       std::tuple(c.Path(), c.File(), c.Drive()),
       std::tuple(machine.program_folder, "corvalis.rds", machine.program_folder.substr(0, 3)));
-  EXPECT_EQ(c.DateValue(), DateTime(local_days{2026y / November / 15} + 12h));
+  EXPECT_EQ(c.DateValue(), DateTime(local_days{2026y / std::chrono::November / 15} + 12h));
   EXPECT_EQ(c.DayOfWeek(), 7);
   EXPECT_FALSE(std::filesystem::exists(ProgramFile()));
 }

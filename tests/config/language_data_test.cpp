@@ -192,7 +192,8 @@ TEST_F(LanguageTest, GermanFileIsCompleteAndFits) {
   ASSERT_EQ(german.size(), english.size());
   for (std::size_t i = 0; i < german.size(); ++i) {
     SCOPED_TRACE(testing::PrintToString(german[i]));
-    EXPECT_EQ(german[i].section + german[i].key, english[i].section + english[i].key);
+    EXPECT_EQ(german[i].section, english[i].section);
+    EXPECT_EQ(german[i].key, english[i].key);
     EXPECT_FALSE(german[i].value.empty());
     EXPECT_EQ(german[i].value.find('\xC3'), std::string::npos);  // UTF-8 by mistake
     EXPECT_LE(german[i].value.size(), IsCaption(german[i].key)
