@@ -221,8 +221,9 @@ TEST_F(ConfigDataTest, HostileFileLoadsWithoutHarm) {
   std::mt19937 random(7);
   std::string noise(200'000, '\0');
   for (char& c : noise) c = static_cast<char>(random());
-  std::vector<std::string> files{noise + "\r\n" + std::string(1'000'000, '[') +
-                                 "\r\n[PI]\r\nCountry=" + std::string(10'000'000, '9')};
+  std::string long_lines = noise + "\r\n";
+  long_lines.append(1'000'000, '[').append("\r\n[PI]\r\nCountry=").append(10'000'000, '9');
+  std::vector<std::string> files{long_lines};
   // Every key of the record with every kind of wrong value.
   Load("");
   configData->SetIni();
