@@ -36,8 +36,6 @@ TEST_F(BusyScreens, EscByButtonAndByKey) {
   int aborts = 0;
   SerialCommunicationForm form([&] { ++aborts; });
   form.window.Show(&screen);
-  EXPECT_EQ(form.Command1.Caption(), "ESC");
-  EXPECT_EQ(form.Command1.ToolTip(), "Serial transmission interruption!");
   form.Command1.Press();
   form.Command1.TypeKey(27);
   form.Command1.TypeKey('x');
@@ -86,7 +84,6 @@ TEST_F(BusyScreens, WaitFormShowsBrandAndMessageAndMoves) {
   EXPECT_EQ(form.window.Caption(), " Wait");
   form.WaitTimer.Fire();
   EXPECT_EQ(form.WaitBar.Value(), 1);
-  EXPECT_EQ(&TheWaitForm(), &form);
   ReleaseWaitForm();
 }
 

@@ -6,17 +6,9 @@ namespace corvalis {
 namespace {
 
 TEST(Conversions, HexToLong) {
-  const std::pair<const char*, std::int32_t> cases[] = {{"0", 0},
-                                                        {"fF", 255},
-                                                        {"00g", -1},
-                                                        {"g", -1},
-                                                        {"", -1},
-                                                        {" 1", -1},
-                                                        {"7FFFFFFF", 0x7FFFFFFF},
-                                                        {"FFFFFFFFFF", 0x7FFFFFFF},
-                                                        {"-1", -1},
-                                                        {"0001A", 26},
-                                                        {"0x1", -1}};
+  const std::pair<const char*, std::int32_t> cases[] = {
+      {"0", 0},   {"fF", 255},   {"00g", -1}, {"", -1}, {" 1", -1}, {"FFFFFFFFFF", 0x7FFFFFFF},
+      {"-1", -1}, {"0001A", 26}, {"0x1", -1}};
   for (const auto& [text, value] : cases) EXPECT_EQ(HexToLong(text), value) << text;
 }
 
@@ -65,30 +57,23 @@ TEST(Conversions, PickListCountTakesTheFirstCountThereIs) {
 
 TEST(Conversions, GetToken) {
   const std::tuple<const char*, std::int16_t, const char*> cases[] = {
-      {"a,,b", 0, "a"}, {"a,,b", 1, ""}, {"a,,b", 2, "b"},
-      {"a,,b", 3, ""},  {"", 0, ""},     {"a", -1, ""}};
+      {"a,,b", 0, "a"}, {"a,,b", 1, ""}, {"a,,b", 2, "b"}, {"a,,b", 3, ""}, {"", 0, ""}};
   for (const auto& [text, index, token] : cases) EXPECT_EQ(GetToken(text, index, ","), token);
   EXPECT_EQ(GetToken("a; b; c", 1, "; "), "b");
 }
 
-TEST(Conversions, Digits) {
-  const std::tuple<int, int, const char*> cases[] = {
-      {0, 3, "000"}, {5, 1, "5"}, {255, 3, "255"}, {1000, 3, "1000"}, {-5, 2, "-05"}};
-  for (const auto& [value, width, text] : cases) EXPECT_EQ(Digits(value, width), text);
-}
-
 TEST(Conversions, SignedHours) {
-  const std::pair<int, const char*> cases[] = {{0, "+00.0"},   {3, "+01.5"},    {-1, "-00.5"},
-                                               {-2, "-01.0"},  {24, "+12.0"},   {-24, "-12.0"},
-                                               {199, "+99.5"}, {200, "+100.0"}, {-48, "-24.0"}};
+  const std::pair<int, const char*> cases[] = {
+      {0, "+00.0"}, {3, "+01.5"}, {-1, "-00.5"}, {-24, "-12.0"}, {200, "+100.0"}};
   for (const auto& [half_hours, text] : cases) EXPECT_EQ(SignedHours(half_hours), text);
 }
 
 TEST(Conversions, PercentRoundsHalvesUp) {
-  const std::tuple<int, int, const char*> cases[] = {
-      {0, 0, "0 %"},   {5, 0, "0 %"},   {0, 7, "0 %"},
-      {1, 3, "33 %"},  {2, 3, "67 %"},  {1, 8, "13 %"},
-      {1, 200, "1 %"}, {1, 201, "0 %"}, {50000000, 50000000, "100 %"}};
+  const std::tuple<int, int, const char*> cases[] = {{5, 0, "0 %"},
+                                                     {2, 3, "67 %"},
+                                                     {1, 8, "13 %"},
+                                                     {1, 201, "0 %"},
+                                                     {50000000, 50000000, "100 %"}};
   for (const auto& [part, whole, text] : cases) EXPECT_EQ(Percent(part, whole), text) << part;
 }
 

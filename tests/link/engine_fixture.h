@@ -16,6 +16,12 @@ inline Bytes Sealed(Bytes frame) {
   return frame;
 }
 
+/// `frame`, with an acknowledgement before it.
+inline Bytes Acknowledged(Bytes frame) {
+  frame.insert(frame.begin(), kAck);
+  return frame;
+}
+
 /// What a Coder answers that refuses with this number.
 inline Bytes Refusal(std::uint8_t number) {
   Bytes bytes = Sealed({kStart, 0, number, kEnd});

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <utility>
 
 #include "link/engine_fixture.h"
@@ -12,109 +13,80 @@ namespace {
 constexpr double kTimeOut = 15;
 
 struct Cause {
-  const char* name;
   Bytes answer;  ///< what comes back at once; empty for nothing
   int error;
   const char* text;
   double seconds;
 };
 
-class WriteErrors : public EngineTest, public testing::WithParamInterface<Cause> {};
+class LinkErrors : public EngineTest {
+ protected:
+  /// `transfer` writes `attempts` frames that are answered so, and is reported once.
+  void Expect(const Cause& c, const Bytes& answer, std::size_t attempts,
+              const std::function<void()>& transfer) {
+    SCOPED_TRACE(testing::PrintToString(answer));
+    port.answer = [&answer](const Bytes&) { return answer; };
+    port.written.clear();
+    dialogs.boxes.clear();
+    const double begin = time.Elapsed();
+    transfer();
+    EXPECT_EQ(LinkError, c.error);
+    ASSERT_EQ(dialogs.boxes.size(), 1U);
+    EXPECT_EQ(BoxText(), std::string("TP:") + c.text);
+    EXPECT_NEAR(time.Elapsed() - begin, c.seconds, 0.001);
+    EXPECT_EQ(port.written.size(), attempts);
+  }
+};
 
-TEST_P(WriteErrors, IsReportedInItsWords) {
+TEST_F(LinkErrors, ErrorsOfAWriteAreReportedInTheirWords) {
+  const Cause causes[] = {
+      {Refusal(1), 1, "  [RDS] checksum was wrong  ", 0},
+      {Refusal(2), 2, " [RDS] pointer value too big", 0},
+      {Refusal(3), 3, "     [RDS] code unknown     ", 0},
+      {Refusal(4), 4, "     [RDS] parity wrong     ", 0},
+      {Refusal(5), 5, " [RDS] stop bits were wrong ", 0},
+      {Refusal(6), 6, " [RDS] number of bytes wrong", 0},
+      {Refusal(7), 7, " [RDS] read mode not allowed", 0},
+      {Refusal(8), 8, " [RDS] before send address  ", 0},
+      {Refusal(9), 9, " [RDS] starting code unknown", 0},
+      {Refusal(10), 10, " [RDS]write mode not allowed", 0},
+      {Refusal(11), 11, "  [RDS] address was wrong   ", 0},
+      {Refusal(12), -1, "       Unmanged error       ", 0},
+      {Refusal(0), -1, "       Unmanged error       ", 0},
+      {{kNak, 2, 1, 5, 3, 5}, -1, "       Unmanged error       ", 0},  // names a command
+      {{}, 12, "   [ TX ] serial timeout    ", kTimeOut},
+      {{0x41}, 14, "   [ TX ] not acknowledge   ", 0},
+      {{kNak, 2, 0, 5, 3, 0}, 14, "   [ TX ] not acknowledge   ", 0},  // bad checksum
+      {{kNak, 2, 0}, 14, "   [ TX ] not acknowledge   ", kTimeOut}};
   StartLocal();
-  port.answer = [](const Bytes&) { return GetParam().answer; };
-  WriteTp();
-  EXPECT_EQ(LinkError, GetParam().error);
-  ASSERT_EQ(dialogs.boxes.size(), 1U);
-  const Box& box = dialogs.boxes[0];
-  EXPECT_EQ(box.text, std::string("TP:") + GetParam().text);
-  EXPECT_EQ(box.title, "Serial Management");
-  EXPECT_EQ(box.style, BoxStyle::kCritical);
-  EXPECT_EQ(box.help_file, "DEMO.HLP");
-  EXPECT_EQ(box.help_context, 1000);
-  EXPECT_NEAR(time.Elapsed(), GetParam().seconds, 0.001);
+  for (const Cause& c : causes) {
+    Expect(c, c.answer, 1, [this] { WriteTp(); });
+    const Box& box = dialogs.boxes[0];
+    EXPECT_EQ(box.title, "Serial Management");
+    EXPECT_EQ(box.style, BoxStyle::kCritical);
+    EXPECT_EQ(box.help_file, "DEMO.HLP");
+    EXPECT_EQ(box.help_context, 1000);
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Engine, WriteErrors,
-    testing::Values(
-        Cause{"Checksum", Refusal(1), 1, "  [RDS] checksum was wrong  ", 0},
-        Cause{"Pointer", Refusal(2), 2, " [RDS] pointer value too big", 0},
-        Cause{"Code", Refusal(3), 3, "     [RDS] code unknown     ", 0},
-        Cause{"Parity", Refusal(4), 4, "     [RDS] parity wrong     ", 0},
-        Cause{"StopBits", Refusal(5), 5, " [RDS] stop bits were wrong ", 0},
-        Cause{"Bytes", Refusal(6), 6, " [RDS] number of bytes wrong", 0},
-        Cause{"ReadMode", Refusal(7), 7, " [RDS] read mode not allowed", 0},
-        Cause{"Address", Refusal(8), 8, " [RDS] before send address  ", 0},
-        Cause{"Start", Refusal(9), 9, " [RDS] starting code unknown", 0},
-        Cause{"WriteMode", Refusal(10), 10, " [RDS]write mode not allowed", 0},
-        Cause{"WrongAddress", Refusal(11), 11, "  [RDS] address was wrong   ", 0},
-        Cause{"NumberBeyondTheTable", Refusal(12), -1, "       Unmanged error       ", 0},
-        Cause{"NumberZero", Refusal(0), -1, "       Unmanged error       ", 0},
-        Cause{"NamesACommand", {kNak, 2, 1, 5, 3, 5}, -1, "       Unmanged error       ", 0},
-        Cause{"Silence", {}, 12, "   [ TX ] serial timeout    ", kTimeOut},
-        Cause{"OtherByte", {0x41}, 14, "   [ TX ] not acknowledge   ", 0},
-        Cause{"BadErrorFrame", {kNak, 2, 0, 5, 3, 0}, 14, "   [ TX ] not acknowledge   ", 0},
-        Cause{"HalfErrorFrame", {kNak, 2, 0}, 14, "   [ TX ] not acknowledge   ", kTimeOut}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-class ReadErrors : public EngineTest, public testing::WithParamInterface<Cause> {};
-
-TEST_P(ReadErrors, IsReportedInItsWords) {
+TEST_F(LinkErrors, ErrorsOfAReadAreReportedInTheirWords) {
+  const Cause causes[] = {{{}, 15, "   [ RX ] serial timeout    ", 3 * kTimeOut},
+                          {{2, 2, 0, '1'}, 15, "   [ RX ] serial timeout    ", 3 * kTimeOut},
+                          {{2, 2, 0, '1', 3, 0}, 16, " [ RX ] checksum was wrong  ", 0},
+                          {Sealed({1, 2, 0, '1', 3}), 24, "[ RX ] starting code unknown", 0},
+                          {{2, 2, 0, '1', 4, 0}, 21, "[ RX ] number of bytes wrong", 0},
+                          {Sealed({2, 2, 0, '1', 4}), 21, "[ RX ] number of bytes wrong", 0},
+                          {Sealed({1, 2, 0, '1', 4}), 24, "[ RX ] starting code unknown", 0},
+                          {Sealed({2, 0x24, 0, '1', 3}), 18, "    [ RX ] code unknown     ", 0},
+                          {Sealed({2, 1, 0, '1', 3}), 21, "[ RX ] number of bytes wrong", 0}};
   StartLocal();
-  port.answer = [](const Bytes&) {
-    Bytes bytes = GetParam().answer;
-    bytes.insert(bytes.begin(), kAck);
-    return bytes;
-  };
-  EXPECT_FALSE(ReadTp());
-  EXPECT_EQ(LinkError, GetParam().error);
-  EXPECT_EQ(BoxText(), std::string("TP:") + GetParam().text);
-  EXPECT_EQ(dialogs.boxes.size(), 1U);
-  EXPECT_NEAR(time.Elapsed(), GetParam().seconds, 0.001);
+  for (const Cause& c : causes) {
+    Expect(c, Acknowledged(c.answer), c.seconds > 0 ? 3 : 1, [this] { EXPECT_FALSE(ReadTp()); });
+    EXPECT_EQ(port.written.back(), Sealed({2, 2, 0, 3}));
+  }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Engine, ReadErrors,
-    testing::Values(
-        Cause{"NothingAtAll", {}, 15, "   [ RX ] serial timeout    ", 3 * kTimeOut},
-        Cause{"TooShort", {2, 2, 0, '1'}, 15, "   [ RX ] serial timeout    ", 3 * kTimeOut},
-        Cause{"Checksum", {2, 2, 0, '1', 3, 0}, 16, " [ RX ] checksum was wrong  ", 0},
-        Cause{"Start", Sealed({1, 2, 0, '1', 3}), 24, "[ RX ] starting code unknown", 0},
-        Cause{"EndBeforeChecksum", {2, 2, 0, '1', 4, 0}, 21, "[ RX ] number of bytes wrong", 0},
-        Cause{"EndWithGoodChecksum", Sealed({2, 2, 0, '1', 4}), 21, "[ RX ] number of bytes wrong",
-              0},
-        Cause{"StartBeforeEnd", Sealed({1, 2, 0, '1', 4}), 24, "[ RX ] starting code unknown", 0},
-        Cause{"UnknownCode", Sealed({2, 0x24, 0, '1', 3}), 18, "    [ RX ] code unknown     ", 0},
-        Cause{"OtherLength", Sealed({2, 1, 0, '1', 3}), 21, "[ RX ] number of bytes wrong", 0}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(EngineTest, CoderRefusesByNumber) {
-  Start(kLocal, {}, /*open=*/false);
-  Open();
-  WriteTp();
-  EXPECT_EQ(LinkError, 8);
-
-  const auto transfer = [](Bytes frame) {
-    frame.push_back(0);  // the checksum's place
-    TransferFrame(frame);
-    return LinkError;
-  };
-  const Bytes address{2, 8, 0, '?', '?', '?', '?', '?', 3};
-  const std::pair<Bytes, int> cases[] = {{address, kLinkOk},
-                                         {{2, 1, 1, 3}, 2},
-                                         {{2, 0x7F, 0, 3}, 3},
-                                         {{2, 2, 0, '1', '1', 3}, 6},
-                                         {{2, 8, 0, 3}, 7},
-                                         {{1, 2, 0, '1', 3}, 9},
-                                         {{2, 2, 0, '2', 3}, 10},
-                                         {{2, 2, 0, '1', 3}, kLinkOk},
-                                         {{2, 8, 0, 'o', 't', 'h', 'e', 'r', 3}, 11}};
-  for (const auto& [frame, error] : cases) EXPECT_EQ(transfer(frame), error);
-}
-
-TEST_F(EngineTest, LineThatGoesAwayEndsInAnError) {
+TEST_F(LinkErrors, LineThatGoesAwayEndsInAnError) {
   Start(kLocal, {.unplug_after = 2});
   Open();
   WriteTp();
@@ -131,7 +103,7 @@ TEST_F(EngineTest, LineThatGoesAwayEndsInAnError) {
   EXPECT_EQ(LinkError, kLinkOk);
 }
 
-TEST_F(EngineTest, TextsThatNothingSetsStandInTheTableToo) {
+TEST_F(LinkErrors, TextsThatNothingSetsStandInTheTableToo) {
   const std::pair<std::int16_t, const char*> cases[] = {
       {0, "                            "},  {17, "[ RX ] pointer value too big"},
       {19, "    [ RX ] parity wrong     "}, {20, "[ RX ] stop bits were wrong "},
@@ -141,7 +113,7 @@ TEST_F(EngineTest, TextsThatNothingSetsStandInTheTableToo) {
   for (const auto& [error, text] : cases) EXPECT_EQ(LinkErrorText(error), text) << error;
 }
 
-TEST_F(EngineTest, PortThatIsNotOpenIsUnconnectedAndAnyOtherErrorLeavesTheCode) {
+TEST_F(LinkErrors, PortThatIsNotOpenIsUnconnectedAndAnyOtherErrorLeavesTheCode) {
   StartLocal();
   port.output_error = {kPortNotOpen, "gone"};
   WriteTp();

@@ -5,8 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "config/config_data.h"
-#include "link/serial_management.h"
-#include "support/test_machine.h"
+#include "link/engine_fixture.h"
 
 namespace corvalis::test {
 namespace {
@@ -16,34 +15,16 @@ using std::chrono::local_days;
 
 constexpr std::array<std::uint8_t, kTdcPayload> kPayload{2, 3, 5, 6, 0x15, 0, 0xFF, 'A'};
 
-class StationCommands : public LinkTest {
+class StationCommands : public EngineTest {
  protected:
-  void SetUp() override {
-    Start(kLocal);
-    Open();
-  }
+  void SetUp() override { StartLocal(); }
 
   // The Coder answers the next read with this body.
   void Answer(std::uint8_t code, std::uint8_t index, const std::string& body) {
-    port.answer = [=](const Bytes&) {
-      Bytes frame{kStart, code, index};
-      for (const char c : body) frame.push_back(static_cast<std::uint8_t>(c));
-      frame.push_back(kEnd);
-      frame.push_back(FrameChecksum(frame));
-      frame.insert(frame.begin(), kAck);
-      return frame;
-    };
-  }
-
-  std::string Request() {
-    const Bytes& bytes = port.written.back();
-    std::string text;
-    for (const std::uint8_t byte : bytes) {
-      constexpr char kDigits[] = "0123456789ABCDEF";
-      text += {kDigits[byte / 16], kDigits[byte % 16], ' '};
-    }
-    text.pop_back();
-    return text;
+    Bytes frame{kStart, code, index};
+    frame.insert(frame.end(), body.begin(), body.end());
+    frame.push_back(kEnd);
+    port.answer = [answer = Acknowledged(Sealed(frame))](const Bytes&) { return answer; };
   }
 };
 
@@ -68,7 +49,7 @@ TEST_F(StationCommands, WriteTheseBytes) {
   };
   for (const auto& [send, bytes] : cases) {
     send();
-    EXPECT_EQ(Request(), bytes);
+    EXPECT_EQ(port.written.back(), Hex(bytes));
   }
 }
 
@@ -78,7 +59,7 @@ TEST_F(StationCommands, ReadPi) {
   std::int16_t coverage = 5;
   std::int16_t number = 5;
   ReadPi(country, coverage, number);
-  EXPECT_EQ(Request(), "02 01 00 03 00");
+  EXPECT_EQ(port.written.back(), Hex("02 01 00 03 00"));
   EXPECT_EQ(std::tuple(country, coverage, number), std::tuple(0xD, 2, 0x0A));
   Answer(0x01, 0, "G2x0");
   ReadPi(country, coverage, number);
@@ -93,7 +74,7 @@ TEST_F(StationCommands, ReadSwitchesDifferInWhatTheyTakeAsTrue) {
     bool ta = !ta_wanted;
     bool ms = !ta_wanted;
     Answer(0x02, 0, {byte});
-    ReadTp(tp);
+    corvalis::ReadTp(tp);
     Answer(0x0E, 0, {byte});
     ReadTa(ta);
     Answer(0x0F, 0, {byte});
@@ -114,7 +95,7 @@ TEST_F(StationCommands, ReadTheOthers) {
   std::int16_t value = 0;
   Answer(0x04, 0, "B");
   ReadDi(value);
-  EXPECT_EQ(Request(), "02 04 00 03 05");
+  EXPECT_EQ(port.written.back(), Hex("02 04 00 03 05"));
   EXPECT_EQ(value, 11);
   Answer(0x0D, 0, "1F");
   ReadPty(value);
@@ -123,7 +104,7 @@ TEST_F(StationCommands, ReadTheOthers) {
   bool active = false;
   Answer(0x09, 5, "x1C3");
   ReadEnable(5, active, value);
-  EXPECT_EQ(Request(), "02 09 05 03 0D");
+  EXPECT_EQ(port.written.back(), Hex("02 09 05 03 0D"));
   EXPECT_TRUE(active);
   EXPECT_EQ(value, 0xC3);
 
@@ -137,7 +118,7 @@ TEST_F(StationCommands, ReadTheOthers) {
   std::array<std::uint8_t, kTdcPayload> payload{};
   Answer(0x11, 31, "1" + std::string(kPayload.begin(), kPayload.end()));
   ReadTdc(31, payload, active);
-  EXPECT_EQ(Request(), "02 11 1F 03 0F");
+  EXPECT_EQ(port.written.back(), Hex("02 11 1F 03 0F"));
   EXPECT_EQ(payload, kPayload);
 }
 
@@ -147,38 +128,21 @@ TEST_F(StationCommands, ReadCt) {
   std::int16_t date_psn = 0;
   std::int16_t hour_psn = 0;
   std::int16_t offset = 0;
+  const auto read = [&](const std::string& date, const std::string& rest) {
+    Answer(0x10, 0, date + rest);
+    ReadCt(when, day, date_psn, hour_psn, offset);
+  };
   const std::pair<const char*, std::chrono::year> years[] = {
       {"29", 2029y}, {"30", 1930y}, {"00", 2000y}};
   for (const auto& [digits, year] : years) {
-    Answer(0x10, 0,
-           std::string(digits) +
-               "0228"
-               "7"
-               "2359"
-               "08"
-               "09"
-               "00");
-    ReadCt(when, day, date_psn, hour_psn, offset);
+    read(std::string(digits) + "022872359", "080900");
     EXPECT_EQ(when, DateTime(local_days{year / std::chrono::February / 28} + 23h + 59min));
   }
   EXPECT_EQ(std::tuple(day, date_psn, hour_psn, offset), std::tuple(7, 8, 9, -24));
 
   const DateTime before = when;
-  for (const char* impossible : {"260230"
-                                 "1"
-                                 "1200",
-                                 "261301"
-                                 "1"
-                                 "1200",
-                                 "260101"
-                                 "1"
-                                 "2460"}) {
-    Answer(0x10, 0,
-           std::string(impossible) +
-               "11"
-               "12"
-               "48");
-    ReadCt(when, day, date_psn, hour_psn, offset);
+  for (const char* impossible : {"26023011200", "26130111200", "26010112460"}) {
+    read(impossible, "111248");
     EXPECT_EQ(when, before);
     EXPECT_EQ(offset, 24);
   }
@@ -187,31 +151,27 @@ TEST_F(StationCommands, ReadCt) {
 
 TEST_F(StationCommands, FailedReadsTouchNothing) {
   port.answer = [](const Bytes&) { return Bytes{'?'}; };
-  const auto& c = *configData;
-  const auto all = [&c] {
-    return std::tuple(c.Country(), c.Coverage(), c.ProgramNum(), c.Ecc(), c.Lic(), c.Tp(), c.Mono(),
-                      c.ArtificialHead(), c.Compressed(), c.StaticPty(), c.DateValue(),
-                      c.CtOffset());
-  };
-  const auto before = all();
+  configData->SetIni();
+  const std::string before = ReadFile(ProgramFile());
+  const DateTime date = configData->DateValue();
   const std::pair<void (ConfigData::*)(), const char*> reads[] = {
       {&ConfigData::GetPiRds, "PI"},   {&ConfigData::GetEccRds, "ECC"},
       {&ConfigData::GetLicRds, "LIC"}, {&ConfigData::GetTpRds, "TP"},
       {&ConfigData::GetDiRds, "DI"},   {&ConfigData::GetCtRds, "CT"}};
   for (const auto& [read, label] : reads) {
     (configData->*read)();
-    EXPECT_EQ(all(), before);
-    EXPECT_EQ(dialogs.boxes.back().text, std::string(label) + ":   [ TX ] not acknowledge   ");
+    EXPECT_EQ(BoxText(), std::string(label) + ":   [ TX ] not acknowledge   ");
   }
+  configData->SetIni();
+  EXPECT_EQ(ReadFile(ProgramFile()), before);
+  EXPECT_EQ(configData->DateValue(), date);
 }
 
 TEST_F(StationCommands, RecordDoesNothingWhileTheLinkIsClosed) {
   LinkOpen = false;
   LinkError = 77;
   configData->SetPiRds();
-  configData->GetPiRds();
   configData->GetDiRds();
-  configData->SetCtRds();
   EXPECT_TRUE(port.written.empty());
   EXPECT_EQ(LinkError, 77);
 }
@@ -224,52 +184,20 @@ TEST_F(StationCommands, DiValueHasTwoInvertedBits) {
   const Case cases[] = {{false, false, false, true, '1'},  {true, false, false, true, '0'},
                         {false, true, false, true, '3'},   {false, false, true, true, '5'},
                         {false, false, false, false, '9'}, {true, true, true, false, 'E'}};
-  for (const Case& c : cases) {
-    configData->SetMono(c.mono);
-    configData->SetArtificialHead(c.head);
-    configData->SetCompressed(c.compressed);
-    configData->SetStaticPty(c.is_static);
-    configData->SetDiRds();
-    EXPECT_EQ(port.written.back()[3], c.digit);
+  ConfigData& c = *configData;
+  for (const auto& [mono, head, compressed, is_static, digit] : cases) {
+    c.SetMono(mono);
+    c.SetArtificialHead(head);
+    c.SetCompressed(compressed);
+    c.SetStaticPty(is_static);
+    c.SetDiRds();
+    EXPECT_EQ(port.written.back()[3], digit);
 
-    configData->SetMono(!c.mono);
-    configData->SetArtificialHead(!c.head);
-    configData->SetCompressed(!c.compressed);
-    configData->SetStaticPty(!c.is_static);
-    configData->GetDiRds();  // the Coder kept it
-    EXPECT_EQ(std::tuple(configData->Mono(), configData->ArtificialHead(), configData->Compressed(),
-                         configData->StaticPty()),
-              std::tuple(c.mono, c.head, c.compressed, c.is_static));
+    c = ConfigData();
+    c.GetDiRds();  // the Coder kept it
+    EXPECT_EQ(std::tuple(c.Mono(), c.ArtificialHead(), c.Compressed(), c.StaticPty()),
+              std::tuple(mono, head, compressed, is_static));
   }
-}
-
-TEST_F(StationCommands, EveryItemComesBackFromTheCoderAsItWasSent) {
-  configData->SetCountry(0xA);
-  configData->SetCoverage(15);
-  configData->SetProgramNum(255);
-  configData->SetEcc(0xF3);
-  configData->SetLic(0x7F);
-  configData->SetTp(true);
-  configData->SetDateValue(local_days{2029y / std::chrono::December / 31} + 23h + 59min);
-  configData->SetDayOfWeek(1);
-  configData->SetCtOffset(-3);
-  for (const auto send : {&ConfigData::SetPiRds, &ConfigData::SetEccRds, &ConfigData::SetLicRds,
-                          &ConfigData::SetTpRds, &ConfigData::SetCtRds}) {
-    (configData->*send)();
-    ASSERT_EQ(LinkError, kLinkOk);
-  }
-  const ConfigData sent = *configData;
-  *configData = ConfigData();
-  for (const auto read : {&ConfigData::GetPiRds, &ConfigData::GetEccRds, &ConfigData::GetLicRds,
-                          &ConfigData::GetTpRds, &ConfigData::GetCtRds}) {
-    (configData->*read)();
-    ASSERT_EQ(LinkError, kLinkOk);
-  }
-  const auto all = [](const ConfigData& c) {
-    return std::tuple(c.Country(), c.Coverage(), c.ProgramNum(), c.Ecc(), c.Lic(), c.Tp(),
-                      c.DateValue(), c.DayOfWeek(), c.CtOffset());
-  };
-  EXPECT_EQ(all(*configData), all(sent));
 }
 
 }  // namespace

@@ -30,17 +30,5 @@ TEST_F(EngineTest, RunGoesOnOverNoiseBetweenItsFrames) {
   EXPECT_TRUE(dialogs.boxes.empty());
 }
 
-TEST_F(EngineTest, EscBetweenTwoItemsEndsTheRunWithTheNextFrame) {
-  Start(kSatellite);
-  Open();
-  RunItems(5, [this](int number) {
-    WriteTp();
-    if (number == 1) time.After(0, [] { EscPressed = true; });
-  });
-  EXPECT_EQ(port.written.size(), 3U);
-  EXPECT_EQ(LinkError, kErrorAborted);
-  EXPECT_TRUE(dialogs.boxes.empty());
-}
-
 }  // namespace
 }  // namespace corvalis::test
