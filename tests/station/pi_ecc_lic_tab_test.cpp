@@ -16,6 +16,9 @@ const Bytes kItaly5000{0x02, 0x01, 0x00, '5', '0', '0', '0', 0x03, 0x05};
 class PiTabTest : public StationScreenTest<CtTpDiPiForm> {
  protected:
   PiEccLicTab& Tab() const { return form->pi_ecc_lic; }
+  static std::string Selected(const ListBox& list) {
+    return list.Index() == ListBox::kNone ? "" : list.Entry(list.Index());
+  }
   static void Choose(ListBox& list, const std::string& entry) {
     for (int i = 0; i < list.Count(); ++i) {
       if (list.Entry(i) == entry) list.Choose(i);

@@ -8,6 +8,8 @@
 
 #include "config/config_data.h"
 #include "link/serial_management.h"
+#include "screen/button.h"
+#include "screen/spinner.h"
 #include "screen/window.h"
 #include "support/test_machine.h"
 
@@ -61,9 +63,6 @@ class StationScreenTest : public LinkTest {
     }
     EXPECT_EQ(Written(), std::vector<Bytes>{});
     AddressSent = true;
-  }
-  static std::string Selected(const ListBox& list) {
-    return list.Index() == ListBox::kNone ? "" : list.Entry(list.Index());
   }
   /// Steps up, or down where `steps` is negative.
   static void Step(Spinner& spinner, int steps) {
