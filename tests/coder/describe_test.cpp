@@ -56,24 +56,6 @@ TEST(Describe, DumpsEachItemInALine) {
             std::string::npos);
 }
 
-TEST(Options, AreReadFromTheCommandLine) {
-  const std::vector<const char*> words = {"--link", "/tmp/com1",      "--id", "A b",
-                                          "--open", "--baud",         "9600", "--late",
-                                          "0",      "--unplug-after", "5",    "--replug-after",
-                                          "0",      "--modem",        "busy"};
-  Options options;
-  ASSERT_EQ(ParseOptions(words, options), "");
-  EXPECT_EQ(options.link, "/tmp/com1");
-  EXPECT_EQ(options.id, "A b");
-  EXPECT_TRUE(options.open);
-  EXPECT_FALSE(options.pace || options.print || options.dump || options.faults.silent);
-  EXPECT_EQ(options.baud, 9600);
-  EXPECT_EQ(options.stop_bits, 0);
-  EXPECT_EQ(options.faults.unplug_after, 5);
-  EXPECT_EQ(options.replug_after_ms, 0);
-  EXPECT_EQ(options.modem, Modem::Calls::kBusy);
-}
-
 TEST(Options, SayWhatIsWrong) {
   struct {
     std::vector<const char*> words;

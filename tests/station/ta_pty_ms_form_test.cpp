@@ -114,13 +114,6 @@ TEST_F(TaPtyMsTest, OneWayLinkRepeatsWithoutAnAddress) {
   EXPECT_EQ(Boxes(), no_boxes);
 }
 
-TEST_F(TaPtyMsTest, RefusedPressIsReportedAndStays) {
-  OpenScreen(kLocal, /*open_coder=*/false);
-  form->Command2.Press();
-  EXPECT_EQ(Boxes(), std::vector<std::string>{"TA: [RDS] before send address  "});
-  EXPECT_EQ(Lit(), "13");
-}
-
 TEST_F(TaPtyMsTest, PtyIsTakenWhenTheListIsLeft) {
   OpenScreen(kLocal);
   ChoosePty(16);
