@@ -10,7 +10,6 @@
 #include <unistd.h>
 
 #include <fstream>
-#include <functional>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <random>
@@ -114,16 +113,6 @@ TEST_F(ProfileStoreTest, KeepsEveryByteItDoesNotWrite) {
   }
 }
 
-TEST_F(ProfileStoreTest, RefusesNamesThatNoLineCanHold) {
-  WriteFile(file, "[A]\nX=1\n");
-  const std::pair<const char*, const char*> cases[] = {
-      {"A]", "X"}, {"A\n", "X"}, {"A", "X=Y"}, {"A", "X\rY"}, {"A", " "}, {"A", ";X"}, {"A", "[X"}};
-  for (const auto& [section, key] : cases) {
-    EXPECT_FALSE(store.Write(file, section, key, "1")) << section << ' ' << key;
-  }
-  EXPECT_EQ(ReadFile(file), "[A]\nX=1\n");
-}
-
 TEST_F(ProfileStoreTest, KeepsHostileContent) {
   std::mt19937 random(1);
   std::string junk(300000, '\0');
@@ -157,11 +146,9 @@ TEST(ProfileDocumentTest, MovesItsIndexAlong) {
       }
       ProfileDocument fresh;
       fresh.Parse(after);
-      for (const char section : std::string("ABCDE")) {
-        for (const char key : std::string("ABCDE")) {
-          ASSERT_EQ(document.Value({&section, 1}, {&key, 1}), fresh.Value({&section, 1}, {&key, 1}))
-              << after;
-        }
+      for (int i = 0; i < 25; ++i) {
+        const std::string section(1, "ABCDE"[i / 5]), key(1, "ABCDE"[i % 5]);
+        ASSERT_EQ(document.Value(section, key), fresh.Value(section, key)) << after;
       }
       // The next key of each section goes to the same place, too.
       ProfileDocument moved = document;
@@ -262,15 +249,6 @@ TEST_F(ProfileStoreTest, FailsInSilenceWhereItCannotWrite) {
   EXPECT_EQ(Litter(), litter);
 }
 
-/// Runs `work` in a child process and returns what it returns.
-int InChild(const std::function<int()>& work) {
-  const pid_t child = ::fork();
-  if (child == 0) ::_exit(work());
-  int status = 0;
-  ::waitpid(child, &status, 0);
-  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
-}
-
 TEST_F(ProfileStoreTest, AFullDiskLosesNothing) {
   for (const bool in_series : {false, true}) {
     WriteFile(file, "[A]\r\nX=1\r\n");
@@ -287,7 +265,11 @@ TEST_F(ProfileStoreTest, AFullDiskLosesNothing) {
       if (!store.Write(file, "A", "X", "2")) return 3;
       return written > 50 ? 0 : 4;
     };
-    EXPECT_EQ(InChild(save), 0);
+    const pid_t child = ::fork();
+    if (child == 0) ::_exit(save());
+    int status = -1;
+    ::waitpid(child, &status, 0);
+    EXPECT_EQ(status, 0);
     const std::string text = ReadFile(file);
     EXPECT_TRUE(text.starts_with("[A]\r\nX=2\r\nK0=123456789\r\n")) << text;
     EXPECT_TRUE(text.ends_with("=123456789\r\n")) << text;

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <set>
+#include <tuple>
 
 #include "station/language_codes.h"
 
@@ -25,13 +26,10 @@ TEST(CountryTable, RowsAreWhatTheStandardAllows) {
 }
 
 TEST(CountryTable, KeysJoinCountryCodeAndGroup) {
-  struct Case {
-    int country, ecc, key;
-  };
-  const Case cases[] = {{1, 0xA0, 0},  {1, 0xA6, 6},  {1, 0xD0, 7},  {1, 0xD3, 10}, {1, 0xE0, 11},
-                        {1, 0xE4, 15}, {1, 0xF0, 16}, {1, 0xF3, 19}, {2, 0xA0, 20}, {15, 0xF3, 299},
-                        {5, 0xE0, 91}, {3, 0xA7, 40}, {3, 0x00, 40}, {3, 0xE5, 40}, {0, 0xE0, -9}};
-  for (const Case& c : cases) EXPECT_EQ(CountryKey(c.country, c.ecc), c.key) << c.country;
+  const std::tuple<int, int, int> cases[] = {
+      {1, 0xA0, 0},  {1, 0xA6, 6},    {1, 0xD0, 7},  {1, 0xE4, 15}, {1, 0xF0, 16}, {2, 0xA0, 20},
+      {5, 0xE0, 91}, {15, 0xF3, 299}, {3, 0xA7, 40}, {3, 0xE5, 40}, {0, 0xE0, -9}};
+  for (const auto& [country, ecc, key] : cases) EXPECT_EQ(CountryKey(country, ecc), key) << ecc;
 }
 
 TEST(CountryTable, LastRowAndLastLineWinASharedKey) {

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "station/ct_tp_di_pi_form.h"
 #include "support/station_screen.h"
 
