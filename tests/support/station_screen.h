@@ -70,7 +70,7 @@ class StationScreenTest : public LinkTest {
     for (; steps < 0; ++steps) spinner.PressDown();
   }
 
-  const std::vector<std::string> no_boxes;
+  const std::vector<std::string> no_boxes{};
   Window main_menu{this, "MainForm"};
   std::unique_ptr<Form> form;
 };
