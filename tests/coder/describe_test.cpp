@@ -22,7 +22,6 @@ TEST(Describe, PutsWhatTheCoderTookIntoWords) {
       {Frame(0x08, 0, "AB   "), "Address <- \"AB   \""},
       {Frame(0x08, 1, "C\2   "), "Address, new identity <- \"C.   \""},
       {Frame(0x01, 0, "5201"), "PI <- 5201 (country 5, coverage 2, programme 01)"},
-      {Frame(0x01, 0), "PI read -> 5201 (country 5, coverage 2, programme 01)"},
       {Frame(0x04, 0, "9"), "DI <- 9 (stereo, dynamic PTY)"},
       {Frame(0x09, 19, "0163"), "Enable 19 <- 0163 (group 3B on, repetitions 99)"},
       {Frame(0x0D, 0, "1F"), "PTY <- 1F (type 31)"},
@@ -55,46 +54,6 @@ TEST(Describe, DumpsEachItemInALine) {
       << dump;
   EXPECT_NE(dump.find("\nTDC 82: 31 41 31 02 03 80 20 7E 5A (on)  \"1A1... ~Z\"\n"),
             std::string::npos);
-}
-
-TEST(Describe, DumpsEachGroupByItsName) {
-  Coder coder;
-  for (int index = 0; index < 32; ++index) {
-    ASSERT_TRUE(coder.SetItem(0x09, static_cast<std::uint8_t>(index), Text("0105")));
-  }
-  const std::string dump = Dump(coder);
-  for (int number = 0; number < 16; ++number) {
-    for (const char* version : {"A", "B"}) {
-      const std::string words =
-          "(group " + std::to_string(number) + version + " on, repetitions 5)";
-      EXPECT_NE(dump.find(words), std::string::npos) << words;
-    }
-  }
-}
-
-TEST(Options, AreReadFromTheCommandLine) {
-  const std::vector<const char*> words = {
-      "--link",  "/tmp/com1",      "--id",      "A b",
-      "--open",  "--baud",         "9600",      "--stop-bits",
-      "2",       "--late",         "0",         "--garble",
-      "3",       "--cut",          "4",         "--unplug-after",
-      "5",       "--replug-after", "0",         "--dump",
-      "--modem", "busy",           "--dial-ms", "20"};
-  Options options;
-  ASSERT_EQ(ParseOptions(words, options), "");
-  EXPECT_EQ(options.link, "/tmp/com1");
-  EXPECT_EQ(options.id, "A b");
-  EXPECT_TRUE(options.open && options.dump);
-  EXPECT_FALSE(options.pace || options.print || options.with_stdin || options.faults.silent);
-  EXPECT_EQ(options.baud, 9600);
-  EXPECT_EQ(options.stop_bits, 2);
-  EXPECT_EQ(options.faults.garble_every, 3);
-  EXPECT_EQ(options.faults.cut_after, 4);
-  EXPECT_EQ(options.faults.unplug_after, 5);
-  EXPECT_EQ(options.replug_after_ms, 0);
-  EXPECT_EQ(options.modem, Modem::Calls::kBusy);
-  EXPECT_EQ(options.dial_ms, 20);
-  EXPECT_EQ(Options().modem, std::nullopt);
 }
 
 TEST(Options, SayWhatIsWrong) {

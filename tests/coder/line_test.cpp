@@ -37,12 +37,9 @@ TEST_F(LineTest, CarriesEachAnswerApartAndAtOnce) {
   EXPECT_EQ(late[0].bytes, Refusal(6));
 }
 
-TEST_F(LineTest, SilentTakesAndSaysNothing) {
+TEST_F(LineTest, SilentTakesAndSaysNothingAndLateSaysItLater) {
   EXPECT_TRUE(Three({.silent = true}).empty());
   EXPECT_EQ(coder.Item(0x02), Text("1"));
-}
-
-TEST_F(LineTest, LateDelaysEveryAnswer) {
   for (const auto& answer : Three({.late_ms = 250})) EXPECT_EQ(answer.delay_seconds, 0.25);
 }
 
@@ -50,12 +47,8 @@ TEST_F(LineTest, GarblesOneByteOfEverySecondAnswer) {
   const auto answers = Three({.garble_every = 2});
   ASSERT_EQ(answers.size(), 3U);
   EXPECT_EQ(answers[0].bytes, kAcknowledged);
-  EXPECT_EQ(answers[1].bytes.size(), 1U);
   EXPECT_NE(answers[1].bytes, kAcknowledged);
   EXPECT_EQ(answers[2].bytes, kAcknowledged + kWrite);
-  const auto fourth = line->Take(kRead);
-  ASSERT_EQ(fourth.size(), 1U);
-  EXPECT_NE(FrameChecksum(std::span(fourth[0].bytes).subspan(1)), 0);
 }
 
 TEST_F(LineTest, CutsEachAnswer) {

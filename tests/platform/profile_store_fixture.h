@@ -1,51 +1,30 @@
 #pragma once
 
-#include <gtest/gtest.h>
-#include <stdlib.h>
-
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
-#include "platform/profile_store.h"
+#include "support/test_machine.h"
 
 namespace corvalis::test {
 
 namespace fs = std::filesystem;
 
-inline std::string Contents(const fs::path& file) {
-  std::ifstream stream(file, std::ios::binary);
-  return {std::istreambuf_iterator<char>(stream), {}};
-}
-
-inline void Put(const fs::path& file, const std::string& text) {
-  std::ofstream(file, std::ios::binary) << text;
-}
-
 /// A store and a profile in a folder of its own.
-class ProfileStoreTest : public testing::Test {
+class ProfileStoreTest : public MachineTest {
  protected:
-  ProfileStoreTest() {
-    std::string name = (fs::temp_directory_path() / "corvalis-store-XXXXXX").string();
-    if (::mkdtemp(name.data()) != nullptr) folder = name;
-    file = folder / "station.rds";
-  }
-  ~ProfileStoreTest() override { fs::remove_all(folder); }
-
   /// The names of all files beside the profile, hidden ones too.
   [[nodiscard]] std::vector<std::string> Litter() const {
     std::vector<std::string> names;
-    for (const auto& entry : fs::directory_iterator(folder)) {
+    for (const auto& entry : fs::directory_iterator(home)) {
       if (entry.path() != file) names.push_back(entry.path().filename());
     }
     return names;
   }
 
-  fs::path folder;
-  fs::path file;
-  ProfileStore store;
+  const fs::path home = machine.program_folder;
+  const fs::path file = home / "station.rds";
+  ProfileStore& store = profiles;
 };
 
 }  // namespace corvalis::test

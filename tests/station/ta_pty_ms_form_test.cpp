@@ -4,10 +4,8 @@
 
 #include <gtest/gtest.h>
 
-#include "config/config_data.h"
-#include "link/serial_management.h"
 #include "station/programme_types.h"
-#include "support/test_machine.h"
+#include "support/station_screen.h"
 
 namespace corvalis::test {
 namespace {
@@ -17,24 +15,12 @@ const Bytes kTaOff = Hex("02 0e 00 30 03 3f");
 const Bytes kSpeech = Hex("02 0f 00 30 03 3e");
 const Bytes kWeather = Hex("02 0d 00 31 30 03 0d");
 
-class TaPtyMsTest : public LinkTest {
+class TaPtyMsTest : public StationScreenTest<TaPtyMsForm> {
  protected:
-  void OpenScreen(const std::string& file, bool open_coder = true) {
-    Start(file, {}, open_coder);
-    Open();
-    form = std::make_unique<TaPtyMsForm>(main_menu);
-    main_menu.Show();
-    form->Load();
-    port.written.clear();
-  }
   /// The operator opens the list and chooses a line.
   void ChoosePty(int line) const {
     form->window.MoveFocus(&form->Combo1);
     form->Combo1.Choose(line);
-  }
-  void TypePty(const std::string& text) const {
-    form->window.MoveFocus(&form->Combo1);
-    form->Combo1.TypeText(text);
   }
   /// The indicators that are to be seen.
   std::string Lit() const {
@@ -45,9 +31,6 @@ class TaPtyMsTest : public LinkTest {
     }
     return lit;
   }
-
-  Window main_menu{this, "MainForm"};
-  std::unique_ptr<TaPtyMsForm> form;
 };
 
 TEST_F(TaPtyMsTest, OpensOnTheRecord) {
@@ -70,10 +53,8 @@ TEST_F(TaPtyMsTest, OpensOnTheRecord) {
     form->Load();
     EXPECT_EQ(Lit(), c.lit);
     EXPECT_EQ(form->Combo1.Text(), c.line);
-    EXPECT_FALSE(main_menu.Enabled());
     form->window.Close();
-    EXPECT_TRUE(main_menu.Enabled());
-    EXPECT_EQ(configData->Pty(), c.pty);
+    EXPECT_EQ(configData->Pty(), c.pty);  // showing it is no choice
   }
   ASSERT_EQ(form->Combo1.Count(), kProgrammeTypes);
   for (int pty = 0; pty < kProgrammeTypes; ++pty) {
@@ -81,32 +62,23 @@ TEST_F(TaPtyMsTest, OpensOnTheRecord) {
   }
 }
 
-TEST_F(TaPtyMsTest, ReadIsForATwoWayLink) {
-  OpenScreen(kSatellite);
-  EXPECT_FALSE(form->Command8.Visible());
-  configData->SetSatellite(false);
-  form->Load();
-  EXPECT_TRUE(form->Command8.Visible());
-}
-
 TEST_F(TaPtyMsTest, APressOfTaOrMsChangesTheValueAndSendsIt) {
   OpenScreen(kLocal);
   form->Command2.Press();
-  EXPECT_EQ(port.written, std::vector<Bytes>{kTaOn});
-  EXPECT_EQ(the_coder->Item(0x0E), Bytes{'1'});
   EXPECT_EQ(Lit(), "13");
   EXPECT_EQ(form->Check3.ColourTone(), CheckBox::Tone::kOn);
-
   form->Command6.Press();
-  EXPECT_EQ(port.written.back(), kSpeech);
-  EXPECT_EQ(the_coder->Item(0x0F), Bytes{'0'});
   EXPECT_EQ(Lit(), "23");
-  EXPECT_FALSE(configData->Music());
-
   form->Command2.Press();
-  EXPECT_EQ(port.written, (std::vector<Bytes>{kTaOn, kSpeech, kTaOff}));
-  EXPECT_FALSE(configData->Ta());
-  EXPECT_TRUE(dialogs.boxes.empty());
+  EXPECT_EQ(Written(), (std::vector<Bytes>{kTaOn, kSpeech, kTaOff}));
+  EXPECT_EQ(Held(0x0E), "0");
+  EXPECT_EQ(Held(0x0F), "0");
+  EXPECT_FALSE(configData->Ta() || configData->Music());
+  EXPECT_EQ(Boxes(), no_boxes);
+  // An indicator only shows.
+  for (CheckBox* box : {&form->Check2, &form->Check4}) box->Press();
+  EXPECT_EQ(Lit(), "24");
+  EXPECT_TRUE(port.written.empty());
 }
 
 TEST_F(TaPtyMsTest, APressDuringATransferIsNone) {
@@ -120,38 +92,26 @@ TEST_F(TaPtyMsTest, APressDuringATransferIsNone) {
 
 TEST_F(TaPtyMsTest, OneWayLinkRepeatsWithoutAnAddress) {
   OpenScreen(kSatellite);
+  EXPECT_FALSE(form->Command8.Visible());
   ChoosePty(16);
   bool ta = false;
   for (const int burst : {3, 1, 0}) {
     configData->SetBurst(static_cast<std::int16_t>(burst));
     const auto passes = static_cast<std::size_t>(burst);
-    port.written.clear();
     form->Command2.Press();
     ta = !ta;
     EXPECT_EQ(configData->Ta(), ta);
-    EXPECT_EQ(port.written, std::vector<Bytes>(passes, ta ? kTaOn : kTaOff));
-    port.written.clear();
+    EXPECT_EQ(Written(), std::vector<Bytes>(passes, ta ? kTaOn : kTaOff));
     form->Command1.Press();
-    EXPECT_EQ(port.written, std::vector<Bytes>(passes, kWeather));
+    EXPECT_EQ(Written(), std::vector<Bytes>(passes, kWeather));
   }
-  EXPECT_TRUE(dialogs.boxes.empty());
-}
-
-TEST_F(TaPtyMsTest, NoFailureCutsABurstShortOrTakesTheValueBack) {
-  OpenScreen(kSatellite);
+  // No failure cuts it short or takes the value back.
+  configData->SetBurst(3);
   port.Wrote = [this] { EscPressed = port.written.size() == 1; };
   form->Command6.Press();
-  EXPECT_EQ(port.written, std::vector<Bytes>(3, kSpeech));
-  EXPECT_EQ(Lit(), "24");
-}
-
-TEST_F(TaPtyMsTest, RefusedPressIsReportedAndStays) {
-  OpenScreen(kLocal, /*open_coder=*/false);
-  form->Command2.Press();
-  ASSERT_EQ(dialogs.boxes.size(), 1U);
-  EXPECT_EQ(dialogs.boxes[0].text, "TA: [RDS] before send address  ");
-  EXPECT_TRUE(configData->Ta());
-  EXPECT_EQ(Lit(), "13");
+  EXPECT_EQ(Written(), std::vector<Bytes>(3, kSpeech));
+  EXPECT_EQ(Lit(), "23");
+  EXPECT_EQ(Boxes(), no_boxes);
 }
 
 TEST_F(TaPtyMsTest, PtyIsTakenWhenTheListIsLeft) {
@@ -159,13 +119,7 @@ TEST_F(TaPtyMsTest, PtyIsTakenWhenTheListIsLeft) {
   ChoosePty(16);
   EXPECT_EQ(configData->Pty(), 0);
   form->Command1.Press();
-  EXPECT_EQ(configData->Pty(), 16);
-  EXPECT_EQ(port.written, std::vector<Bytes>{kWeather});
-  ChoosePty(31);
-  form->Command1.Press();
-  EXPECT_EQ(the_coder->Item(0x0D), (Bytes{'1', 'F'}));
-
-  port.written.clear();
+  EXPECT_EQ(Written(), std::vector<Bytes>{kWeather});
   ChoosePty(5);
   form->window.Close();
   EXPECT_EQ(configData->Pty(), 5);
@@ -178,7 +132,8 @@ TEST_F(TaPtyMsTest, PtyIsTakenWhenTheListIsLeft) {
 
 TEST_F(TaPtyMsTest, TypedTextIsNoProgrammeTypeAndIsNotPutOnAir) {
   OpenScreen(kLocal);
-  TypePty("News");
+  form->window.MoveFocus(&form->Combo1);
+  form->Combo1.TypeText("News");
   form->Command1.Press();
   EXPECT_EQ(configData->Pty(), -1);
   EXPECT_TRUE(port.written.empty());
@@ -196,49 +151,27 @@ TEST_F(TaPtyMsTest, TypedTextIsNoProgrammeTypeAndIsNotPutOnAir) {
   EXPECT_EQ(port.written, std::vector<Bytes>{kWeather});
 }
 
-TEST_F(TaPtyMsTest, ReadTakesAllThree) {
+TEST_F(TaPtyMsTest, ReadTakesAllThreeWhateverBecameOfTheOthers) {
   OpenScreen(kLocal);
-  the_coder->SetItem(0x0D, 0, Bytes{'1', '0'});
-  the_coder->SetItem(0x0E, 0, Bytes{'2'});  // any digit but 0
-  the_coder->SetItem(0x0F, 0, Bytes{'0'});
+  Hold(0x0D, "10");
+  Hold(0x0E, "2");  // any digit but 0
+  Hold(0x0F, "0");
   form->Command8.Press();
-  EXPECT_EQ(port.written, (std::vector<Bytes>{Hex("02 0d 00 03 0c"), Hex("02 0e 00 03 0f"),
-                                              Hex("02 0f 00 03 0e")}));
+  EXPECT_EQ(Written(), (std::vector<Bytes>{Hex("02 0d 00 03 0c"), Hex("02 0e 00 03 0f"),
+                                           Hex("02 0f 00 03 0e")}));
   EXPECT_EQ(form->Combo1.Text(), "16  Weather");
   EXPECT_EQ(configData->Pty(), 16);
   EXPECT_EQ(Lit(), "23");
 
-  // A type that there is not selects nothing.
-  the_coder->SetItem(0x0D, 0, Bytes{'2', '0'});
-  form->Command8.Press();
-  EXPECT_EQ(configData->Pty(), 32);
-  EXPECT_EQ(form->Combo1.Text(), "");
-}
-
-TEST_F(TaPtyMsTest, EachReadRunsWhateverTheLastOneLeft) {
-  OpenScreen(kLocal);
-  configData->SetPty(9);
   port.answer = [this](const Bytes& frame) {
     return frame[1] == 0x0E ? the_coder->Take(frame) : Hex("15 02 00 07 03 06");
   };
-  the_coder->SetItem(0x0E, 0, Bytes{'1'});
+  Hold(0x0E, "0");
   form->Command8.Press();
-  EXPECT_EQ(port.written.size(), 3U);
-  EXPECT_EQ(dialogs.boxes.size(), 2U);
-  EXPECT_EQ(form->Combo1.Text(), "9    Varied");
-  EXPECT_EQ(Lit(), "13");
-}
-
-TEST_F(TaPtyMsTest, AClickOnAnIndicatorChangesNothing) {
-  OpenScreen(kLocal);
-  for (CheckBox* box : {&form->Check1, &form->Check4}) {
-    box->Press();
-    EXPECT_TRUE(box->Checked());
-  }
-  EXPECT_EQ(Lit(), "14");
-  EXPECT_FALSE(configData->Ta());
-  EXPECT_TRUE(configData->Music());
-  EXPECT_TRUE(port.written.empty());
+  EXPECT_EQ(Written().size(), 3U);
+  EXPECT_EQ(Boxes().size(), 2U);
+  EXPECT_EQ(form->Combo1.Text(), "16  Weather");
+  EXPECT_EQ(Lit(), "24");
 }
 
 }  // namespace
