@@ -10,7 +10,7 @@ namespace corvalis {
 
 bool TransferCloseAllowed = false;
 
-SerialCommunicationForm::SerialCommunicationForm(std::function<void()> abort)
+SerialCommunicationForm::SerialCommunicationForm(const std::function<void()>& abort)
     : window(this, "SerialCommunicationForm"),
       ProgressBar1(window, "ProgressBar1"),
       Timer1(window, "Timer1", kBusyTickMs),

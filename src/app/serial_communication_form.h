@@ -17,7 +17,7 @@ extern bool TransferCloseAllowed;
 class SerialCommunicationForm {
  public:
   /// `abort` is called when the operator presses ESC.
-  explicit SerialCommunicationForm(std::function<void()> abort);
+  explicit SerialCommunicationForm(const std::function<void()>& abort);
 
   Window window;
   ProgressBar ProgressBar1;
