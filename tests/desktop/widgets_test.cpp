@@ -53,7 +53,6 @@ struct Screen {
       key = kKeyCancelled;
       ++refused;
     };
-    open.Click = [this] { ++clicks; };
     calendar.SetDate(year(2026) / November / 24);
   }
 
@@ -68,7 +67,6 @@ struct Screen {
   Calendar calendar{window, "Calendar1"};
   Tabs tabs{window, "SSTab1", {"PI", "TP"}};
   int refused = 0;
-  int clicks = 0;
 };
 
 struct View : WindowView {
@@ -141,19 +139,6 @@ TEST(TextConversion, EveryFileNameComesBack) {
     EXPECT_EQ(ToFileName(FromFileName(name)), name);
   }
   EXPECT_EQ(FromFileName("M\xC3\xBCnchen"), QStringLiteral(u"M\u00FCnchen"));
-}
-
-TEST(KeyCodes, AreThoseThatAFormKnows) {
-  const std::tuple<int, Qt::KeyboardModifiers, QString, int> cases[] = {
-      {0, {}, QStringLiteral(u"\u20AC"), 0x80},
-      {0, Qt::GroupSwitchModifier, "@", '@'},
-      {0, {}, QStringLiteral(u"\u0416"), kKeyCancelled},
-      {Qt::Key_A, Qt::AltModifier, "a", kKeyCancelled},
-      {Qt::Key_Delete, {}, "\x7F", kKeyCancelled},
-  };
-  for (const auto& [key, modifiers, text, code] : cases) {
-    EXPECT_EQ(KeyCode(QKeyEvent(QEvent::KeyPress, key, modifiers, text)), code) << key;
-  }
 }
 
 TEST_F(WidgetsTest, NothingGetsPastTheRuleOfABox) {
@@ -280,16 +265,6 @@ TEST_F(WidgetsTest, TheWheelChoosesNothing) {
   EXPECT_EQ(screen_.tabs.Tab(), 0);
 }
 
-TEST_F(WidgetsTest, AnOpenListIsChosenFromByPointerAndArrows) {
-  const int clicks = screen_.clicks;
-  for (int i = 0; i < 2; ++i) Click(view_->open->viewport(), Middle(*view_->open, 2));
-  EXPECT_EQ(screen_.open.Index(), 2);
-  EXPECT_EQ(screen_.clicks, clicks + 2);  // also for the entry that was selected already
-  QTest::keyClick(view_->open, Qt::Key_Up);
-  EXPECT_EQ(screen_.open.Index(), 1);
-  EXPECT_EQ(view_->open->currentRow(), 1);
-}
-
 TEST_F(WidgetsTest, ACheckBoxShowsWhatTheFormMakesOfAPress) {
   QTest::keyClick(view_->check, Qt::Key_Space);
   EXPECT_TRUE(screen_.check.Checked());
@@ -305,12 +280,6 @@ TEST_F(WidgetsTest, AMemoKeepsTheBytesThatAreNotTouched) {
   QTest::keyClick(view_->memo, Qt::Key_Return);
   QTest::keyClicks(view_->memo, "x");
   EXPECT_EQ(screen_.memo.Text(), "one\r\nx\r\ntwo\nthree\xA0");
-
-  screen_.memo.KeyPress = [](int& key) { key = kKeyCancelled; };
-  QApplication::clipboard()->setText("pasted");
-  QTest::keyClicks(view_->memo, "y");
-  view_->memo->paste();
-  screen_.memo.KeyPress = nullptr;
   screen_.memo.SetLocked(true);
   QTest::keyClick(view_->memo, Qt::Key_Delete);
   EXPECT_EQ(screen_.memo.Text(), "one\r\nx\r\ntwo\nthree\xA0");

@@ -42,18 +42,6 @@ class EditGroupsTest : public StationScreenTest<EditGroupsForm> {
   std::unique_ptr<GroupsData> groups;
 };
 
-TEST_F(EditGroupsTest, ControlsFollowTheLinkAndTheCoderModel) {
-  for (const bool two_way : {true, false}) {
-    OpenScreen(two_way ? kLocalB : "");
-    EXPECT_EQ(form->Command12.Visible(), !two_way);
-    EXPECT_EQ(form->Command13.Visible(), two_way);
-    EXPECT_EQ(form->Command2.Visible(), two_way);
-    EXPECT_TRUE(form->Check1[15].Enabled());
-    EXPECT_EQ(form->Check1[16].Enabled(), two_way);  // by the model alone
-    EXPECT_TRUE(form->VScroll2[16].Enabled());
-  }
-}
-
 TEST_F(EditGroupsTest, SharesOfTheCycle) {
   const std::tuple<const char*, const char*, const char*, int> cases[] = {
       {"", "0 %", "0 %", 0},
@@ -120,6 +108,8 @@ TEST_F(EditGroupsTest, SendAllSendsWhatTheCoderModelHasUntilARefusal) {
 
 TEST_F(EditGroupsTest, OneWayLinkHasTheAddressRuleAndBursts) {
   OpenScreen("[Serial Setup]\nBurst=3\n");
+  EXPECT_TRUE(form->Command12.Visible());
+  EXPECT_FALSE(form->Command13.Visible() || form->Command2.Visible());
   ExpectAddressRule({&form->Command1, &form->Command12, &form->Command11});
   form->Command11.Press();
   EXPECT_EQ(SentGroups(), std::vector<int>{0});
@@ -138,6 +128,8 @@ TEST_F(EditGroupsTest, OneGroup) {
   for (const auto& [file, group, travels] : cases) {
     SCOPED_TRACE(group);
     OpenScreen(file);
+    EXPECT_FALSE(form->Command12.Visible());
+    EXPECT_EQ(form->Check1[group].Enabled(), travels);
     groups->SetActive(group, true);
     groups->SetRepetitions(group, 11);
     form->window.MoveFocus(&form->Text1[group]);

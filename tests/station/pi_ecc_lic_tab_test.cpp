@@ -72,10 +72,13 @@ TEST_F(PiTabTest, ButtonsFollowTheLinkAndTheCoderModel) {
   }
 }
 
-TEST_F(PiTabTest, ChoicesAndStepsSetTheRecord) {
+TEST_F(PiTabTest, ChoicesAndStepsSetTheRecordAndAreSent) {
   OpenScreen(kLocal);
+  for (ListBox* list : {&Tab().CountryCombo, &Tab().CoverageCombo, &Tab().LicCombo}) {
+    list->TypeKey('s');
+  }
+  EXPECT_EQ(dialogs.beeps, 3);
   Choose(Tab().CountryCombo, "Spain");
-  EXPECT_EQ(configData->Ecc(), 0xE2);
   EXPECT_EQ(Tab().EccText.Text(), "E2");
   // In the order of the keys; of those that share a key, the winner alone.
   const std::vector<std::string> group{
@@ -87,12 +90,17 @@ TEST_F(PiTabTest, ChoicesAndStepsSetTheRecord) {
   EXPECT_EQ(Tab().CountryList.Entries(), group);
   Choose(Tab().CoverageCombo, "Regional 12 + ARI");
   Choose(Tab().LicCombo, "Zulu");
-  EXPECT_EQ(configData->Lic(), 0x45);
   Step(Tab().VScroll3, -1);
   EXPECT_EQ(Tab().IDNumberText.Text(), "000");
   Step(Tab().VScroll3, 300);
   EXPECT_EQ(Tab().IDNumberText.Text(), "255");
   EXPECT_EQ(Tab().PiText.Text(), "EFFF");
+  for (Button* button : {&Tab().SendPiCommand, &Tab().SendEccCommand, &Tab().SendLicCommand}) {
+    button->Press();
+    EXPECT_TRUE(form->window.Enabled());
+  }
+  EXPECT_EQ(Held(0x01) + Held(0x19) + Held(0x1A), "EFFFE245");
+  EXPECT_EQ(Boxes(), no_boxes);
 }
 
 TEST_F(PiTabTest, TypedPiGivesItsParts) {
@@ -136,28 +144,6 @@ TEST_F(PiTabTest, KeysOfPi) {
     EXPECT_EQ(Tab().PiText.Text(), after) << key;
     EXPECT_EQ(dialogs.beeps, beeps) << key;
   }
-}
-
-TEST_F(PiTabTest, ListsRefuseKeys) {
-  OpenScreen(kLocal);
-  for (ListBox* list : {&Tab().CountryCombo, &Tab().CoverageCombo, &Tab().LicCombo}) {
-    dialogs.beeps = 0;
-    list->TypeKey('s');
-    EXPECT_EQ(dialogs.beeps, 1);
-  }
-}
-
-TEST_F(PiTabTest, SendOnALocalLink) {
-  OpenScreen(kLocal);
-  port.Wrote = [this] { EXPECT_FALSE(form->window.Enabled()); };
-  Tab().SendPiCommand.Press();
-  EXPECT_EQ(Written(), std::vector<Bytes>{kItaly5000});
-  EXPECT_TRUE(form->window.Enabled());
-  Tab().SendEccCommand.Press();
-  Tab().SendLicCommand.Press();
-  EXPECT_EQ(Held(0x19), "E0");
-  EXPECT_EQ(Held(0x1A), "15");
-  EXPECT_EQ(Boxes(), no_boxes);
 }
 
 TEST_F(PiTabTest, OneWayLink) {
