@@ -32,13 +32,6 @@ TEST(CountryTable, LastRowAndLastLineWinASharedKey) {
   }
 }
 
-TEST(CountryTable, LinesAreInOrderOfTheirCharacterCodes) {
-  const CountryIndex index;
-  for (int line = 1; line < kCountries; ++line) {
-    EXPECT_LT(Countries()[index.RowOfLine(line - 1)].name, Countries()[index.RowOfLine(line)].name);
-  }
-}
-
 TEST(LanguageCodes, NamedOnesComeFirstByName) {
   const LanguageCodeIndex index;
   for (int line = 1; line < index.NamedLines(); ++line) {
