@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 #include "support/station_screen.h"
 
 namespace corvalis::test {
@@ -40,106 +42,39 @@ class EditGroupsTest : public StationScreenTest<EditGroupsForm> {
   std::unique_ptr<GroupsData> groups;
 };
 
-TEST_F(EditGroupsTest, OpensOnTheTable) {
-  OpenScreen(std::string(kLocalB) + "[Groups]\nGroup02A=07;On\nGroup15B=99;On\nGroup03A=5;Off\n");
-  struct Case {
-    int group;
-    const char *name, *text;
-    bool active;
-  };
-  const Case cases[] = {{2, "2A", "007", true}, {3, "3A", "005", false}, {31, "15B", "099", true}};
-  for (const Case& c : cases) {
-    const CheckBox& box = form->Check1[c.group];
-    EXPECT_EQ(box.Caption(), c.name);
-    EXPECT_EQ(box.ColourTone(), c.active ? CheckBox::Tone::kOn : CheckBox::Tone::kOff);
-    EXPECT_EQ(form->Text1[c.group].Text(), c.text);
-  }
-  EXPECT_EQ(SelectedGroup(), "0A");
-  form->Text1[2].Type("5");
-  EXPECT_EQ(form->Text1[2].Text(), "007");
-}
-
-TEST_F(EditGroupsTest, ControlsFollowTheLinkAndTheCoderModel) {
-  struct Case {
-    const char* file;
-    bool two_way, b_groups;
-  };
-  const Case cases[] = {{"[Serial Setup]\nSatellite=Off\n", true, false},
-                        {"[RDS Setup]\nGroups B Enable=On\n", false, true},
-                        {kLocalB, true, true},
-                        {"", false, false}};
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.file);
-    OpenScreen(c.file);
-    EXPECT_EQ(form->Command12.Visible(), !c.two_way);
-    EXPECT_EQ(form->Command13.Visible(), c.two_way);
-    EXPECT_EQ(form->Command2.Visible(), c.two_way);
-    EXPECT_TRUE(form->Check1[15].Enabled());
-    for (const int group : {16, 31}) {
-      EXPECT_EQ(form->Check1[group].Enabled(), c.b_groups);
-      EXPECT_TRUE(form->Text1[group].Enabled());
-      EXPECT_TRUE(form->VScroll2[group].Enabled());
-    }
-  }
-}
-
 TEST_F(EditGroupsTest, SharesOfTheCycle) {
-  struct Case {
-    const char* keys;
-    std::vector<std::pair<int, const char*>> shares;
-    std::vector<int> per_mille;  // in the same order
-  };
-  const Case cases[] = {{"", {{0, "0 %"}, {15, "0 %"}}, {0, 0}},
-                        {"Group00A=3;On\nGroup00B=1;On\nGroup02A=4;On\nGroup05A=9;Off\n",
-                         {{0, "50 %"}, {2, "50 %"}, {5, "0 %"}},
-                         {500, 500, 0}},
-                        {"Group00A=1;On\nGroup01A=7;On\n", {{0, "13 %"}, {1, "88 %"}}, {125, 875}},
-                        {"Group00A=1;On\nGroup01A=199;On\n", {{0, "1 %"}, {1, "100 %"}}, {5, 995}},
-                        // Numbers that only a file made elsewhere can hold.
-                        {"Group00A=3;On\nGroup01A=-5;On\n", {{0, "-150 %"}, {1, "0 %"}}, {0, 0}},
-                        {"Group00A=3;On\nGroup01A=-3;On\n", {{0, "0 %"}, {1, "0 %"}}, {0, 0}}};
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.keys);
-    OpenScreen(std::string("[Groups]\n") + c.keys);
-    for (std::size_t i = 0; i < c.shares.size(); ++i) {
-      const auto& [number, text] = c.shares[i];
-      EXPECT_EQ(form->PercentText[number].Caption(), text) << number;
-      EXPECT_EQ(form->PercentBar[number].Value(), c.per_mille[i]) << number;
-    }
+  const std::tuple<const char*, const char*, const char*, int> cases[] = {
+      {"", "0 %", "0 %", 0},
+      {"Group00A=3;On\nGroup00B=1;On\nGroup02A=4;On\nGroup05A=9;Off\n", "50 %", "50 %", 500},
+      {"Group00A=1;On\nGroup02A=7;On\n", "13 %", "88 %", 875},
+      // Numbers that only a file made elsewhere can hold.
+      {"Group00A=3;On\nGroup02A=-3;On\n", "0 %", "0 %", 0}};
+  for (const auto& [keys, of_group_0, of_group_2, per_mille] : cases) {
+    OpenScreen(std::string("[Groups]\n") + keys);
+    EXPECT_EQ(form->PercentText[0].Caption(), of_group_0) << keys;
+    EXPECT_EQ(form->PercentText[2].Caption(), of_group_2) << keys;
+    EXPECT_EQ(form->PercentBar[2].Value(), per_mille) << keys;
   }
 }
 
-TEST_F(EditGroupsTest, TickingStoresColoursAndShares) {
-  OpenScreen(std::string(kLocalB) + "[Groups]\nGroup04A=2;On\nGroup06B=2;Off\n");
-  form->Check1[22].Press();
-  EXPECT_TRUE(groups->Active(22));
-  EXPECT_EQ(form->PercentText[6].Caption(), "50 %");
-  form->Check1[4].Press();
-  EXPECT_FALSE(groups->Active(4));
-  EXPECT_EQ(form->Check1[4].ColourTone(), CheckBox::Tone::kOff);
-  EXPECT_EQ(form->PercentText[6].Caption(), "100 %");
-  EXPECT_EQ(SelectedGroup(), "4A");
-}
-
-TEST_F(EditGroupsTest, RepetitionsWrapAround) {
-  OpenScreen("[Groups]\nGroup01A=99;On\nGroup03A=50;On\nGroup04A=150;On\n");
-  struct Case {
-    int group, steps, after;
-    const char* text;
-  };
-  const Case cases[] = {
-      {1, +1, 0, "000"}, {1, -1, 99, "099"}, {3, +1, 51, "051"}, {4, -1, 49, "049"}};
-  for (const Case& c : cases) {
-    Step(form->VScroll2[c.group], c.steps);
-    EXPECT_EQ(groups->Repetitions(c.group), c.after) << c.group;
-    EXPECT_EQ(form->Text1[c.group].Text(), c.text) << c.group;
-    EXPECT_EQ(SelectedGroup(), GroupName(c.group));
+TEST_F(EditGroupsTest, TicksAndStepsChangeTheTableAndTheShares) {
+  OpenScreen("[Groups]\nGroup01A=99;On\nGroup03A=49;On\nGroup03B=2;On\n");
+  const std::tuple<int, int, const char*> cases[] = {{+1, 0, "000"}, {-1, 99, "099"}};
+  for (const auto& [step, after, text] : cases) {
+    Step(form->VScroll2[1], step);
+    EXPECT_EQ(groups->Repetitions(1), after);
+    EXPECT_EQ(form->Text1[1].Text(), text);
   }
-  EXPECT_EQ(form->PercentText[3].Caption(), "26 %");  // 51 of 99 + 51 + 49
+  EXPECT_EQ(form->PercentText[3].Caption(), "34 %");  // 51 of 150, though 3B is never sent
+  form->Check1[1].Press();
+  EXPECT_FALSE(groups->Active(1));
+  EXPECT_EQ(form->Check1[1].ColourTone(), CheckBox::Tone::kOff);
+  EXPECT_EQ(form->PercentText[3].Caption(), "100 %");
 }
 
 TEST_F(EditGroupsTest, SelectedGroupFollowsFocusAndClick) {
   OpenScreen(kLocalB);
+  EXPECT_EQ(SelectedGroup(), "0A");
   form->window.MoveFocus(&form->VScroll2[20]);
   EXPECT_EQ(SelectedGroup(), "4B");
   form->Check1[3].Press();
@@ -147,18 +82,10 @@ TEST_F(EditGroupsTest, SelectedGroupFollowsFocusAndClick) {
   EXPECT_EQ(SelectedGroup(), "9A");
   form->Check1[3].Press();  // has kept the focus
   EXPECT_EQ(SelectedGroup(), "3A");
-
-  // Neither a read nor a screen that opens is the operator's choice.
-  form->window.MoveFocus(&form->Text1[7]);
+  // A read is not the operator's choice.
   Hold(kEnableCode, "0109", 30);
   form->Command13.Press();
-  EXPECT_TRUE(form->Check1[30].Checked());
-  EXPECT_EQ(SelectedGroup(), "7A");
-  groups->SetActive(12, true);
-  form->window.Close();
-  form->Load();
-  EXPECT_TRUE(form->Check1[12].Checked());
-  EXPECT_EQ(SelectedGroup(), "0A");
+  EXPECT_EQ(SelectedGroup(), "3A");
 }
 
 TEST_F(EditGroupsTest, SendAllSendsWhatTheCoderModelHasUntilARefusal) {
@@ -172,18 +99,20 @@ TEST_F(EditGroupsTest, SendAllSendsWhatTheCoderModelHasUntilARefusal) {
     EXPECT_EQ(SentGroups(), FirstGroups(b_groups ? 32 : 16));
     EXPECT_EQ(Held(kEnableCode, 2), "0010");
     EXPECT_EQ(Held(kEnableCode, 31), b_groups ? "0105" : "0000");
-    EXPECT_EQ(Boxes(), no_boxes);
   }
   port.answer = [](const Bytes& frame) { return frame[2] == 5 ? kPointerTooBig : Bytes{0x06}; };
   form->Command1.Press();
   EXPECT_EQ(SentGroups(), FirstGroups(6));
   EXPECT_EQ(Boxes(), std::vector<std::string>{"Enable: [RDS] pointer value too big"});
-  EXPECT_TRUE(form->window.Enabled());
 }
 
-TEST_F(EditGroupsTest, BurstMakesItsPassesAndEndsAtAnAbort) {
+TEST_F(EditGroupsTest, OneWayLinkHasTheAddressRuleAndBursts) {
   OpenScreen("[Serial Setup]\nBurst=3\n");
-  AddressSent = true;
+  EXPECT_TRUE(form->Command12.Visible());
+  EXPECT_FALSE(form->Command13.Visible() || form->Command2.Visible());
+  ExpectAddressRule({&form->Command1, &form->Command12, &form->Command11});
+  form->Command11.Press();
+  EXPECT_EQ(SentGroups(), std::vector<int>{0});
   form->Command12.Press();
   EXPECT_EQ(SentGroups(), FirstGroups(16, 3));
   form->Command1.Press();  // once, whatever the burst
@@ -191,69 +120,40 @@ TEST_F(EditGroupsTest, BurstMakesItsPassesAndEndsAtAnAbort) {
   port.Wrote = [this] { EscPressed = port.written.size() == 20; };
   form->Command12.Press();
   EXPECT_EQ(SentGroups().size(), 20U);  // the frame that was being written is the last
-  EXPECT_EQ(LinkError, kErrorAborted);
-  EXPECT_EQ(Boxes(), no_boxes);
-}
-
-TEST_F(EditGroupsTest, AddressRuleOnAOneWayLink) {
-  OpenScreen("");
-  struct Host : ScreenHost {
-    Host() { Window::SetHost(this); }
-    ~Host() override { Window::SetHost(nullptr); }
-    void Shown(Window& window) override { front = &window; }
-    void Gone(Window& /*window*/) override { front = nullptr; }
-    Window* front = nullptr;
-  } host;
-  std::vector<std::string> fronts;
-  dialogs.Shown = [&] { fronts.push_back(host.front == nullptr ? "" : host.front->Name()); };
-  ExpectAddressRule({&form->Command1, &form->Command12, &form->Command11});
-  // The box of the single group stands over the transfer screen.
-  EXPECT_EQ(fronts, (std::vector<std::string>{"", "", "SerialCommunicationForm"}));
-  EXPECT_EQ(host.front, nullptr);
-  form->Command11.Press();
-  EXPECT_EQ(SentGroups(), std::vector<int>{0});
 }
 
 TEST_F(EditGroupsTest, OneGroup) {
-  struct Case {
-    bool b_groups;
-    int group;
-    bool travels;
-  };
-  const Case cases[] = {{false, 15, true}, {false, 16, false}, {true, 16, true}, {true, 31, true}};
-  for (const Case& c : cases) {
-    SCOPED_TRACE(c.group);
-    OpenScreen(c.b_groups ? kLocalB : kLocal);
-    const auto index = static_cast<std::uint8_t>(c.group);
-    Hold(kEnableCode, "0000", index);
-    groups->SetActive(c.group, true);
-    groups->SetRepetitions(c.group, 11);
-    form->window.MoveFocus(&form->Text1[c.group]);
+  const std::tuple<const char*, std::uint8_t, bool> cases[] = {
+      {kLocal, 15, true}, {kLocal, 16, false}, {kLocalB, 31, true}};
+  for (const auto& [file, group, travels] : cases) {
+    SCOPED_TRACE(group);
+    OpenScreen(file);
+    EXPECT_FALSE(form->Command12.Visible());
+    EXPECT_EQ(form->Check1[group].Enabled(), travels);
+    groups->SetActive(group, true);
+    groups->SetRepetitions(group, 11);
+    form->window.MoveFocus(&form->Text1[group]);
     form->Command11.Press();
     form->Command2.Press();
-    EXPECT_EQ(SentGroups(), c.travels ? std::vector<int>(2, c.group) : std::vector<int>{});
-    EXPECT_EQ(Held(kEnableCode, index), c.travels ? "010B" : "0000");
-    EXPECT_EQ(Boxes(), no_boxes);
+    EXPECT_EQ(SentGroups(), travels ? std::vector<int>(2, group) : std::vector<int>{});
+    EXPECT_EQ(Held(kEnableCode, group), travels ? "010B" : "0000");
     EXPECT_TRUE(form->window.Enabled());
   }
 }
 
 TEST_F(EditGroupsTest, ReadAllStoresUntilTheFirstFailure) {
   OpenScreen(std::string(kLocalB) + "[Groups]\nGroup03A=20;On\nGroup15B=8;On\n");
-  Hold(kEnableCode, "0103", 0);
   Hold(kEnableCode, "01FF", 2);
   Hold(kEnableCode, "0000", 3);
   Hold(kEnableCode, "0001", 31);
   port.answer = [this](const Bytes& f) { return f[2] == 3 ? kPointerTooBig : the_coder->Take(f); };
   form->Command13.Press();
   EXPECT_EQ(SentGroups(), FirstGroups(4));
-  EXPECT_EQ(Boxes().size(), 1U);
-  EXPECT_EQ(groups->Repetitions(0), 3);
-  EXPECT_EQ(form->Text1[2].Text(), "255");
+  EXPECT_EQ(groups->Repetitions(2), 255);
   EXPECT_TRUE(groups->Active(3));  // neither stored nor shown
   EXPECT_EQ(form->Text1[3].Text(), "020");
-  EXPECT_TRUE(form->Check1[31].Checked());
-  EXPECT_EQ(form->PercentText[2].Caption(), "89 %");  // 255 of 286
+  EXPECT_EQ(form->Check1[3].ColourTone(), CheckBox::Tone::kOn);
+  EXPECT_EQ(form->PercentText[2].Caption(), "90 %");  // 255 of 283
 
   port.answer = nullptr;
   form->Command13.Press();
@@ -261,17 +161,6 @@ TEST_F(EditGroupsTest, ReadAllStoresUntilTheFirstFailure) {
   EXPECT_FALSE(groups->Active(3));
   EXPECT_EQ(form->Check1[3].ColourTone(), CheckBox::Tone::kOff);
   EXPECT_EQ(form->Text1[31].Text(), "001");
-  EXPECT_FALSE(groups->Active(31));
-  EXPECT_EQ(form->PercentText[15].Caption(), "0 %");
-}
-
-TEST_F(EditGroupsTest, GroupsOfVersionBOutliveACoderThatLacksThem) {
-  OpenScreen("[Groups]\nGroup00A=1;On\nGroup07B=3;On\n");
-  EXPECT_EQ(form->PercentText[7].Caption(), "75 %");
-  form->Check1[23].Press();
-  EXPECT_TRUE(groups->Active(23));
-  groups->SetIni();
-  EXPECT_EQ(profiles.Read(ProgramFile(), "Groups", "Group07B"), "03;On");
 }
 
 }  // namespace
