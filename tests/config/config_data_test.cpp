@@ -46,8 +46,6 @@ TEST_F(ConfigDataTest, DefaultsWithoutAFile) {
   EXPECT_EQ(std::tuple(c.Tp(), c.Ta(), c.Music(), c.Pty(), c.Pi()),
             std::tuple(false, false, true, 0, 0));
   EXPECT_EQ(std::tuple(c.PresetPassword(), c.PresetNewPassword()), std::tuple("?????", "?????"));
-  EXPECT_EQ(std::tuple(c.NumIniLang(), c.LanguageDflt(), c.LanguageName(0), c.LanguageFileName()),
-            std::tuple(1, 0, "Custom", "Language.ini"));
   EXPECT_EQ(c.FullFileName(), ProgramFile());
   EXPECT_FALSE(std::filesystem::exists(ProgramFile()));
 }
@@ -125,9 +123,6 @@ TEST_F(ConfigDataTest, RulesBetweenFields) {
   EXPECT_FALSE(configData->PsnPlanEnable());
   EXPECT_FALSE(configData->Modem());
   EXPECT_EQ(configData->Parity(), "e");
-  Load("");
-  configData->SetPsnPageEnable(false);
-  EXPECT_TRUE(configData->PsnPagesEnable());
 }
 
 TEST_F(ConfigDataTest, Languages) {

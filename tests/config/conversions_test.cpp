@@ -42,12 +42,6 @@ TEST(Conversions, IsWholeNumber) {
   }
 }
 
-TEST(Conversions, SignedHours) {
-  const std::pair<int, const char*> cases[] = {
-      {0, "+00.0"}, {3, "+01.5"}, {-1, "-00.5"}, {-24, "-12.0"}, {200, "+100.0"}};
-  for (const auto& [half_hours, text] : cases) EXPECT_EQ(SignedHours(half_hours), text);
-}
-
 TEST(Conversions, ParseNumber) {
   const std::pair<const char*, double> numbers[] = {
       {"+01.5", 1.5}, {"-1.5", -1.5}, {".5", 0.5}, {"5.", 5}, {"107.90", 107.9}};

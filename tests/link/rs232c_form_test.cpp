@@ -250,18 +250,5 @@ TEST_F(SetupScreen, ACallFromHookToHangUp) {
   EXPECT_TRUE(f.window.Visible());
 }
 
-TEST_F(SetupScreen, SwitchesTheLanguage) {
-  OpenScreen(
-      "[Language]\nDefault=1\nName0=English\nFileName0=English.ini\nName1=Deutsch\n"
-      "FileName1=Deutsch.ini\n");
-  EXPECT_EQ(Selected(form->LanguageCombo), "Deutsch");
-  for (Label* label : {&form->BaudrateLabel, &TheWaitForm().WaitMessage}) label->SetCaption("old");
-  form->LanguageCombo.Choose(0);
-  EXPECT_EQ(configData->LanguageDflt(), 0);
-  EXPECT_EQ(main_menu_renamed, 1);
-  EXPECT_EQ(form->BaudrateLabel.Caption(), languageData->SetupBaudrateKey());
-  EXPECT_EQ(TheWaitForm().WaitMessage.Caption(), languageData->MessageWaitKey());
-}
-
 }  // namespace
 }  // namespace corvalis::test

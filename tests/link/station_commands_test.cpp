@@ -138,20 +138,6 @@ TEST_F(StationCommands, ReadCt) {
   }
 }
 
-TEST_F(StationCommands, FailedReadsTouchNothing) {
-  port.answer = [](const Bytes&) { return Bytes{'?'}; };
-  configData->SetIni();
-  const std::string before = ReadFile(ProgramFile());
-  for (void (ConfigData::*read)() :
-       {&ConfigData::GetPiRds, &ConfigData::GetEccRds, &ConfigData::GetLicRds,
-        &ConfigData::GetTpRds, &ConfigData::GetDiRds, &ConfigData::GetCtRds}) {
-    (configData->*read)();
-    EXPECT_EQ(LinkError, kErrorNotAcknowledged);
-  }
-  configData->SetIni();
-  EXPECT_EQ(ReadFile(ProgramFile()), before);
-}
-
 TEST_F(StationCommands, DiValueHasTwoInvertedBits) {
   const std::tuple<bool, bool, bool, bool, char> cases[] = {{false, false, false, true, '1'},
                                                             {true, true, false, true, '2'},

@@ -62,22 +62,16 @@ TEST_F(GridTest, CommitStoresTheEditAndComesBack) {
   }
 }
 
-TEST_F(GridTest, RulesRepairDropAndKeep) {
+TEST_F(GridTest, RuleOfACellRepairsOrDrops) {
   grid.CellLeft = [](int, int, std::string& text) {
     return std::exchange(text, text + "!") != "bad";
   };
-  grid.RowLeft = [](int, std::map<int, std::string>& edits) { return edits[0] != "stay!"; };
   grid.TypeText("bad");
   EXPECT_FALSE(grid.MoveTo(1, 0));
   EXPECT_FALSE(grid.Edited());
   grid.TypeText("x");
   EXPECT_TRUE(grid.MoveTo(1, 0));
   EXPECT_EQ(rows[0][0], "x!");
-  grid.TypeText("stay");
-  CommitGridRow(grid);
-  EXPECT_EQ(grid.Row(), 1);
-  EXPECT_TRUE(grid.Edited());
-  EXPECT_EQ(rows[1][0], "c");
 }
 
 }  // namespace
