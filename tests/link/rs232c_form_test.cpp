@@ -8,7 +8,6 @@
 
 #include "app/wait_form.h"
 #include "config/config_data.h"
-#include "config/language_data.h"
 #include "link/engine_fixture.h"
 #include "link/serial_management.h"
 
@@ -25,11 +24,11 @@ class SetupScreen : public LinkTest {
 
   void OpenScreen(const std::string& file, coder::Faults faults = {}) {
     Start(file, faults);
-    form = std::make_unique<RS232CForm>(
-        RS232CForm::MainMenu{.window = main_menu,
-                             .port = port,
-                             .init_main = [this] { ++main_menu_renamed; },
-                             .reload_limits = [this] { ++reloads; }});
+    form =
+        std::make_unique<RS232CForm>(RS232CForm::MainMenu{.window = main_menu,
+                                                          .port = port,
+                                                          .init_main = [] {},
+                                                          .reload_limits = [this] { ++reloads; }});
     main_menu.Show();
     form->Load();
   }
@@ -60,7 +59,6 @@ class SetupScreen : public LinkTest {
 
   Window main_menu{this, "MainForm"};
   std::unique_ptr<RS232CForm> form;
-  int main_menu_renamed = 0;
   int reloads = 0;
 };
 

@@ -55,7 +55,9 @@ TEST_F(StationCommands, WriteTheseBytes) {
 
 TEST_F(StationCommands, ReadPi) {
   Answer(0x01, 0, "D20A");
-  std::int16_t country = 5, coverage = 5, number = 5;
+  std::int16_t country = 5;
+  std::int16_t coverage = 5;
+  std::int16_t number = 5;
   ReadPi(country, coverage, number);
   EXPECT_EQ(std::tuple(country, coverage, number), std::tuple(0xD, 2, 0x0A));
   Answer(0x01, 0, "G2x0");
@@ -104,7 +106,9 @@ TEST_F(StationCommands, ReadTheOthers) {
   EXPECT_TRUE(active);
   EXPECT_EQ(value, 0xC3);
 
-  bool la = false, egi = true, il = false;
+  bool la = false;
+  bool egi = true;
+  bool il = false;
   Answer(0x1B, 0, "101FFF");
   ReadLi(la, egi, il, value);
   EXPECT_EQ(std::tuple(la, egi, il, value), std::tuple(true, false, true, 0xFFF));
@@ -117,7 +121,10 @@ TEST_F(StationCommands, ReadTheOthers) {
 
 TEST_F(StationCommands, ReadCt) {
   DateTime when{};
-  std::int16_t day = 0, date_psn = 0, hour_psn = 0, offset = 0;
+  std::int16_t day = 0;
+  std::int16_t date_psn = 0;
+  std::int16_t hour_psn = 0;
+  std::int16_t offset = 0;
   const auto read = [&](const std::string& date, const std::string& rest) {
     Answer(0x10, 0, date + rest);
     ReadCt(when, day, date_psn, hour_psn, offset);
