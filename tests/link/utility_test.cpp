@@ -62,17 +62,5 @@ TEST_F(GridTest, CommitStoresTheEditAndComesBack) {
   }
 }
 
-TEST_F(GridTest, RuleOfACellRepairsOrDrops) {
-  grid.CellLeft = [](int, int, std::string& text) {
-    return std::exchange(text, text + "!") != "bad";
-  };
-  grid.TypeText("bad");
-  EXPECT_FALSE(grid.MoveTo(1, 0));
-  EXPECT_FALSE(grid.Edited());
-  grid.TypeText("x");
-  EXPECT_TRUE(grid.MoveTo(1, 0));
-  EXPECT_EQ(rows[0][0], "x!");
-}
-
 }  // namespace
 }  // namespace corvalis::test
