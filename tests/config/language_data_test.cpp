@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <filesystem>
 #include <sstream>
 #include <utility>
 
@@ -116,14 +114,6 @@ TEST_F(LanguageTest, FileThatLacksTextsGainsThemInTheirSections) {
                        "savekeymsg=  Save It  NOW  \n"
                        "SetupKeyMsg=SETUP\n"))
       << file.substr(0, 400);
-}
-
-TEST_F(LanguageTest, FolderThatCannotBeWrittenToGivesTheDefaultsInSilence) {
-  record.SetPath(folder + "/not there");
-  const LanguageData texts;
-  EXPECT_EQ(Got(texts), Defaults());
-  EXPECT_FALSE(std::filesystem::exists(record.Path()));
-  EXPECT_TRUE(dialogs.boxes.empty());
 }
 
 // The first in the code page of the screens, the second in UTF-8, the third in a code page of

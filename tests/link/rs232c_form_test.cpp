@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <memory>
 #include <set>
+#include <tuple>
 
 #include "app/wait_form.h"
 #include "config/config_data.h"
