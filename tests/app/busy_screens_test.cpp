@@ -4,7 +4,7 @@
 
 #include "app/serial_communication_form.h"
 #include "app/transfer_bracket.h"
-#include "app/wait_form.h"
+#include "config/config_data.h"
 #include "link/serial_management.h"
 #include "link/transfer.h"
 #include "support/test_machine.h"
@@ -18,10 +18,14 @@ class BusyScreens : public LinkTest {
   Window screen{this, "Screen"};
 };
 
-TEST_F(BusyScreens, TransferScreenClosesOnceForEachPermission) {
+TEST_F(BusyScreens, TransferScreenAbortsAndClosesOnceForEachPermission) {
   Start(kLocal);
-  SerialCommunicationForm form([] {});
+  int aborts = 0;
+  SerialCommunicationForm form([&] { ++aborts; });
   form.window.Show(&screen);
+  form.Command1.Press();
+  form.Command1.TypeKey(27);
+  EXPECT_EQ(aborts, 2);
   TransferCloseAllowed = false;
   form.window.Close();
   EXPECT_TRUE(form.window.Visible());
@@ -29,17 +33,6 @@ TEST_F(BusyScreens, TransferScreenClosesOnceForEachPermission) {
   EXPECT_TRUE(form.window.Unload());
   EXPECT_FALSE(TransferCloseAllowed);
   EXPECT_FALSE(form.window.Unload());
-}
-
-TEST_F(BusyScreens, EscByButtonAndByKey) {
-  Start(kLocal);
-  int aborts = 0;
-  SerialCommunicationForm form([&] { ++aborts; });
-  form.window.Show(&screen);
-  form.Command1.Press();
-  form.Command1.TypeKey(27);
-  form.Command1.TypeKey('x');
-  EXPECT_EQ(aborts, 2);
 }
 
 TEST_F(BusyScreens, BracketGoesItsRoad) {
@@ -72,19 +65,6 @@ TEST_F(BusyScreens, EscWhileNothingWaitsAbortsTheNextTransfer) {
   EXPECT_EQ(LinkError, kErrorAborted);
   EXPECT_TRUE(dialogs.boxes.empty());
   EXPECT_TRUE(screen.Enabled());
-}
-
-TEST_F(BusyScreens, WaitFormShowsBrandAndMessageAndMoves) {
-  WriteFile(machine.settings_folder + "/Firm.ini", "[Firm]\nFirm=TULM\n");
-  Start(kLocal);
-  WaitForm& form = TheWaitForm();
-  EXPECT_TRUE(form.marks.Logo_Tulm.Visible());
-  EXPECT_FALSE(form.marks.Logo_KOR.Visible());
-  EXPECT_EQ(form.WaitMessage.Caption(), "Wait please!");
-  EXPECT_EQ(form.window.Caption(), " Wait");
-  form.WaitTimer.Fire();
-  EXPECT_EQ(form.WaitBar.Value(), 1);
-  ReleaseWaitForm();
 }
 
 }  // namespace

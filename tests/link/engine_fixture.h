@@ -16,6 +16,9 @@ inline Bytes Sealed(Bytes frame) {
   return frame;
 }
 
+/// The bytes of a text.
+inline Bytes Text(const std::string& text) { return {text.begin(), text.end()}; }
+
 /// `frame`, with an acknowledgement before it.
 inline Bytes Acknowledged(Bytes frame) {
   frame.insert(frame.begin(), kAck);

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
+#include <numeric>
 #include <tuple>
 #include <utility>
 
@@ -23,16 +23,13 @@ TEST_F(EngineTest, ShortFormOfAPagePassesTheCheck) {
   }
 }
 
-TEST_F(EngineTest, AnswerThatCameBeforeTheEscCounts) {
+TEST_F(EngineTest, RunEndsAtTheFirstItemThatFails) {
   StartLocal();
-  port.answer = [](const Bytes&) { return Bytes{}; };
-  time.After(3, [this] {
-    EscPressed = true;
-    port.Receive({kAck});
-  });
-  WriteTp();
-  EXPECT_EQ(LinkError, kLinkOk);
-  EXPECT_TRUE(EscPressed);  // the next frame goes out and is aborted
+  LinkError = kErrorTxTimeout;  // of something before
+  port.answer = [this](const Bytes&) { return port.written.size() < 3 ? Bytes{kAck} : Refusal(2); };
+  RunItems(5, [this](int) { WriteTp(); });
+  EXPECT_EQ(port.written.size(), 3U);
+  EXPECT_EQ(dialogs.boxes.size(), 1U);
 }
 
 TEST_F(EngineTest, OneWayPathWaitsForNothing) {
@@ -54,15 +51,6 @@ TEST_F(EngineTest, OneWayPathWaitsForNothing) {
   EXPECT_TRUE(dialogs.boxes.empty());
 }
 
-TEST_F(EngineTest, SecondAttemptOfAReadMaySucceed) {
-  StartLocal();
-  port.answer = [&](const Bytes&) {
-    return port.written.size() == 1 ? Bytes{kAck} : Acknowledged(Sealed({2, 2, 0, '1', 3}));
-  };
-  EXPECT_TRUE(ReadTp());
-  EXPECT_TRUE(dialogs.boxes.empty());
-}
-
 TEST_F(EngineTest, FifteenSecondsAreForTheWholeAnswer) {
   StartLocal();
   port.answer = [&](const Bytes&) {
@@ -70,10 +58,10 @@ TEST_F(EngineTest, FifteenSecondsAreForTheWholeAnswer) {
     for (std::size_t i = 0; i < answer.size() && port.written.size() == 1; ++i) {
       time.After(0.1 + static_cast<double>(i) * 3.1, [this, b = answer[i]] { port.Receive({b}); });
     }
-    return Bytes{kAck};
+    return port.written.size() == 1 ? Bytes{kAck} : Acknowledged(answer);
   };
-  EXPECT_FALSE(ReadTp());
-  EXPECT_EQ(LinkError, kErrorRxTimeout);
+  EXPECT_TRUE(ReadTp());
+  EXPECT_EQ(port.written.size(), 2U);
 }
 
 TEST_F(EngineTest, EscEndsEachWaitSilently) {
@@ -110,7 +98,6 @@ TEST_F(EngineTest, OnlyABadStartOrEndEmptiesTheQueue) {
   const std::tuple<Bytes, int, bool> cases[] = {
       {Sealed({2, 2, 0, '1', 3}), kLinkOk, false},
       {Sealed({2, 0x0E, 7, '1', 3}), kLinkOk, false},  // of another command of the same length
-      {{2, 2, 0, '1', 3, 0}, kErrorRxChecksum, false},
       {Sealed({1, 2, 0, '1', 3}), kErrorRxStart, true},
       {Sealed({2, 2, 0, '1', 4}), kErrorRxLength, true}};
   for (const auto& [answer, error, emptied] : cases) {
@@ -136,40 +123,10 @@ TEST_F(EngineTest, WaitAcrossMidnightEndsByAnAnswerOrByEscOnly) {
   WriteTp();
   EXPECT_EQ(LinkError, kErrorAborted);
 
-  port.answer = [](const Bytes&) { return Bytes{kAck}; };
-  time.SetTimer(86400 - 5);
-  time.After(800, [this] { port.Receive(Sealed({2, 2, 0, '1', 3})); });
-  EXPECT_TRUE(ReadTp());
-}
-
-TEST_F(EngineTest, PauseAcrossMidnightEndsByEscOnly) {
-  StartLocal();
   time.SetTimer(86400 - 0.1);
-  time.After(300, [] {});
-  time.After(600, [] { EscPressed = true; });
+  time.After(300, [] { EscPressed = true; });
   WaitSeconds(0.2F);
-  EXPECT_NEAR(time.Elapsed(), 600, 0.001);
   EXPECT_TRUE(EscPressed);  // for the transfer that comes next
-
-  // The pause of an abort has its ESC already; it ends at the next event after its time.
-  port.answer = [](const Bytes&) { return Bytes{}; };
-  time.SetTimer(86400 - 0.1);
-  for (const double tick : {0.05, 0.15, 0.25}) time.After(tick, [] {});
-  WriteTp();
-  EXPECT_EQ(LinkError, kErrorAborted);
-  EXPECT_NEAR(time.Elapsed(), 0.25, 0.001);
-}
-
-TEST_F(EngineTest, ClosedLinkWritesNothing) {
-  StartLocal();
-  LinkOpen = false;
-  std::array<std::uint8_t, 6> frame{2, 2, 0, '1', 3, 0x55};
-  for (const auto step : {TransferFrame, ReceiveFrame}) {
-    LinkError = kLinkOk;
-    step(frame);
-    EXPECT_EQ(LinkError, kErrorUnconnected);
-  }
-  EXPECT_TRUE(port.written.empty());
 }
 
 TEST_F(EngineTest, EnqDropsTheAddressingEvenIfItFails) {
@@ -181,22 +138,17 @@ TEST_F(EngineTest, EnqDropsTheAddressingEvenIfItFails) {
   EXPECT_FALSE(AddressSent);
 }
 
-TEST_F(EngineTest, OnlyAReceiveEventTakesBytesFromThePort) {
-  StartLocal();
-  port.Receive({1}, /*event=*/1);
-  EXPECT_TRUE(ReceiveQueue()->QEmpty());
-  port.Receive({2});
-  EXPECT_EQ(ReceiveQueue()->QPop(), 1);
-}
-
 TEST_F(EngineTest, FullQueueLosesTheRestAndTheNextTransferForgetsIt) {
   StartLocal();
-  port.Receive(Bytes(Queue::kCapacity, 'x'));
-  EXPECT_TRUE(ReceiveQueue()->QFull());
+  Bytes noise(Queue::kCapacity);
+  std::iota(noise.begin(), noise.end(), std::uint8_t{0});
+  port.Receive(noise);
   EXPECT_EQ(LinkError, kLinkOk);
   port.Receive({'y', 'z'});
   EXPECT_EQ(LinkError, kErrorUnmanaged);
-  EXPECT_EQ(port.InBufferCount(), 0);
+  Bytes kept;
+  while (!ReceiveQueue()->QEmpty()) kept.push_back(ReceiveQueue()->QPop());
+  EXPECT_EQ(kept, noise);
   WriteTp();
   EXPECT_EQ(LinkError, kLinkOk);
 }
