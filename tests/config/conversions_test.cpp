@@ -13,9 +13,14 @@ TEST(Conversions, HexToLong) {
 }
 
 TEST(Conversions, LongToHex) {
-  const std::tuple<std::int32_t, std::int16_t, const char*> cases[] = {
-      {0x2F, 1, "2F"}, {0x2F, 4, "002F"}, {0, 0, ""}, {0x7FFFFFFF, 2, "7FFFFFFF"}};
-  for (const auto& [value, width, text] : cases) EXPECT_EQ(LongToHex(value, width), text);
+  struct Case {
+    std::int32_t value;
+    std::int16_t width;
+    const char* text;
+  };
+  const Case cases[] = {{0x2F, 1, "2F"}, {0x2F, 4, "002F"},           {0, 2, "00"},
+                        {0, 0, ""},      {0x7FFFFFFF, 2, "7FFFFFFF"}, {10, 1, "A"}};
+  for (const Case& c : cases) EXPECT_EQ(LongToHex(c.value, c.width), c.text);
 }
 
 TEST(Conversions, BitsAndHex) {
@@ -36,17 +41,49 @@ TEST(Conversions, PinCode) {
 }
 
 TEST(Conversions, IsWholeNumber) {
-  for (const char* whole : {"0", "+12", "-32768"}) EXPECT_TRUE(IsWholeNumber(whole)) << whole;
-  for (const char* other : {"", "12.0", "1e3", "32768", "1 2", "-", "0x10"}) {
+  for (const char* whole : {"0", "12", "-12", "+12", "32767", "-32768"}) {
+    EXPECT_TRUE(IsWholeNumber(whole)) << whole;
+  }
+  for (const char* other : {"", "12.0", "12,0", "1e3", "32768", "abc", "1 2", "-", "+-1", "0x10"}) {
     EXPECT_FALSE(IsWholeNumber(other)) << other;
   }
 }
 
+TEST(Conversions, PickListCountTakesTheFirstCountThereIs) {
+  EXPECT_EQ(PickListCount(7, 9, 50), 7);
+  EXPECT_EQ(PickListCount(-1, 9, 50), 9);
+  EXPECT_EQ(PickListCount(-1, 0, 50), 50);
+}
+
+TEST(Conversions, GetToken) {
+  const std::tuple<const char*, std::int16_t, const char*> cases[] = {
+      {"a,,b", 0, "a"}, {"a,,b", 1, ""}, {"a,,b", 2, "b"}, {"a,,b", 3, ""}, {"", 0, ""}};
+  for (const auto& [text, index, token] : cases) EXPECT_EQ(GetToken(text, index, ","), token);
+  EXPECT_EQ(GetToken("a; b; c", 1, "; "), "b");
+}
+
+TEST(Conversions, SignedHours) {
+  const std::pair<int, const char*> cases[] = {
+      {0, "+00.0"}, {3, "+01.5"}, {-1, "-00.5"}, {-24, "-12.0"}, {200, "+100.0"}};
+  for (const auto& [half_hours, text] : cases) EXPECT_EQ(SignedHours(half_hours), text);
+}
+
+TEST(Conversions, PercentRoundsHalvesUp) {
+  const std::tuple<int, int, const char*> cases[] = {{5, 0, "0 %"},
+                                                     {2, 3, "67 %"},
+                                                     {1, 8, "13 %"},
+                                                     {1, 201, "0 %"},
+                                                     {50000000, 50000000, "100 %"}};
+  for (const auto& [part, whole, text] : cases) EXPECT_EQ(Percent(part, whole), text) << part;
+}
+
 TEST(Conversions, ParseNumber) {
-  const std::pair<const char*, double> numbers[] = {
-      {"+01.5", 1.5}, {"-1.5", -1.5}, {".5", 0.5}, {"5.", 5}, {"107.90", 107.9}};
+  const std::pair<const char*, double> numbers[] = {{"0", 0},         {"12", 12},  {"+01.5", 1.5},
+                                                    {"-1.5", -1.5},   {".5", 0.5}, {"5.", 5},
+                                                    {"107.90", 107.9}};
   for (const auto& [text, value] : numbers) EXPECT_EQ(ParseNumber(text), value) << text;
-  for (const char* other : {"", "+", ".", "1,5", " 1", "1e3", "0x10", "+-1", "inf", "1.2.3"}) {
+  for (const char* other :
+       {"", "+", "-", ".", "x", "1,5", "1 ", " 1", "1e3", "0x10", "+-1", "inf", "nan", "1.2.3"}) {
     EXPECT_EQ(ParseNumber(other), std::nullopt) << other;
   }
 }
