@@ -65,7 +65,7 @@ std::vector<std::string> ListPlaces() {
   }
   for (const std::string& parent : parents) {
     for (const std::string& name : ListFolders(parent).value_or(std::vector<std::string>{})) {
-      places.push_back(parent + "/" + name);
+      places.push_back(std::string(parent).append("/").append(name));
     }
   }
   std::sort(places.begin(), places.end());
