@@ -6,7 +6,7 @@
 
 #include <filesystem>
 #include <random>
-#include <regex>
+#include <sstream>
 
 #include "support/test_machine.h"
 
@@ -177,10 +177,16 @@ TEST_F(ConfigDataTest, HostileFileLoadsWithoutHarm) {
   // Every key of the record with every kind of wrong value.
   Load("");
   configData->SetIni();
-  const std::string record = ReadFile(ProgramFile());
+  std::istringstream record(ReadFile(ProgramFile()));
+  std::vector<std::string> names;
+  for (std::string line; std::getline(record, line);)
+    names.push_back(line.substr(0, line.find('=')));
   for (const char* value :
        {"", "G", "-", "99999999999999999999", "-32769", "\x01\x02\xFF", "On;Off", "1.5"}) {
-    files.push_back(std::regex_replace(record, std::regex("=[^\r]*"), std::string("=") + value));
+    std::string& file = files.emplace_back();
+    for (const std::string& name : names) {
+      file += name.starts_with('[') ? name + "\n" : name + "=" + value + "\r\n";
+    }
   }
   for (const std::string& file : files) {
     Load(file);
