@@ -294,6 +294,23 @@ TEST_F(WidgetsTest, ACalendarMovesByKeysAndShowsTheDateOfTheModel) {
   EXPECT_EQ(view_->calendar->selectedDate(), QDate(2026, 11, 1));
 }
 
+TEST_F(WidgetsTest, APressBesideAnOpenListReachesWhatItHits) {
+  for (QComboBox* list :
+       {static_cast<QComboBox*>(view_->drop), static_cast<QComboBox*>(view_->combo)}) {
+    screen_.check.SetChecked(false);
+    list->setFocus();
+    list->showPopup();
+    Settle();
+    const QPoint at = view_->check->mapTo(view_, QPoint(8, 8));
+    QTest::mousePress(view_->windowHandle(), Qt::LeftButton, {}, at);
+    Settle();
+    QTest::mouseRelease(view_->windowHandle(), Qt::LeftButton, {}, at);
+    Settle();
+    EXPECT_FALSE(list->view()->isVisible());
+    EXPECT_TRUE(screen_.check.Checked());
+  }
+}
+
 TEST_F(WidgetsTest, ADisabledWindowTakesNothing) {
   screen_.window.SetEnabled(false);
   QTest::keyClicks(view_->box, "1");

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <numeric>
 #include <tuple>
 #include <utility>
@@ -127,6 +128,18 @@ TEST_F(EngineTest, WaitAcrossMidnightEndsByAnAnswerOrByEscOnly) {
   time.After(300, [] { EscPressed = true; });
   WaitSeconds(0.2F);
   EXPECT_TRUE(EscPressed);  // for the transfer that comes next
+}
+
+TEST_F(EngineTest, AWriteThatFailsLeavesTheErrorUnlessThePortIsClosed) {
+  StartLocal();
+  for (const auto& [number, error] :
+       {std::pair(8099, kErrorRxCode), {kPortNotOpen, kErrorUnconnected}}) {
+    LinkError = kErrorRxCode;
+    port.output_error = {.number = number, .description = "Input/output error"};
+    std::array<std::uint8_t, 1> enq{kEnq};
+    TransferFrame(enq);
+    EXPECT_EQ(LinkError, error) << number;
+  }
 }
 
 TEST_F(EngineTest, EnqDropsTheAddressingEvenIfItFails) {
