@@ -50,11 +50,8 @@ class MainForm {
   Timer Timer1;
   SerialPort& MSComm1;
 
-  /// The screens that have been opened; null before.
-  [[nodiscard]] RS232CForm* OpenedRS232C() const { return rs232c_.get(); }
-  [[nodiscard]] TaPtyMsForm* OpenedTaPtyMs() const { return ta_pty_ms_.get(); }
+  /// The screen, once it has been opened; null before.
   [[nodiscard]] CtTpDiPiForm* OpenedCtTpDiPi() const { return ct_tp_di_pi_.get(); }
-  [[nodiscard]] EditGroupsForm* OpenedEditGroups() const { return edit_groups_.get(); }
 
  private:
   void New();

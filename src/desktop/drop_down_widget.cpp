@@ -34,9 +34,7 @@ void DropDownWidget::Draw() {
   if (shown_ != list_.Entries()) {
     shown_ = list_.Entries();
     QStringList entries;
-    for (const std::string& entry : shown_) {
-      entries << (content_ == TextBox::Content::kFileName ? FromFileName(entry) : FromBytes(entry));
-    }
+    for (const std::string& entry : shown_) entries << FromContent(entry, content_);
     clear();
     addItems(entries);
   }

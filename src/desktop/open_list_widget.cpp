@@ -39,7 +39,7 @@ QSize OpenListWidget::sizeHint() const {
 }
 
 QString OpenListWidget::Shown(const std::string& entry) const {
-  return content_ == TextBox::Content::kFileName ? FromFileName(entry) : FromBytes(entry);
+  return FromContent(entry, content_);
 }
 
 void OpenListWidget::Draw() {

@@ -99,6 +99,14 @@ std::string ToFileName(const QString& text) {
   return name + valid.toStdString();
 }
 
+QString FromContent(const std::string& bytes, TextBox::Content content) {
+  return content == TextBox::Content::kFileName ? FromFileName(bytes) : FromBytes(bytes);
+}
+
+std::string ToContent(const QString& text, TextBox::Content content) {
+  return content == TextBox::Content::kFileName ? ToFileName(text) : ToBytes(text);
+}
+
 int KeyCode(const QKeyEvent& event) {
   const Qt::KeyboardModifiers modifiers = event.modifiers();
   if (modifiers & (Qt::AltModifier | Qt::MetaModifier)) return kKeyCancelled;

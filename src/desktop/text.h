@@ -3,6 +3,8 @@
 #include <QString>
 #include <string>
 
+#include "screen/text_box.h"
+
 class QKeyEvent;
 
 namespace corvalis::desktop {
@@ -18,6 +20,11 @@ namespace corvalis::desktop {
 [[nodiscard]] QString FromFileName(const std::string& name);
 /// The way back.
 [[nodiscard]] std::string ToFileName(const QString& text);
+
+/// A text whose owner says what its bytes are.
+[[nodiscard]] QString FromContent(const std::string& bytes, TextBox::Content content);
+/// The way back.
+[[nodiscard]] std::string ToContent(const QString& text, TextBox::Content content);
 
 /// The key as a form gets it (see screen/keys.h): a character of Windows-1252, or the control
 /// character of back space, Enter, ESC and Ctrl with a letter. `kKeyCancelled` for every other key

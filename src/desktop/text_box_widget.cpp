@@ -67,11 +67,11 @@ QSize TextBoxWidget::minimumSizeHint() const { return sizeHint(); }
 bool TextBoxWidget::FileName() const { return box_.TextContent() == TextBox::Content::kFileName; }
 
 QString TextBoxWidget::Shown(const std::string& bytes) const {
-  return FileName() ? FromFileName(bytes) : FromBytes(bytes);
+  return FromContent(bytes, box_.TextContent());
 }
 
 std::string TextBoxWidget::Bytes(const QString& shown) const {
-  return FileName() ? ToFileName(shown) : ToBytes(shown);
+  return ToContent(shown, box_.TextContent());
 }
 
 int TextBoxWidget::ByteAt(int unit) const {

@@ -57,8 +57,6 @@ std::size_t FrameSize(CommandCode code) {
   return static_cast<std::size_t>(kRows.at(static_cast<std::size_t>(code)).last_index) + 1;
 }
 
-const Command& CommandRow(int row) { return table.at(static_cast<std::size_t>(row)); }
-
 const Command* FindCommand(std::uint8_t code) {
   const auto found = std::find_if(table.begin() + 1, table.end(),
                                   [code](const Command& row) { return row.code == code; });

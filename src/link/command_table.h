@@ -60,9 +60,6 @@ inline constexpr std::int16_t kIhShortLastIndex = 11;
 /// Fills the table. Before the first call every row is empty.
 void InitCommandTable();
 
-/// Row `row` of the table; `std::out_of_range` outside 0 to `kCommands`.
-[[nodiscard]] const Command& CommandRow(int row);
-
 /// Bytes of a whole write frame of `code`, which is also the size of a read's answer. Known whether
 /// the table has been filled or not.
 [[nodiscard]] std::size_t FrameSize(CommandCode code);

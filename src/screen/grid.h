@@ -38,7 +38,6 @@ class Grid : public Control {
   [[nodiscard]] std::string Shown(int row, int column) const;
   /// The operator changes the text of the current cell.
   void TypeText(const std::string& text);
-  [[nodiscard]] bool Edited() const { return !edits_.empty(); }
   /// Drops the edit of the current row, as ESC does.
   void DropEdit();
   /// The data has changed: the cells are asked anew.
