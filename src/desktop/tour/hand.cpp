@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFile>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
@@ -124,7 +125,15 @@ QString Hand::Shown(const QString& window, const QString& control) const {
 
 void Hand::Picture(const QString& window, const QString& file) const {
   QApplication::processEvents();
-  if (QWidget* shown = Visible(window)) shown->grab().save(folder_ + "/" + file + ".png");
+  if (QWidget* shown = Visible(window)) shown->grab().save(PathOf(file));
 }
+
+bool Hand::PictureOnce(const QString& window, const QString& file) const {
+  if (QFile::exists(PathOf(file))) return true;
+  QWidget* shown = Visible(window);
+  return shown != nullptr && shown->grab().save(PathOf(file));
+}
+
+QString Hand::PathOf(const QString& file) const { return folder_ + "/" + file + ".png"; }
 
 }  // namespace corvalis::desktop

@@ -33,8 +33,12 @@ class Hand {
 
   /// A picture of a window, as `file`.png. The window need not be there: then there is none.
   void Picture(const QString& window, const QString& file) const;
+  /// The same for a window that is there for moments only; true once there is a picture.
+  bool PictureOnce(const QString& window, const QString& file) const;
 
  private:
+  [[nodiscard]] QString PathOf(const QString& file) const;
+
   QString folder_;
 };
 

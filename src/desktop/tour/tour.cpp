@@ -49,18 +49,18 @@ int Tour::Run() {
   boxes.start(100);
   // The busy windows are there for moments only.
   QTimer busy;
-  QObject::connect(&busy, &QTimer::timeout, [this] {
-    hand_.Picture(kTransfer, QStringLiteral("transfer"));
-    hand_.Picture(kWait, QStringLiteral("wait"));
+  QObject::connect(&busy, &QTimer::timeout, [this, &busy] {
+    const bool transfer = hand_.PictureOnce(kTransfer, QStringLiteral("transfer"));
+    const bool wait = hand_.PictureOnce(kWait, QStringLiteral("wait"));
+    if (transfer && wait) busy.stop();
   });
+  busy.start(0);
   try {
     static_cast<void>(coder_.Arrived());
     hand_.Picture(kMain, QStringLiteral("main"));
     OpenStation();
     Identity();
-    busy.start(0);
     TpAndDi();
-    busy.stop();
     ClockTime();
     OnAir();
     Groups();
