@@ -20,9 +20,9 @@
 #include <vector>
 
 #include "config/config_data.h"
-#include "desktop/qt_dialogs.h"
-#include "desktop/qt_serial_port.h"
-#include "desktop/qt_time.h"
+#include "desktop/machine/qt_dialogs.h"
+#include "desktop/machine/qt_serial_port.h"
+#include "desktop/machine/qt_time.h"
 #include "link/serial_management.h"
 #include "platform/platform.h"
 

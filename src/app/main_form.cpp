@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "app/wait_form.h"
+#include "busy/wait_form.h"
 #include "link/serial_management.h"
 #include "platform/platform.h"
 
@@ -12,7 +12,7 @@ namespace {
 
 constexpr const char* kDesignCaption =
     "  Main Menu                                 -CORVALIS-        ";
-constexpr const char* kVersion = "V2.02.60724.1";
+constexpr const char* kVersion = "V" CORVALIS_VERSION;
 constexpr const char* kExtension = ".rds";
 constexpr int kTimer1Ms = 1000;
 

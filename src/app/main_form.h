@@ -4,8 +4,8 @@
 #include <memory>
 #include <utility>
 
-#include "app/brand_marks.h"
 #include "app/globals.h"
+#include "busy/brand_marks.h"
 #include "link/rs232c_form.h"
 #include "platform/serial_port.h"
 #include "screen/button.h"

@@ -6,9 +6,9 @@
 #include <QApplication>
 #include <QDir>
 
-#include "desktop/style.h"
 #include "desktop/text.h"
-#include "desktop/views.h"
+#include "desktop/views/views.h"
+#include "desktop/widgets/style.h"
 
 namespace corvalis::desktop {
 

@@ -3,10 +3,10 @@
 #include <memory>
 
 #include "app/main_form.h"
-#include "desktop/qt_dialogs.h"
-#include "desktop/qt_serial_port.h"
-#include "desktop/qt_time.h"
-#include "desktop/screen_host.h"
+#include "desktop/machine/qt_dialogs.h"
+#include "desktop/machine/qt_serial_port.h"
+#include "desktop/machine/qt_time.h"
+#include "desktop/widgets/screen_host.h"
 #include "platform/platform.h"
 
 namespace corvalis::desktop {

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "app/wait_form.h"
+#include "busy/wait_form.h"
 #include "config/config_data.h"
 #include "config/language_data.h"
 #include "link/modem.h"

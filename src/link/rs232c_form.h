@@ -4,7 +4,7 @@
 #include <functional>
 #include <string>
 
-#include "app/brand_marks.h"
+#include "busy/brand_marks.h"
 #include "link/autosetting.h"
 #include "platform/serial_port.h"
 #include "screen/button.h"

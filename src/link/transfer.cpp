@@ -1,6 +1,6 @@
 #include "link/transfer.h"
 
-#include "app/transfer_bracket.h"
+#include "busy/transfer_bracket.h"
 #include "config/config_data.h"
 #include "link/serial_management.h"
 #include "link/utility.h"

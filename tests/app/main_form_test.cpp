@@ -6,7 +6,7 @@
 
 #include <filesystem>
 
-#include "app/wait_form.h"
+#include "busy/wait_form.h"
 #include "link/serial_management.h"
 #include "support/test_machine.h"
 

@@ -18,9 +18,9 @@
 #include <stdexcept>
 #include <tuple>
 
+#include "desktop/machine/port_names.h"
+#include "desktop/machine/qt_serial_port.h"
 #include "desktop/own_line.h"
-#include "desktop/port_names.h"
-#include "desktop/qt_serial_port.h"
 #include "platform/platform.h"
 
 namespace corvalis::test {

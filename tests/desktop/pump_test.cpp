@@ -6,7 +6,7 @@
 #include <QTimer>
 #include <chrono>
 
-#include "desktop/qt_time.h"
+#include "desktop/machine/qt_time.h"
 
 namespace corvalis::desktop {
 namespace {

@@ -13,17 +13,17 @@
 #include <QTest>
 #include <QVBoxLayout>
 
-#include "desktop/calendar_widget.h"
-#include "desktop/check_box_widget.h"
-#include "desktop/combo_box_widget.h"
-#include "desktop/drop_down_widget.h"
-#include "desktop/memo_widget.h"
-#include "desktop/open_list_widget.h"
-#include "desktop/screen_host.h"
-#include "desktop/tabs_widget.h"
 #include "desktop/text.h"
-#include "desktop/text_box_widget.h"
-#include "desktop/window_view.h"
+#include "desktop/widgets/calendar_widget.h"
+#include "desktop/widgets/check_box_widget.h"
+#include "desktop/widgets/combo_box_widget.h"
+#include "desktop/widgets/drop_down_widget.h"
+#include "desktop/widgets/memo_widget.h"
+#include "desktop/widgets/open_list_widget.h"
+#include "desktop/widgets/screen_host.h"
+#include "desktop/widgets/tabs_widget.h"
+#include "desktop/widgets/text_box_widget.h"
+#include "desktop/widgets/window_view.h"
 #include "screen/keys.h"
 
 namespace corvalis::desktop {

@@ -9,7 +9,7 @@
 #include <set>
 #include <tuple>
 
-#include "app/wait_form.h"
+#include "busy/wait_form.h"
 #include "config/config_data.h"
 #include "link/engine_fixture.h"
 #include "link/serial_management.h"

@@ -1,0 +1,29 @@
+#include "busy/serial_communication_form.h"
+
+#include <utility>
+
+#include "busy/wait_form.h"
+#include "config/language_data.h"
+#include "screen/keys.h"
+
+namespace corvalis {
+
+bool TransferCloseAllowed = false;
+
+SerialCommunicationForm::SerialCommunicationForm(const std::function<void()>& abort)
+    : window(this, "SerialCommunicationForm"),
+      ProgressBar1(window, "ProgressBar1"),
+      Timer1(window, "Timer1", kBusyTickMs),
+      Command1(window, "Command1") {
+  window.SetCaption("   Serial Communication");
+  window.QueryUnload = [](bool& cancel) { cancel = !std::exchange(TransferCloseAllowed, false); };
+  Timer1.Tick = [this] { ProgressBar1.Tick(); };
+  Command1.SetCaption(languageData->MessageEscKey());
+  Command1.SetToolTip(languageData->MessageEscTip());
+  Command1.Click = abort;
+  Command1.KeyPress = [abort](int key) {
+    if (key == kKeyEscape) abort();
+  };
+}
+
+}  // namespace corvalis

@@ -1,0 +1,27 @@
+#include "desktop/machine/port_names.h"
+
+#include <filesystem>
+#include <system_error>
+
+namespace corvalis::desktop {
+
+namespace fs = std::filesystem;
+
+std::string DeviceOfPort(int number, const std::string& settings_folder,
+                         const std::string& device_folder) {
+  std::error_code error;
+  const std::string index = std::to_string(number - 1);
+  fs::path name = fs::path(settings_folder) / ("com" + std::to_string(number));
+  // A link that leads nowhere still says which device is meant.
+  if (fs::symlink_status(name, error).type() == fs::file_type::not_found) {
+    name = fs::path(device_folder) / ("ttyUSB" + index);
+    if (!fs::exists(name, error)) name = fs::path(device_folder) / ("ttyS" + index);
+  }
+  if (const fs::path device = fs::canonical(name, error); !error) return device.string();
+  if (const fs::path target = fs::read_symlink(name, error); !error) {
+    return (name.parent_path() / target).lexically_normal().string();
+  }
+  return name.string();
+}
+
+}  // namespace corvalis::desktop

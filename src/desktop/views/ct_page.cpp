@@ -1,0 +1,67 @@
+#include "desktop/views/ct_page.h"
+
+#include <QGroupBox>
+#include <QLabel>
+
+#include "desktop/widgets/calendar_widget.h"
+#include "desktop/widgets/layout.h"
+#include "desktop/widgets/spinner_widget.h"
+#include "desktop/widgets/style.h"
+#include "desktop/widgets/text_box_widget.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+constexpr int kTimeColumns = 5;
+constexpr int kOffsetColumns = 5;
+constexpr int kPsnColumns = 3;
+
+QWidget* Unit(const char* symbol, QWidget* parent) {
+  auto* label = new QLabel(QString::fromLatin1(symbol), parent);
+  QPalette palette = label->palette();
+  palette.setColor(QPalette::WindowText, QColor(colours::kQuietText));
+  label->setPalette(palette);
+  return label;
+}
+
+// The hour's arrows before the time, the minute's behind it.
+QWidget* Time(CtTab& tab, QWidget* parent) {
+  auto* group = new QWidget(parent);
+  group->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  QHBoxLayout* row = Row(group);
+  row->setSpacing(kTight);
+  row->addWidget(new SpinnerWidget(tab.VScroll2, group));
+  row->addWidget(Unit("h", group));
+  row->addWidget(CodeBox(tab.Text1, kTimeColumns, group));
+  row->addWidget(Unit("min", group));
+  row->addWidget(new SpinnerWidget(tab.VScroll1, group));
+  return group;
+}
+
+}  // namespace
+
+CtPage::CtPage(CtTab& tab, QWidget* parent) : QWidget(parent) {
+  auto* date = new QGroupBox(this);
+  (new QVBoxLayout(date))->addWidget(new CalendarWidget(tab.Calendar1, date));
+
+  auto* time = new QGroupBox(this);
+  QGridLayout* fields = Fields(time);
+  AddField(*fields, tab.HourMinLabel, Time(tab, time));
+  AddField(*fields, tab.CtOffsetLabel,
+           new SpinField(tab.Text9, tab.VScroll6, kOffsetColumns, time));
+  AddField(*fields, tab.DatePsnLabel, FixedBox(tab.Text7, kPsnColumns, time));
+  AddField(*fields, tab.HourPsnLabel, FixedBox(tab.Text8, kPsnColumns, time));
+  AddLine(*fields, ButtonRow({&tab.Command1, &tab.Command2}, time));
+
+  auto* row = new QHBoxLayout;
+  row->setSpacing(kApart);
+  row->addWidget(date);
+  row->addWidget(time, 1);
+  QVBoxLayout* column = Column(this);
+  column->setContentsMargins(0, kApart, 0, 0);
+  column->addLayout(row);
+  column->addStretch(1);
+}
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,56 @@
+#include "desktop/views/main_view.h"
+
+#include "desktop/widgets/brand_header.h"
+#include "desktop/widgets/button_widget.h"
+#include "desktop/widgets/drop_down_widget.h"
+#include "desktop/widgets/layout.h"
+#include "desktop/widgets/open_list_widget.h"
+#include "desktop/widgets/style.h"
+#include "desktop/widgets/text_box_widget.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+QWidget* Screens(MainForm& form, QWidget* parent) {
+  // What an operator touches on the air first, then what prepares a station, then the link.
+  QWidget* buttons = ButtonColumn(
+      {&form.TaPtyMsButton, &form.PsnRtPinAfButton, &form.CtTpDiPiButton, &form.EonLiButton,
+       &form.TdcIhButton, &form.EditGroupsButton, &form.ConnectionButton, &form.RS232CButton},
+      parent);
+  for (auto* button : buttons->findChildren<QPushButton*>()) {
+    button->setMinimumHeight(kLargeHeight);
+  }
+  static_cast<QVBoxLayout*>(buttons->layout())->addStretch();
+  return buttons;
+}
+
+QWidget* FilePanel(MainForm& form, QWidget* parent) {
+  auto* panel = new QWidget(parent);
+  QVBoxLayout* column = Column(panel);
+  auto* drives = new DropDownWidget(form.Drive1, panel, TextBox::Content::kFileName);
+  column->addWidget(drives);
+  QHBoxLayout* lists = new QHBoxLayout;
+  lists->setSpacing(kNear);
+  lists->addWidget(new DirListWidget(form.Dir1, panel), 1);
+  lists->addWidget(new FileListWidget(form.File1, panel), 1);
+  column->addLayout(lists, 1);
+  column->addWidget(new TextBoxWidget(form.Text105, 0, panel));
+  column->addWidget(ButtonRow({&form.NewButton, &form.OpenButton, &form.SaveButton}, panel));
+  return panel;
+}
+
+}  // namespace
+
+MainView::MainView(MainForm& form) : WindowView(form.window) {
+  QVBoxLayout* column = WindowColumn(this);
+  column->addWidget(new BrandHeader(form.marks, &form.Text_KOR, this));
+  auto* halves = new QHBoxLayout;
+  halves->setSpacing(2 * kApart);
+  halves->addWidget(Screens(form, this));
+  halves->addWidget(FilePanel(form, this), 1);
+  column->addLayout(halves, 1);
+  resize(sizeHint().expandedTo({860, 520}));
+}
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,66 @@
+#include "desktop/views/pi_ecc_lic_page.h"
+
+#include <QGroupBox>
+
+#include "desktop/widgets/drop_down_widget.h"
+#include "desktop/widgets/label_widget.h"
+#include "desktop/widgets/layout.h"
+#include "desktop/widgets/open_list_widget.h"
+#include "desktop/widgets/spinner_widget.h"
+#include "desktop/widgets/style.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+constexpr int kPiColumns = 4;
+constexpr int kEccColumns = 3;
+constexpr int kIdNumberColumns = 3;
+
+}  // namespace
+
+PiEccLicPage::PiEccLicPage(PiEccLicTab& tab, QWidget* parent) : QWidget(parent) {
+  auto* identity = new LabelledGroup(tab.PiLabel, this);
+  QGridLayout* pi = Fields(identity);
+  AddField(*pi, tab.CountryLabel, new DropDownWidget(tab.CountryCombo, identity));
+  AddField(*pi, tab.CoverageLabel, new DropDownWidget(tab.CoverageCombo, identity));
+  AddField(*pi, tab.IDNumberLabel,
+           new SpinField(tab.IDNumberText, tab.VScroll3, kIdNumberColumns, identity));
+  // Under the three parts that make it up, without a label of its own: it is the group's.
+  const int row = pi->rowCount();
+  pi->addWidget(CodeBox(tab.PiText, kPiColumns, identity), row, 1, Qt::AlignLeft);
+  pi->addWidget(
+      ButtonRow({&tab.ReadPiCommand, &tab.SendPiCommand, &tab.SendPiBurstCommand}, identity),
+      row + 1, 1);
+
+  auto* extended = new LabelledGroup(tab.EccLabel, this);
+  QGridLayout* ecc = Fields(extended);
+  AddLine(*ecc, CodeBox(tab.EccText, kEccColumns, extended));
+  AddLine(*ecc, ButtonRow({&tab.ReadEccCommand, &tab.SendEccCommand, &tab.SendEccBurstCommand},
+                          extended));
+
+  auto* language = new LabelledGroup(tab.LicLabel, this);
+  QGridLayout* lic = Fields(language);
+  AddLine(*lic, new DropDownWidget(tab.LicCombo, language));
+  AddLine(*lic, ButtonRow({&tab.ReadLicCommand, &tab.SendLicCommand, &tab.SendLicBurstCommand},
+                          language));
+
+  auto* countries = new LabelledGroup(tab.CountryListLabel, this);
+  auto* list = new OpenListWidget(tab.CountryList, countries);
+  list->ShowOnly();
+  QVBoxLayout* inside = new QVBoxLayout(countries);
+  inside->addWidget(list);
+
+  auto* grid = new QGridLayout(this);
+  grid->setContentsMargins(0, kApart, 0, 0);
+  grid->setSpacing(kApart);
+  grid->addWidget(identity, 0, 0, 1, 2);
+  grid->addWidget(extended, 1, 0);
+  grid->addWidget(language, 1, 1);
+  grid->addWidget(countries, 0, 2, 2, 1);
+  grid->setColumnStretch(1, 1);
+  grid->setColumnStretch(2, 1);
+  grid->setRowStretch(0, 1);
+}
+
+}  // namespace corvalis::desktop

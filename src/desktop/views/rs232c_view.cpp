@@ -1,0 +1,93 @@
+#include "desktop/views/rs232c_view.h"
+
+#include <QGroupBox>
+
+#include "desktop/widgets/brand_header.h"
+#include "desktop/widgets/button_widget.h"
+#include "desktop/widgets/check_box_widget.h"
+#include "desktop/widgets/drop_down_widget.h"
+#include "desktop/widgets/label_widget.h"
+#include "desktop/widgets/layout.h"
+#include "desktop/widgets/memo_widget.h"
+#include "desktop/widgets/style.h"
+#include "desktop/widgets/text_box_widget.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+constexpr int kNumberColumns = 20;
+constexpr int kListsWidth = 260;
+
+struct Field {
+  Label& label;
+  ListBox& list;
+};
+
+// The first list has the group's title for its label.
+LabelledGroup* Lists(const Field& first, std::initializer_list<Field> others, QWidget* parent) {
+  auto* group = new LabelledGroup(first.label, parent);
+  QGridLayout* grid = Fields(group);
+  grid->setColumnStretch(0, 1);  // halves, so that the lists of all groups begin at one place
+  AddLine(*grid, new DropDownWidget(first.list, group));
+  for (const Field& field : others) {
+    AddField(*grid, field.label, new DropDownWidget(field.list, group));
+  }
+  return group;
+}
+
+// From top to bottom as a call goes: the number, Hook, what the modem says, Hang up. The dialogue
+// stands between the two buttons also for the keyboard, which moves on to it once Hook is done.
+QWidget* Modem(RS232CForm& form, QWidget* parent) {
+  auto* group = new QGroupBox(QStringLiteral("Modem"), parent);
+  auto* grid = new QGridLayout(group);
+  grid->setSpacing(kNear);
+  grid->setColumnStretch(0, 1);
+
+  auto* number = new TextBoxWidget(form.Text2, kNumberColumns, group);
+  number->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
+  number->setPlaceholderText(QStringLiteral("Telephone number"));
+  grid->addWidget(number, 0, 0);
+  auto* tones = new QWidget(group);
+  QHBoxLayout* tone = Row(tones);
+  tone->addWidget(new CheckBoxWidget(form.Check1, tones));
+  tone->addWidget(new CheckBoxWidget(form.Check2, tones));
+  tone->addStretch();
+  grid->addWidget(tones, 1, 0, 1, 2);
+  grid->addWidget(new ButtonWidget(form.Command2, group), 0, 1);
+  grid->addWidget(new MemoWidget(form.Text1, group), 2, 0, 1, 2);
+  grid->addWidget(new ButtonWidget(form.Command1, group), 3, 1);
+  return group;
+}
+
+}  // namespace
+
+RS232CView::RS232CView(RS232CForm& form) : WindowView(form.window) {
+  QGroupBox* way =
+      Lists({form.RdsOptionLabel, form.RdsOptionCombo}, {{form.BurstLabel, form.Combo1}}, this);
+  QGroupBox* port = Lists({form.SerialLabel, form.SerialCombo},
+                          {{form.BaudrateLabel, form.BaudrateCombo},
+                           {form.ParityLabel, form.ParityCombo},
+                           {form.StopBitLabel, form.StopBitCombo}},
+                          this);
+  AddLine(*static_cast<QGridLayout*>(port->layout()), new ButtonWidget(form.Command31, port));
+  QGroupBox* language = Lists({form.LanguageLabel, form.LanguageCombo}, {}, this);
+
+  auto* left = new QVBoxLayout;
+  left->setSpacing(kApart);
+  left->addStrut(kListsWidth);
+  left->addWidget(way);
+  left->addWidget(port);
+  left->addWidget(language);
+  left->addStretch();
+  auto* halves = new QHBoxLayout;
+  halves->setSpacing(kApart);
+  halves->addLayout(left);
+  halves->addWidget(Modem(form, this), 1);
+
+  QVBoxLayout* column = WindowColumn(this);
+  column->addWidget(new BrandHeader(form.marks, nullptr, this));
+  column->addLayout(halves, 1);
+}
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,49 @@
+#include "desktop/views/tp_di_page.h"
+
+#include <QGroupBox>
+#include <array>
+#include <initializer_list>
+
+#include "desktop/widgets/check_box_widget.h"
+#include "desktop/widgets/layout.h"
+#include "desktop/widgets/style.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+using Pair = std::array<CheckBox*, 2>;
+
+// Each pair in a line of its own; what one box says is the opposite of the other.
+QWidget* Pairs(const QString& title, std::initializer_list<Pair> pairs, QWidget* parent) {
+  auto* group = new QGroupBox(title, parent);
+  auto* grid = new QGridLayout(group);
+  grid->setHorizontalSpacing(2 * kApart);
+  for (const Pair& pair : pairs) {
+    const int row = grid->rowCount();
+    grid->addWidget(new CheckBoxWidget(*pair[0], group), row, 0);
+    grid->addWidget(new CheckBoxWidget(*pair[1], group), row, 1);
+  }
+  grid->setColumnStretch(0, 1);
+  grid->setColumnStretch(1, 1);
+  return group;
+}
+
+}  // namespace
+
+TpDiPage::TpDiPage(TpDiTab& tab, QWidget* parent) : QWidget(parent) {
+  QVBoxLayout* column = Column(this);
+  column->setContentsMargins(0, kApart, 0, 0);
+  column->setSpacing(kApart);
+  column->addWidget(Pairs(QStringLiteral("TP"), {{&tab.Check1, &tab.Check10}}, this));
+  column->addWidget(Pairs(QStringLiteral("DI"),
+                          {{&tab.Check2, &tab.Check3},
+                           {&tab.Check4, &tab.Check5},
+                           {&tab.Check6, &tab.Check7},
+                           {&tab.Check8, &tab.Check9}},
+                          this));
+  column->addWidget(ButtonRow({&tab.Command3, &tab.Command4, &tab.Command5}, this));
+  column->addStretch();
+}
+
+}  // namespace corvalis::desktop

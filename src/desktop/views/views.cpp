@@ -1,0 +1,22 @@
+#include "desktop/views/views.h"
+
+#include "desktop/views/busy_views.h"
+#include "desktop/views/ct_tp_di_pi_view.h"
+#include "desktop/views/edit_groups_view.h"
+#include "desktop/views/main_view.h"
+#include "desktop/views/rs232c_view.h"
+#include "desktop/views/ta_pty_ms_view.h"
+
+namespace corvalis::desktop {
+
+void RegisterViews(QtScreenHost& host) {
+  host.Register<MainForm, MainView>();
+  host.Register<WaitForm, WaitView>();
+  host.Register<SerialCommunicationForm, SerialCommunicationView>();
+  host.Register<RS232CForm, RS232CView>();
+  host.Register<TaPtyMsForm, TaPtyMsView>();
+  host.Register<EditGroupsForm, EditGroupsView>();
+  host.Register<CtTpDiPiForm, CtTpDiPiView>();
+}
+
+}  // namespace corvalis::desktop

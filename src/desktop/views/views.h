@@ -1,0 +1,10 @@
+#pragma once
+
+#include "desktop/widgets/screen_host.h"
+
+namespace corvalis::desktop {
+
+/// Tells the host which form is drawn by which view. A new screen gets its line here.
+void RegisterViews(QtScreenHost& host);
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,314 @@
+#include "desktop/widgets/style.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QFontDatabase>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStyleOption>
+#include <QToolTip>
+#include <algorithm>
+
+namespace corvalis::desktop {
+
+namespace {
+
+constexpr double kCorner = 4;
+constexpr double kRing = 2;
+constexpr double kPointSize = 10.5;
+constexpr double kDigitsPointSize = 16;
+constexpr int kArrowWidth = 28;
+
+void Box(QPainter& painter, const QRect& rect, QRgb ground, QRgb border, double width) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(border), width));
+  painter.setBrush(QColor(ground));
+  const double inset = width / 2;
+  painter.drawRoundedRect(QRectF(rect).adjusted(inset, inset, -inset, -inset), kCorner, kCorner);
+  painter.restore();
+}
+
+FieldLook LookOf(const QStyleOption& option) {
+  return {.enabled = option.state.testFlag(QStyle::State_Enabled),
+          .focus = option.state.testFlag(QStyle::State_HasFocus),
+          .display_only = option.state.testFlag(QStyle::State_ReadOnly)};
+}
+
+void DrawButton(QPainter& painter, const QStyleOption& option) {
+  const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+  const bool focus = enabled && option.state.testFlag(QStyle::State_HasFocus);
+  QRgb ground = enabled ? colours::kField : colours::kWindow;
+  if (enabled && option.state.testFlag(QStyle::State_MouseOver)) ground = colours::kHover;
+  if (option.state & (QStyle::State_Sunken | QStyle::State_On)) ground = colours::kPressed;
+  QRgb border = enabled ? colours::kBorder : colours::kFaintBorder;
+  if (focus) border = colours::kAccent;
+  Box(painter, option.rect, ground, border, focus ? kRing : 1);
+}
+
+void DrawTab(QPainter& painter, const QStyleOptionTab& tab) {
+  const bool selected = tab.state.testFlag(QStyle::State_Selected);
+  if (!selected && tab.state.testFlag(QStyle::State_MouseOver)) {
+    painter.fillRect(tab.rect, QColor(colours::kHover));
+  }
+  if (selected) {
+    QRect line = tab.rect;
+    line.setTop(line.bottom() - 2);
+    const bool enabled = tab.state.testFlag(QStyle::State_Enabled);
+    painter.fillRect(line, QColor(enabled ? colours::kAccent : colours::kBorder));
+    const bool focus = tab.state.testFlag(QStyle::State_HasFocus);
+    if (focus) DrawFocusRing(painter, tab.rect.adjusted(0, 0, 0, -kTight));
+  }
+}
+
+QPalette LightPalette() {
+  QPalette palette;
+  const auto set = [&palette](QPalette::ColorRole role, QRgb colour) {
+    palette.setColor(role, QColor(colour));
+  };
+  set(QPalette::Window, colours::kWindow);
+  set(QPalette::WindowText, colours::kText);
+  set(QPalette::Base, colours::kField);
+  set(QPalette::AlternateBase, colours::kCard);
+  set(QPalette::Text, colours::kText);
+  set(QPalette::Button, colours::kField);
+  set(QPalette::ButtonText, colours::kText);
+  set(QPalette::Highlight, colours::kAccent);
+  set(QPalette::HighlightedText, colours::kField);
+  set(QPalette::ToolTipBase, colours::kText);
+  set(QPalette::ToolTipText, colours::kField);
+  set(QPalette::PlaceholderText, colours::kDisabledText);
+  set(QPalette::Link, colours::kAccent);
+  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+    palette.setColor(QPalette::Disabled, role, QColor(colours::kDisabledText));
+  }
+  palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(colours::kFaintBorder));
+  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, QColor(colours::kDisabledText));
+  palette.setColor(QPalette::Disabled, QPalette::Base, QColor(colours::kWindow));
+  return palette;
+}
+
+}  // namespace
+
+void DrawField(QPainter& painter, const QRect& rect, FieldLook look) {
+  const bool focus = look.focus && look.enabled;
+  QRgb ground = look.display_only ? colours::kDisplay : colours::kField;
+  if (!look.enabled) ground = colours::kWindow;
+  QRgb border = look.display_only || !look.enabled ? colours::kFaintBorder : colours::kBorder;
+  if (focus) border = colours::kAccent;
+  Box(painter, rect, ground, border, focus ? kRing : 1);
+}
+
+void DrawFocusRing(QPainter& painter, const QRect& rect) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(colours::kAccent), kRing));
+  painter.setBrush(Qt::NoBrush);
+  painter.drawRoundedRect(QRectF(rect).adjusted(1, 1, -1, -1), kCorner, kCorner);
+  painter.restore();
+}
+
+void DrawArrow(QPainter& painter, const QRectF& rect, bool up, bool enabled) {
+  constexpr double kHalfWidth = 4;
+  constexpr double kHalfHeight = 2;
+  const double tip = up ? -kHalfHeight : kHalfHeight;
+  const QPointF middle = rect.center();
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(enabled ? colours::kText : colours::kDisabledText), 1.6, Qt::SolidLine,
+                      Qt::RoundCap, Qt::RoundJoin));
+  const QPointF points[] = {middle + QPointF(-kHalfWidth, -tip), middle + QPointF(0, tip),
+                            middle + QPointF(kHalfWidth, -tip)};
+  painter.drawPolyline(points, 3);
+  painter.restore();
+}
+
+Style::Style() : QProxyStyle(QStringLiteral("Fusion")) {}
+
+void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
+                          const QWidget* widget) const {
+  switch (element) {
+    case PE_PanelButtonCommand:
+      DrawButton(*painter, *option);
+      return;
+    case PE_PanelLineEdit: {
+      const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
+      if (frame != nullptr && frame->lineWidth > 0) {
+        DrawField(*painter, option->rect, LookOf(*option));
+      }
+      return;
+    }
+    case PE_Frame:
+      if (qobject_cast<const QAbstractItemView*>(widget) != nullptr ||
+          qobject_cast<const QPlainTextEdit*>(widget) != nullptr) {
+        FieldLook look = LookOf(*option);
+        const auto* text = qobject_cast<const QPlainTextEdit*>(widget);
+        look.display_only = text != nullptr && text->isReadOnly();
+        look.focus = widget->hasFocus();
+        DrawField(*painter, option->rect, look);
+        return;
+      }
+      break;
+    case PE_FrameGroupBox:
+      Box(*painter, option->rect, colours::kCard, colours::kFaintBorder, 1);
+      return;
+    case PE_FrameTabWidget:
+    case PE_FrameTabBarBase: {
+      QRect line = option->rect;
+      line.setHeight(1);
+      painter->fillRect(line, QColor(colours::kFaintBorder));
+      return;
+    }
+    case PE_FrameFocusRect:
+      // Buttons and lists show the focus by their own frame.
+      if (qobject_cast<const QPushButton*>(widget) == nullptr &&
+          qobject_cast<const QAbstractItemView*>(widget) == nullptr) {
+        DrawFocusRing(*painter, option->rect);
+      }
+      return;
+    default:
+      break;
+  }
+  QProxyStyle::drawPrimitive(element, option, painter, widget);
+}
+
+void Style::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
+                        const QWidget* widget) const {
+  if (element == CE_TabBarTabShape) {
+    if (const auto* tab = qstyleoption_cast<const QStyleOptionTab*>(option)) {
+      DrawTab(*painter, *tab);
+      return;
+    }
+  }
+  QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
+                               QPainter* painter, const QWidget* widget) const {
+  if (control == CC_ComboBox) {
+    DrawField(*painter, option->rect, LookOf(*option));
+    QRect arrow = option->rect;
+    arrow.setLeft(arrow.right() - kArrowWidth);
+    DrawArrow(*painter, arrow, false, option->state.testFlag(State_Enabled));
+    return;
+  }
+  if (control == CC_GroupBox) {
+    if (const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option)) {
+      QStyleOption frame = *box;
+      frame.rect = subControlRect(CC_GroupBox, box, SC_GroupBoxFrame, widget);
+      drawPrimitive(PE_FrameGroupBox, &frame, painter, widget);
+      painter->save();
+      painter->setFont(Bold(painter->font()));
+      painter->setPen(QColor(box->state.testFlag(State_Enabled) ? colours::kQuietText
+                                                                : colours::kDisabledText));
+      QRect title = option->rect;
+      title.setBottom(frame.rect.top() - kTight);
+      title.adjust(1, 0, 0, 0);
+      painter->drawText(title, Qt::AlignLeft | Qt::AlignBottom | Qt::TextShowMnemonic, box->text);
+      painter->restore();
+      return;
+    }
+  }
+  QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* option,
+                            SubControl part, const QWidget* widget) const {
+  if (control == CC_ComboBox && part == SC_ComboBoxEditField) {
+    // The text begins where that of a text box does.
+    return option->rect.adjusted(kNear - 2, kTight / 2, -kArrowWidth, -kTight / 2);
+  }
+  if (control == CC_GroupBox && (part == SC_GroupBoxFrame || part == SC_GroupBoxContents)) {
+    const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
+    QRect frame = option->rect;
+    if (box != nullptr && !box->text.isEmpty() && widget != nullptr) {
+      frame.setTop(frame.top() + QFontMetrics(Bold(widget->font())).height() + kTight);
+    }
+    return frame;
+  }
+  return QProxyStyle::subControlRect(control, option, part, widget);
+}
+
+QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, const QSize& size,
+                              const QWidget* widget) const {
+  QSize whole = QProxyStyle::sizeFromContents(type, option, size, widget);
+  switch (type) {
+    case CT_PushButton:
+      return whole.expandedTo(QSize(size.width() + 2 * kApart, kControlHeight));
+    case CT_ComboBox:
+      return whole.expandedTo(QSize(size.width() + kArrowWidth + kApart, kControlHeight));
+    case CT_LineEdit:
+      return whole.expandedTo(QSize(0, kControlHeight));
+    case CT_TabBarTab:
+      return whole.expandedTo(QSize(size.width() + kApart, kControlHeight + kTight));
+    case CT_ItemViewItem:
+      return whole + QSize(0, kTight);
+    default:
+      return whole;
+  }
+}
+
+int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
+                       const QWidget* widget) const {
+  switch (metric) {
+    case PM_DefaultFrameWidth:
+      return static_cast<int>(kRing);
+    case PM_LayoutHorizontalSpacing:
+    case PM_LayoutVerticalSpacing:
+      return kNear;
+    case PM_LayoutLeftMargin:
+    case PM_LayoutTopMargin:
+    case PM_LayoutRightMargin:
+    case PM_LayoutBottomMargin:
+      return kGap;
+    case PM_FocusFrameHMargin:
+      return kTight;
+    case PM_ButtonShiftHorizontal:
+    case PM_ButtonShiftVertical:
+      return 0;
+    case PM_ToolTipLabelFrameWidth:
+      return kTight;
+    default:
+      return QProxyStyle::pixelMetric(metric, option, widget);
+  }
+}
+
+int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                     QStyleHintReturn* data) const {
+  switch (hint) {
+    case SH_ItemView_ActivateItemOnSingleClick:
+    case SH_ComboBox_Popup:
+    case SH_EtchDisabledText:
+      return 0;
+    case SH_ToolTipLabel_Opacity:
+      return 255;
+    default:
+      return QProxyStyle::styleHint(hint, option, widget, data);
+  }
+}
+
+void ApplyStyle(QApplication& application) {
+  QApplication::setStyle(new Style);
+  QApplication::setPalette(LightPalette());
+  QToolTip::setPalette(LightPalette());
+  QFont font = QApplication::font();
+  if (QFontDatabase::hasFamily(QStringLiteral("Inter"))) font.setFamily(QStringLiteral("Inter"));
+  font.setPointSizeF(kPointSize);
+  QApplication::setFont(font);
+  application.setEffectEnabled(Qt::UI_AnimateCombo, false);
+}
+
+QFont Bold(QFont base) {
+  base.setWeight(QFont::DemiBold);
+  return base;
+}
+
+QFont DigitsFont() {
+  QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  font.setPointSizeF(kDigitsPointSize);
+  return font;
+}
+
+}  // namespace corvalis::desktop

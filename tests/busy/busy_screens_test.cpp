@@ -1,0 +1,71 @@
+// The wait screen, the transfer screen and the bracket around every transfer.
+
+#include <gtest/gtest.h>
+
+#include "busy/serial_communication_form.h"
+#include "busy/transfer_bracket.h"
+#include "config/config_data.h"
+#include "link/serial_management.h"
+#include "link/transfer.h"
+#include "support/test_machine.h"
+
+namespace corvalis::test {
+namespace {
+
+class BusyScreens : public LinkTest {
+ protected:
+  BusyScreens() { screen.Show(); }
+  Window screen{this, "Screen"};
+};
+
+TEST_F(BusyScreens, TransferScreenAbortsAndClosesOnceForEachPermission) {
+  Start(kLocal);
+  int aborts = 0;
+  SerialCommunicationForm form([&] { ++aborts; });
+  form.window.Show(&screen);
+  form.Command1.Press();
+  form.Command1.TypeKey(27);
+  EXPECT_EQ(aborts, 2);
+  TransferCloseAllowed = false;
+  form.window.Close();
+  EXPECT_TRUE(form.window.Visible());
+  TransferCloseAllowed = true;
+  EXPECT_TRUE(form.window.Unload());
+  EXPECT_FALSE(TransferCloseAllowed);
+  EXPECT_FALSE(form.window.Unload());
+}
+
+TEST_F(BusyScreens, BracketGoesItsRoad) {
+  Start(kLocal);
+  std::string order;
+  const auto say = [&](const std::string& what) {
+    order += what + (screen.Enabled() ? "+ " : "- ");
+  };
+  screen.RaiseAsked = [&] { say("focus"); };
+  RunTransfer(screen, {.may_start =
+                           [&] {
+                             say("asked");
+                             return true;
+                           },
+                       .work = [&] { say("work"); },
+                       .abort = [] {}});
+  EXPECT_EQ(order, "asked- work- focus+ ");
+  order.clear();
+  RunTransfer(screen,
+              {.may_start = [] { return false; }, .work = [&] { say("work"); }, .abort = {}});
+  EXPECT_EQ(order, "focus+ ");
+}
+
+TEST_F(BusyScreens, EscWhileNothingWaitsAbortsTheNextTransfer) {
+  Start(kLocal);
+  Open();
+  port.answer = [](const Bytes&) { return Bytes{}; };
+  EscPressed = true;
+  RunSend(screen, [] { configData->SetPiRds(); });
+  EXPECT_EQ(LinkError, kErrorAborted);
+  EXPECT_TRUE(dialogs.boxes.empty());
+  EXPECT_TRUE(screen.Enabled());
+}
+
+}  // namespace
+}  // namespace corvalis::test
