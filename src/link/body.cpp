@@ -1,10 +1,24 @@
 #include "link/body.h"
 
+#include <stdexcept>
 #include <string>
 
 #include "config/conversions.h"
 
 namespace corvalis {
+
+namespace {
+
+// The first `count` bytes of what is left of a body.
+template <typename T>
+std::span<T> Take(std::span<T>& rest, std::size_t count) {
+  if (count > rest.size()) throw std::out_of_range("beyond the end of a frame's body");
+  const std::span<T> taken = rest.first(count);
+  rest = rest.subspan(count);
+  return taken;
+}
+
+}  // namespace
 
 BodyWriter& BodyWriter::Flag(bool value) { return Byte(value ? '1' : '0'); }
 
@@ -28,8 +42,7 @@ BodyWriter& BodyWriter::Raw(std::span<const std::uint8_t> bytes) {
 }
 
 BodyWriter& BodyWriter::Byte(std::uint8_t byte) {
-  rest_.front() = byte;
-  rest_ = rest_.subspan(1);
+  Take(rest_, 1).front() = byte;
   return *this;
 }
 
@@ -44,9 +57,7 @@ std::int32_t BodyReader::Dec2() {
 }
 
 std::span<const std::uint8_t> BodyReader::Raw(int bytes) {
-  const auto taken = rest_.first(static_cast<std::size_t>(bytes));
-  rest_ = rest_.subspan(taken.size());
-  return taken;
+  return Take(rest_, static_cast<std::size_t>(bytes));
 }
 
 }  // namespace corvalis

@@ -6,7 +6,8 @@
 namespace corvalis {
 
 /// Writes a frame's body field by field, from its first byte on. Nothing is range-checked: what
-/// does not fit its digits goes out as it comes, and the Coder is expected to refuse it.
+/// does not fit its digits goes out as it comes, and the Coder is expected to refuse it. A byte
+/// beyond the body, which would land on the frame's end, is a bug: `std::out_of_range`.
 class BodyWriter {
  public:
   explicit BodyWriter(std::span<std::uint8_t> body) : rest_(body) {}
@@ -26,7 +27,7 @@ class BodyWriter {
   std::span<std::uint8_t> rest_;
 };
 
-/// Reads a body field by field.
+/// Reads a body field by field. A byte beyond the body is a bug: `std::out_of_range`.
 class BodyReader {
  public:
   explicit BodyReader(std::span<const std::uint8_t> body) : rest_(body) {}

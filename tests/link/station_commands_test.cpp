@@ -4,7 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <stdexcept>
+
 #include "config/config_data.h"
+#include "link/body.h"
 #include "link/engine_fixture.h"
 
 namespace corvalis::test {
@@ -51,6 +54,14 @@ TEST_F(StationCommands, WriteTheseBytes) {
     send();
     EXPECT_EQ(port.written.back(), Hex(bytes));
   }
+}
+
+TEST_F(StationCommands, NoByteIsWrittenOrReadBeyondABody) {
+  Frame frame = Frame::Write(CommandCode::kPi);
+  EXPECT_THROW(BodyWriter(frame.Body().subspan(3)).Hex(0xAB, 2), std::out_of_range);
+  EXPECT_THROW(BodyWriter(frame.Body().first(0)).Raw(kPayload), std::out_of_range);
+  EXPECT_THROW(BodyReader(frame.Body()).Raw(5), std::out_of_range);
+  EXPECT_EQ(frame.Bytes()[7], kEnd);
 }
 
 TEST_F(StationCommands, ReadPi) {
