@@ -136,6 +136,12 @@ std::string_view OnOff(bool on) { return on ? "On" : "Off"; }
 
 bool IsOn(std::string_view text) { return UpperCase(text) == "ON"; }
 
+std::string Padded(std::string_view text, std::size_t width) {
+  std::string padded(text.substr(0, width));
+  padded.resize(width, ' ');
+  return padded;
+}
+
 std::string UpperCase(std::string_view text) {
   std::string upper(text);
   for (char& c : upper) {

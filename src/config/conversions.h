@@ -72,6 +72,9 @@ extern template std::optional<std::int32_t> ParseDecimal(std::string_view text);
 [[nodiscard]] std::string_view OnOff(bool on);
 [[nodiscard]] bool IsOn(std::string_view text);
 
+/// `text` in exactly `width` bytes: cut, or filled with blanks, on the right.
+[[nodiscard]] std::string Padded(std::string_view text, std::size_t width);
+
 /// ASCII letters in upper case.
 [[nodiscard]] std::string UpperCase(std::string_view text);
 

@@ -39,15 +39,17 @@ void SendLive(const std::function<void()>& pass) {
   for (int i = 0; i < passes; ++i) pass();
 }
 
-void RunItems(int count, const std::function<void(int)>& item) {
+bool RunItems(int count, const std::function<void(int)>& item, float pause) {
   LinkError = kLinkOk;
   for (int i = 0; i < count; ++i) {
     item(i);
-    if (LinkError != kLinkOk) return;
+    if (LinkError != kLinkOk) return false;
     Machine().pump->RunPending();
+    if (pause > 0) WaitSeconds(pause);
     // Bytes that came unasked, more than the queue holds, are no failure of an item.
     LinkError = kLinkOk;
   }
+  return true;
 }
 
 void ShowTransferButtons(const TransferButtons& buttons, bool offered) {

@@ -30,9 +30,9 @@ void RunLive(Window& screen, const std::function<void()>& work);
 void SendLive(const std::function<void()>& pass);
 
 /// The loop of every run of frames, to be called inside one of the roads above: clears `LinkError`,
-/// does `item` for 0 to `count` - 1 with events handled after each, and ends at the first that
-/// leaves an error.
-void RunItems(int count, const std::function<void(int)>& item);
+/// does `item` for 0 to `count` - 1, with events handled and `pause` seconds waited after each, and
+/// ends at the first that leaves an error. False if one did; it then stands in `LinkError`.
+bool RunItems(int count, const std::function<void(int)>& item, float pause = 0);
 
 /// The address rule, for a road that asks it at a moment of its own: true if something may be sent
 /// now. On a one-way link to a Coder that has not been addressed it warns the operator and is

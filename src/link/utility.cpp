@@ -27,12 +27,7 @@ void RefuseKey(int& key) {
   key = kKeyCancelled;
 }
 
-void CommitGridRow(Grid& grid) {
-  const int row = grid.Row();
-  const int column = grid.Column();
-  grid.MoveTo(row == 0 ? 1 : 0, column);
-  grid.MoveTo(row, column);
-}
+void CommitGridRow(Grid& grid) { grid.Commit(); }
 
 void WarnBeforeAddress() { ShowLinkBox("Before send Address", kCommunicationManagementTitle); }
 

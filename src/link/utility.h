@@ -17,8 +17,8 @@ int FrequencyKeyFilter(std::string_view text, int& key, int max_length, int sel_
 /// Refuses a struck key: a beep, and `key` becomes 0.
 void RefuseKey(int& key);
 
-/// Makes a grid store the cell being edited, before its contents are read: goes to another row and
-/// back.
+/// Makes a grid store the row being edited, before its contents are sent. What a rule refuses is
+/// not stored.
 void CommitGridRow(Grid& grid);
 
 /// Tells the operator that a one-way link needs the Coder to be addressed first.

@@ -61,8 +61,12 @@ void TextBox::Paste(const std::string& text) {
   if (TakesEvents() && !locked_ && !RefusedByForm(key)) Replace(text);
 }
 
-void TextBox::Replace(const std::string& insertion) {
+void TextBox::Replace(std::string insertion) {
   std::string text = text_;
+  if (max_length_ > 0) {
+    const int room = max_length_ - static_cast<int>(text.size()) + sel_length_;
+    insertion.resize(std::min(insertion.size(), static_cast<std::size_t>(std::max(room, 0))));
+  }
   text.replace(static_cast<std::size_t>(sel_start_), static_cast<std::size_t>(sel_length_),
                insertion);
   Edit(text, sel_start_ + static_cast<int>(insertion.size()));

@@ -28,6 +28,11 @@ class TextBox : public Control {
   void Select(int start, int length);
   void SelectAll() { Select(0, static_cast<int>(text_.size())); }
 
+  /// Bytes that the operator's hand can bring the text to; what is struck or pasted beyond is cut.
+  /// 0: no end.
+  [[nodiscard]] int MaxLength() const { return max_length_; }
+  void SetMaxLength(int length) { max_length_ = length; }
+
   /// A locked box shows and can be copied from, but not edited.
   [[nodiscard]] bool Locked() const { return locked_; }
   void SetLocked(bool locked) { Set(locked_, locked); }
@@ -49,12 +54,13 @@ class TextBox : public Control {
 
  private:
   [[nodiscard]] bool RefusedByForm(int& key) const;
-  void Replace(const std::string& insertion);
+  void Replace(std::string insertion);
 
   Content content_;
   std::string text_;
   int sel_start_ = 0;
   int sel_length_ = 0;
+  int max_length_ = 0;
   bool locked_ = false;
 };
 

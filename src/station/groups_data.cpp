@@ -4,6 +4,7 @@
 
 #include "config/conversions.h"
 #include "config/ini_management.h"
+#include "config/joined_values.h"
 
 namespace corvalis {
 
@@ -12,7 +13,6 @@ GroupsData* groupsData = nullptr;
 namespace {
 
 constexpr std::string_view kSection = "Groups";
-constexpr std::string_view kSeparator = ";";
 
 std::string NumberAndVersion(int group, int digits) {
   return Digits(group % kGroupNumbers, digits) + (group < kGroupNumbers ? "A" : "B");
@@ -34,17 +34,14 @@ void GroupsData::GetIni() {
       entry = Entry{};
       continue;
     }
-    const auto repetitions = ParseDecimal<std::int16_t>(GetToken(text, 0, kSeparator));
-    entry.repetitions = repetitions.value_or(entry.repetitions);
-    entry.active = IsOn(GetToken(text, 1, kSeparator));
+    JoinedReader(text).Number(entry.repetitions).Switch(entry.active);
   }
 }
 
 void GroupsData::SetIni() {
   for (int i = 0; i < kGroups; ++i) {
-    std::string text = Digits(Repetitions(i), 2);
-    text.append(kSeparator).append(OnOff(Active(i)));
-    WriteIniKey(kSection, Key(i), text);
+    WriteIniKey(kSection, Key(i),
+                JoinedWriter().Number(Repetitions(i), 2).Switch(Active(i)).Separated());
   }
 }
 

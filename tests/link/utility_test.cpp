@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <deque>
-#include <map>
 #include <string>
 
 #include "screen/window.h"
@@ -33,32 +31,6 @@ TEST_F(UtilityTest, FrequencyKeyFilter) {
         << c.text << " " << c.key;
     EXPECT_EQ(key, c.result);
     EXPECT_EQ(dialogs.beeps - beeps, c.result == 0 ? 1 : 0);
-  }
-}
-
-class GridTest : public testing::Test {
- protected:
-  GridTest() {
-    window.Show();
-    grid.RowCount = [this] { return static_cast<int>(rows.size()); };
-    grid.Cell = [this](int row, int column) { return rows[row][column]; };
-    grid.Write = [this](int row, int column, const std::string& text) { rows[row][column] = text; };
-  }
-  std::deque<std::map<int, std::string>> rows{{{0, "a"}, {1, "b"}}, {{0, "c"}, {1, "d"}}};
-  Window window{this, "Test"};
-  Grid grid{window, "DBGrid1"};
-};
-
-TEST_F(GridTest, CommitStoresTheEditAndComesBack) {
-  for (const char* text : {"A", "B"}) {
-    grid.TypeText(text);
-    grid.MoveTo(0, 1);
-    EXPECT_NE(rows[0][0], text);  // the row is still there
-    grid.MoveTo(0, 0);
-    CommitGridRow(grid);
-    EXPECT_EQ(rows[0][0], text);
-    EXPECT_EQ(grid.Row(), 0);
-    rows.resize(1);  // a grid of one row has nowhere else to go
   }
 }
 
