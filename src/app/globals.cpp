@@ -1,47 +1,44 @@
 #include "app/globals.h"
 
+#include "app/single_instance.h"
+#include "config/config_data.h"
+#include "config/language_data.h"
+#include "station/groups_data.h"
+
 namespace corvalis {
+
+namespace {
+
+// A class that joins gets its place in each of these orders, which differ.
+using OfCreation = SingleInstances<groupsData>;  // and of release
+using OfOpen = SingleInstances<groupsData>;
+using OfNew = SingleInstances<groupsData, groupsData>;  // the group sequence has two places
+
+}  // namespace
 
 Globals::~Globals() {
   Release();
-  configData = nullptr;
+  SingleInstance<configData>::Release();
 }
 
-void Globals::CreateConfigData() {
-  config_data_ = std::make_unique<ConfigData>();
-  configData = config_data_.get();
-}
+void Globals::CreateConfigData() { SingleInstance<configData>::Create(); }
 
-void Globals::CreateLanguageData() {
-  language_data_ = std::make_unique<LanguageData>();
-  languageData = language_data_.get();
-}
+void Globals::CreateLanguageData() { SingleInstance<languageData>::Create(); }
 
-void Globals::CreateDataClasses() {
-  groups_data_ = std::make_unique<GroupsData>();
-  groupsData = groups_data_.get();
-}
+void Globals::CreateDataClasses() { OfCreation::Create(); }
 
 void Globals::Release() {
-  groupsData = nullptr;
-  groups_data_.reset();
-  languageData = nullptr;
-  language_data_.reset();
+  OfCreation::Release();
+  SingleInstance<languageData>::Release();
 }
 
-void Globals::LoadForOpen() { groupsData->GetIni(); }
+void Globals::LoadForOpen() { OfOpen::GetIni(); }
 
-void Globals::LoadForNew() {
-  // The group sequence has two places in this order.
-  groupsData->GetIni();
-  groupsData->GetIni();
-}
+void Globals::LoadForNew() { OfNew::GetIni(); }
 
+// None of the classes that ask the Coder for a size has joined yet.
 void Globals::LoadLimits() {}
 
-void Globals::Store() {
-  configData->SetIni();
-  groupsData->SetIni();
-}
+void Globals::Store() { SingleInstances<configData, groupsData>::SetIni(); }
 
 }  // namespace corvalis

@@ -1,15 +1,9 @@
 #pragma once
 
-#include <memory>
-
-#include "config/config_data.h"
-#include "config/language_data.h"
-#include "station/groups_data.h"
-
 namespace corvalis {
 
-/// The single instances of the program, in their orders. `MainForm` alone has one. A class that
-/// joins gets its line in each of these operations.
+/// The single instances of the program, in their orders. `MainForm` alone has one of these, and
+/// whatever it has created goes with it.
 class Globals {
  public:
   Globals() = default;
@@ -31,15 +25,10 @@ class Globals {
   /// The same in the order of New.
   void LoadForNew();
   /// The classes that ask the Coder for the size of their lists load themselves again, in the order
-  /// in which the setup screen has it done when it closes. None of them has joined yet.
+  /// in which the setup screen has it done when it closes.
   void LoadLimits();
   /// The record and the data classes store themselves, in the order of Save.
   void Store();
-
- private:
-  std::unique_ptr<ConfigData> config_data_;
-  std::unique_ptr<LanguageData> language_data_;
-  std::unique_ptr<GroupsData> groups_data_;
 };
 
 }  // namespace corvalis

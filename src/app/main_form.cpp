@@ -3,6 +3,8 @@
 #include <string>
 
 #include "busy/wait_form.h"
+#include "config/config_data.h"
+#include "config/language_data.h"
 #include "link/serial_management.h"
 #include "platform/platform.h"
 
