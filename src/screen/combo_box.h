@@ -13,7 +13,7 @@ class ComboBox : public ListBox {
  public:
   using ListBox::ListBox;
 
-  /// The entry selected, or what was typed.
+  /// The entry selected, also once it has been replaced, or what was typed.
   [[nodiscard]] std::string Text() const { return Index() == kNone ? typed_ : Entry(Index()); }
 
   /// As in any list; what was typed is gone then.

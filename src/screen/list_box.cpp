@@ -17,6 +17,10 @@ void ListBox::Fill(const std::vector<std::string>& entries) {
   Redraw();
 }
 
+void ListBox::Replace(int index, const std::string& entry) {
+  Set(entries_.at(static_cast<std::size_t>(index)), entry);
+}
+
 const std::string& ListBox::Entry(int index) const {
   return entries_.at(static_cast<std::size_t>(index));
 }

@@ -21,6 +21,9 @@ class ListBox : public Control {
   void Add(const std::string& entry);
   /// Clears, and adds all of `entries`.
   void Fill(const std::vector<std::string>& entries);
+  /// Puts another text in the place of an entry. The selection stays; raises nothing.
+  /// `std::out_of_range` outside 0 to Count() - 1.
+  void Replace(int index, const std::string& entry);
   [[nodiscard]] int Count() const { return static_cast<int>(entries_.size()); }
   /// `std::out_of_range` outside 0 to Count() - 1.
   [[nodiscard]] const std::string& Entry(int index) const;

@@ -251,6 +251,36 @@ TEST_F(WidgetsTest, WhatIsTypedIntoAComboBoxSelectsNoEntry) {
   EXPECT_EQ(screen_.combo.Text(), "20");
 }
 
+TEST_F(WidgetsTest, AnEntryThatIsReplacedShowsInItsPlace) {
+  view_->drop->showPopup();
+  for (ListBox* list : {&screen_.drop, static_cast<ListBox*>(&screen_.combo), &screen_.open}) {
+    list->Replace(0, "other");
+    list->Replace(2, "last");
+  }
+  EXPECT_TRUE(view_->drop->view()->isVisible());
+  EXPECT_EQ(view_->drop->itemText(2), "last");
+  EXPECT_EQ(view_->drop->currentText(), "other");
+  EXPECT_EQ(view_->combo->lineEdit()->text(), "other");
+  EXPECT_EQ(view_->open->item(2)->text(), "last");
+  EXPECT_EQ(view_->open->currentItem()->text(), "other");
+}
+
+TEST_F(WidgetsTest, AnOpenListGoesWithItsControl) {
+  const std::pair<const char*, std::function<void()>> ways[] = {
+      {"hidden", [this] { screen_.drop.SetVisible(false); }},
+      {"disabled", [this] { screen_.drop.SetEnabled(false); }}};
+  for (const auto& [way, go] : ways) {
+    screen_.drop.SetVisible(true);
+    view_->drop->setFocus();
+    QTest::keyClick(view_->drop, Qt::Key_Down, Qt::AltModifier);
+    ASSERT_TRUE(view_->drop->view()->isVisible()) << way;
+    go();
+    Settle();
+    EXPECT_FALSE(view_->drop->view()->isVisible()) << way;
+    EXPECT_FALSE(screen_.drop.HasFocus()) << way;
+  }
+}
+
 TEST_F(WidgetsTest, TheWheelChoosesNothing) {
   view_->drop->setFocus();
   for (QWidget* widget :

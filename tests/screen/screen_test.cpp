@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "screen/button.h"
+#include "screen/combo_box.h"
 #include "screen/keys.h"
 #include "screen/list_box.h"
 #include "screen/progress_bar.h"
@@ -67,6 +68,23 @@ TEST_F(ScreenTest, SameValueRaisesNothing) {
   list.Choose(1);  // the operator's hand does, for the same entry too
   EXPECT_EQ(raised, 3);
   EXPECT_THROW(list.SetIndex(2), std::out_of_range);
+}
+
+TEST_F(ScreenTest, AReplacedEntryStaysSelectedAndRaisesNothing) {
+  ComboBox combo(window, "Combo2");
+  int raised = 0;
+  combo.Fill({"a", "b"});
+  combo.SetIndex(1);
+  combo.Click = combo.Change = [&] { ++raised; };
+  combo.Replace(1, "other");
+  EXPECT_EQ(combo.Text(), "other");
+  EXPECT_EQ(combo.Index(), 1);
+  combo.TypeText("typed");
+  combo.Replace(1, "third");
+  EXPECT_EQ(combo.Text(), "typed");
+  EXPECT_EQ(raised, 1);  // by the typed text
+  EXPECT_THROW(combo.Replace(2, "x"), std::out_of_range);
+  EXPECT_THROW(combo.Replace(ListBox::kNone, "x"), std::out_of_range);
 }
 
 TEST_F(ScreenTest, PartnersThatSetEachOtherComeToRest) {

@@ -29,15 +29,21 @@ DropDownWidget::DropDownWidget(ListBox& list, QWidget* parent, TextBox::Content 
   Bind(*this, list, [this] { Draw(); });
 }
 
+QString DropDownWidget::Shown(const std::string& entry) const {
+  return FromContent(entry, content_);
+}
+
 void DropDownWidget::Draw() {
   const QSignalBlocker silent(this);
-  if (shown_ != list_.Entries()) {
-    shown_ = list_.Entries();
+  if (const int changed = ReplacedEntry(shown_, list_.Entries()); changed != ListBox::kNone) {
+    setItemText(changed, Shown(list_.Entry(changed)));
+  } else if (shown_ != list_.Entries()) {
     QStringList entries;
-    for (const std::string& entry : shown_) entries << FromContent(entry, content_);
+    for (const std::string& entry : list_.Entries()) entries << Shown(entry);
     clear();
     addItems(entries);
   }
+  shown_ = list_.Entries();
   if (currentIndex() != list_.Index()) {
     setCurrentIndex(list_.Index());
     update();
@@ -94,6 +100,12 @@ bool DropDownWidget::TakenInPopup(const QKeyEvent& event) {
 void DropDownWidget::showPopup() {
   QComboBox::showPopup();
   view()->window()->installEventFilter(this);
+}
+
+void DropDownWidget::setVisible(bool visible) {
+  // The open list has the keyboard: it must give it back before the toolkit looks who is next.
+  if (!visible) hidePopup();
+  QComboBox::setVisible(visible);
 }
 
 bool DropDownWidget::PressedBeside(const QMouseEvent& event) {

@@ -21,6 +21,7 @@ class DropDownWidget : public QComboBox {
 
   bool eventFilter(QObject* watched, QEvent* event) override;
   void showPopup() override;
+  void setVisible(bool visible) override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
@@ -36,6 +37,7 @@ class DropDownWidget : public QComboBox {
   // Closes the list and passes on a press that is neither in it nor on the box.
   [[nodiscard]] bool PressedBeside(const QMouseEvent& event);
   void Choose(int index);
+  [[nodiscard]] QString Shown(const std::string& entry) const;
 
   ListBox& list_;
   TextBox::Content content_;

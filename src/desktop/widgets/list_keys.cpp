@@ -40,4 +40,12 @@ int EntryByKey(const ListBox& list, const QKeyEvent& event) {
   return std::clamp(to, 0, last);
 }
 
+int ReplacedEntry(const std::vector<std::string>& had, const std::vector<std::string>& has) {
+  if (had.size() != has.size()) return ListBox::kNone;
+  const auto first = std::mismatch(had.begin(), had.end(), has.begin());
+  if (first.first == had.end()) return ListBox::kNone;
+  const bool rest = std::equal(first.first + 1, had.end(), first.second + 1);
+  return rest ? static_cast<int>(first.first - had.begin()) : ListBox::kNone;
+}
+
 }  // namespace corvalis::desktop

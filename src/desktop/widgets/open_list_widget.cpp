@@ -43,13 +43,15 @@ QString OpenListWidget::Shown(const std::string& entry) const {
 }
 
 void OpenListWidget::Draw() {
-  if (shown_ != list_.Entries()) {
-    shown_ = list_.Entries();
+  if (const int changed = ReplacedEntry(shown_, list_.Entries()); changed != ListBox::kNone) {
+    item(changed)->setText(Shown(list_.Entry(changed)));
+  } else if (shown_ != list_.Entries()) {
     QStringList entries;
-    for (const std::string& entry : shown_) entries << Shown(entry);
+    for (const std::string& entry : list_.Entries()) entries << Shown(entry);
     clear();
     addItems(entries);
   }
+  shown_ = list_.Entries();
   for (int i = 0; i < count(); ++i) Dress(*item(i), i);
   if (currentRow() != list_.Index()) setCurrentRow(list_.Index());
 }
