@@ -65,7 +65,7 @@ struct Screen {
   ListBox open{window, "List1"};
   CheckBox check{window, "Check1"};
   Calendar calendar{window, "Calendar1"};
-  Tabs tabs{window, "SSTab1", {"PI", "TP"}};
+  Tabs tabs{window, "SSTab1", {"PI", "TP", "DI", "TA"}};
   int refused = 0;
 };
 
@@ -75,7 +75,7 @@ struct View : WindowView {
     for (QWidget* part : findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly)) {
       column->addWidget(part);
     }
-    for (int page = 0; page < 2; ++page) tabs->AddPage(new QWidget);
+    for (int page = 0; page < 4; ++page) tabs->AddPage(new QWidget);
     last = this;
   }
 
@@ -201,7 +201,7 @@ TEST_F(WidgetsTest, ALostFocusRuleTakesTheFocusBackAndTheClickIsVoid) {
   Click(view_->check);
   Click(view_->drop);
   Click(view_->open->viewport(), Middle(*view_->open, 2));
-  auto* bar = view_->tabs->findChild<QTabBar*>();
+  auto* bar = view_->findChild<QTabBar*>("SSTab1");
   Click(bar, bar->tabRect(1).center());
   QTest::keyClick(view_->box, Qt::Key_Tab);
   Settle();
@@ -215,6 +215,23 @@ TEST_F(WidgetsTest, ALostFocusRuleTakesTheFocusBackAndTheClickIsVoid) {
   QTest::keyClicks(view_->box, "1234");
   Click(view_->check);
   EXPECT_TRUE(screen_.check.Checked());
+}
+
+TEST_F(WidgetsTest, TabsThatAreHiddenOrDisabledArePassedOver) {
+  auto* bar = view_->findChild<QTabBar*>("SSTab1");
+  screen_.tabs.SetTabVisible(1, false);
+  screen_.tabs.SetTabEnabled(2, false);
+  bar->setFocus();
+  QTest::keyClick(bar, Qt::Key_Right);
+  EXPECT_EQ(screen_.tabs.Tab(), 3);
+  Click(bar, bar->tabRect(2).center());
+  EXPECT_EQ(screen_.tabs.Tab(), 3);
+  EXPECT_FALSE(bar->isTabVisible(1));
+  screen_.tabs.SetTabVisible(3, false);
+  EXPECT_EQ(bar->currentIndex(), 0);
+  screen_.tabs.SetTabVisible(1, true);
+  Click(bar, bar->tabRect(1).center());
+  EXPECT_EQ(screen_.tabs.Tab(), 1);
 }
 
 TEST_F(WidgetsTest, AClosedListTellsTypedKeysOpenOrNot) {
@@ -285,7 +302,7 @@ TEST_F(WidgetsTest, TheWheelChoosesNothing) {
   view_->drop->setFocus();
   for (QWidget* widget :
        std::initializer_list<QWidget*>{view_->drop, view_->combo, view_->combo->lineEdit(),
-                                       view_->tabs->findChild<QTabBar*>()}) {
+                                       view_->findChild<QTabBar*>("SSTab1")}) {
     QWheelEvent wheel({5, 5}, widget->mapToGlobal(QPointF(5, 5)), {}, {0, -120}, {}, {},
                       Qt::NoScrollPhase, false);
     QCoreApplication::sendEvent(widget, &wheel);

@@ -8,6 +8,7 @@
 #include "screen/list_box.h"
 #include "screen/progress_bar.h"
 #include "screen/spinner.h"
+#include "screen/tabs.h"
 #include "screen/text_box.h"
 #include "screen/window.h"
 
@@ -178,6 +179,22 @@ TEST_F(ScreenTest, BarFillsShowsTheMaximumForOneTickAndStartsAgain) {
   EXPECT_EQ(bar.Value(), ProgressBar::kMax);
   bar.Tick();
   EXPECT_EQ(bar.Value(), ProgressBar::kMin);
+}
+
+TEST_F(ScreenTest, ForATabThatIsHiddenTheNearestThatCanBeUsedComesToTheFront) {
+  Tabs tabs(window, "SSTab1", {"0", "1", "2", "3", "4"});
+  std::string order;
+  tabs.Click = [&] { order += std::to_string(tabs.Tab()); };
+  tabs.SetTab(2);
+  tabs.SetTabEnabled(1, false);
+  tabs.SetTabVisible(3, false);
+  tabs.SetTabVisible(2, false);
+  for (const int refused : {1, 2, 3}) tabs.Choose(refused);
+  tabs.SetTab(3);
+  EXPECT_EQ(order, "20");
+  for (const int tab : {4, 0, 1}) tabs.SetTabVisible(tab, false);
+  tabs.SetTabVisible(3, true);
+  EXPECT_EQ(order, "2013");
 }
 
 }  // namespace

@@ -9,16 +9,17 @@ class QStackedWidget;
 
 namespace corvalis::desktop {
 
-/// The bar of a `TabsWidget`.
+/// The bar of a `TabsWidget`, and the picture of the control: it has its name.
 class TabsBar : public QTabBar {
  public:
   TabsBar(Tabs& tabs, QWidget* parent);
 
-  /// Brings the tab that the model has in front to the front.
+  /// Shows what tabs there are and brings the one to the front that the model has there.
   void Draw();
 
  protected:
   void mousePressEvent(QMouseEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void wheelEvent(QWheelEvent* event) override;
 
  private:
@@ -26,7 +27,8 @@ class TabsBar : public QTabBar {
 };
 
 /// A bar of tabs above their pages. The model says which tab is in front; a change that it refuses
-/// is undone. Left and right move along the bar; the wheel does nothing.
+/// is undone. Left and right move along the bar, past what is hidden or disabled; the wheel does
+/// nothing.
 class TabsWidget : public QWidget {
  public:
   TabsWidget(Tabs& tabs, QWidget* parent);
