@@ -23,6 +23,7 @@ class IdlePump : public Pump {
 class StoppedClock : public Clock {
  public:
   [[nodiscard]] double Timer() const override { return 0; }
+  [[nodiscard]] double Steady() const override { return 0; }
   [[nodiscard]] DateTime Now() const override { return {}; }
 };
 

@@ -4,10 +4,27 @@
 
 namespace corvalis {
 
+namespace {
+
+int standing = 0;
+
+// A transfer screen, from here to the end of its block.
+struct Standing {
+  Standing() { ++standing; }
+  ~Standing() { --standing; }
+  Standing(const Standing&) = delete;
+  Standing& operator=(const Standing&) = delete;
+};
+
+}  // namespace
+
+bool TransferScreenStands() { return standing > 0; }
+
 void RunTransfer(Window& screen, const Transfer& transfer) {
   screen.SetEnabled(false);
   if (!transfer.may_start || transfer.may_start()) {
     SerialCommunicationForm form(transfer.abort);
+    const Standing stands;
     form.window.Show(&screen);
     form.Command1.SetFocus();
     transfer.work();

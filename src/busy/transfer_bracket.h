@@ -20,4 +20,7 @@ struct Transfer {
 /// the focus.
 void RunTransfer(Window& screen, const Transfer& transfer);
 
+/// True while a transfer screen stands, so while the operator can abort what is waited for.
+[[nodiscard]] bool TransferScreenStands();
+
 }  // namespace corvalis

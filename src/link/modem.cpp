@@ -46,9 +46,9 @@ void ModemHangUp() {
   Wait wait = Wait::Until(std::nearbyint(Machine().clock->Timer()) + kAnswerSeconds);
   for (;;) {
     wait.Pump();
-    if (wait.Expired()) return;
     const Queue* queue = ReceiveQueue();
     if (queue != nullptr && !queue->QEmpty()) break;
+    if (wait.Expired()) return;
   }
   SendModemText(kHangUp);
 }

@@ -159,8 +159,8 @@ void WaitSeconds(float seconds) {
   Wait wait(seconds);
   do {
     wait.Pump();
-    // Nothing else would ever end a wait that has crossed midnight.
-    if (EscPressed && wait.OverButForMidnight()) return;
+    // Nothing else may ever end a wait that has crossed midnight.
+    if (EscPressed && wait.SecondsPassed()) return;
   } while (!wait.Expired());
 }
 
@@ -217,7 +217,8 @@ void ReceiveFrame(std::span<std::uint8_t> frame) {
   for (;;) {
     // Bytes that are here already are taken without asking for events again.
     if (!QueueHoldsByte()) wait.Pump();
-    if (QueueHoldsByte()) {
+    const bool came = QueueHoldsByte();
+    if (came) {
       frame[index] = queue->QPop();
       if (index == 0) start_seen = frame[index] == kStart;
       if (index + 2 == frame.size()) end_seen = start_seen && frame[index] == kEnd;
@@ -226,7 +227,7 @@ void ReceiveFrame(std::span<std::uint8_t> frame) {
         return;
       }
     }
-    if (wait.Expired()) {
+    if (!came && wait.Expired()) {
       LinkError = kErrorRxTimeout;
       return;
     }

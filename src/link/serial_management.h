@@ -54,8 +54,8 @@ void OnComm();
 /// The port that the link was opened on; null while the link is released.
 [[nodiscard]] SerialPort* LinkPort();
 
-/// Lets events run for at least `seconds`. A wait that crosses midnight does not end by itself, but
-/// at the operator's ESC, which stays set for the transfer that it is meant for.
+/// Lets events run for at least `seconds`; see `Wait`. The operator's ESC ends a wait that the
+/// clock doesn't end any more, and stays set for the transfer that it is meant for.
 void WaitSeconds(float seconds);
 
 /// Writes a frame and waits up to 15 seconds for its acknowledgement; on a one-way path it only

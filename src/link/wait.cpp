@@ -1,7 +1,10 @@
 #include "link/wait.h"
 
+#include <algorithm>
+#include <limits>
 #include <utility>
 
+#include "busy/transfer_bracket.h"
 #include "platform/platform.h"
 
 namespace corvalis {
@@ -9,13 +12,16 @@ namespace corvalis {
 namespace {
 
 constexpr double kDay = 86400;
+constexpr double kNever = std::numeric_limits<double>::infinity();
 
 }  // namespace
 
-Wait::Wait(double seconds) : start_(Machine().clock->Timer()), deadline_(start_ + seconds) {}
+Wait::Wait(double seconds)
+    : deadline_(Machine().clock->Timer() + seconds),
+      steady_deadline_(Machine().clock->Steady() + seconds) {}
 
 Wait Wait::Until(double deadline) {
-  Wait wait(0);
+  Wait wait(deadline - Machine().clock->Timer());
   wait.deadline_ = deadline;
   return wait;
 }
@@ -24,15 +30,24 @@ void Wait::Pump() {
   if (std::exchange(first_, false)) {
     Machine().pump->RunPending();
   } else {
-    Machine().pump->RunUntil(deadline_);
+    Machine().pump->RunUntil(WakeUp());
   }
+  expired_ = TimeIsOver();
+  if (expired_) Machine().pump->RunPending();
 }
 
-bool Wait::Expired() const { return Machine().clock->Timer() > deadline_; }
+bool Wait::SecondsPassed() const { return Machine().clock->Steady() > steady_deadline_; }
 
-bool Wait::OverButForMidnight() const {
-  const double now = Machine().clock->Timer();
-  return now < start_ && now + kDay > deadline_;
+bool Wait::TimeIsOver() const {
+  return Machine().clock->Timer() > deadline_ || (!TransferScreenStands() && SecondsPassed());
+}
+
+// When to look at the clock again, on the steady one.
+double Wait::WakeUp() const {
+  const Clock& clock = *Machine().clock;
+  // The time of day falls back to 0 before it gets beyond a day.
+  const double by_day = deadline_ < kDay ? clock.Steady() + deadline_ - clock.Timer() : kNever;
+  return SecondsPassed() ? by_day : std::min(by_day, steady_deadline_);
 }
 
 }  // namespace corvalis

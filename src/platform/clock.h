@@ -15,6 +15,10 @@ class Clock {
   /// Seconds since local midnight, with fractions: 0 <= value < 86400. Falls back to 0 at midnight.
   [[nodiscard]] virtual double Timer() const = 0;
 
+  /// Seconds, with fractions, on a clock that only runs forward and that nobody can set; they count
+  /// from a start of their own.
+  [[nodiscard]] virtual double Steady() const = 0;
+
   /// The present local date and time.
   [[nodiscard]] virtual DateTime Now() const = 0;
 };

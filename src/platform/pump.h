@@ -11,9 +11,8 @@ class Pump {
   /// Runs what is pending and returns at once.
   virtual void RunPending() = 0;
 
-  /// Sleeps until something came and was run, or until `Clock::Timer()` is past `deadline`
-  /// (seconds since midnight). A deadline of 86400 or more is never reached, as the clock falls
-  /// back to 0 at midnight: only an event ends such a call.
+  /// Sleeps until something came and was run, or until `Clock::Steady()` is past `deadline`. A
+  /// deadline of infinity is never reached: only an event ends such a call.
   virtual void RunUntil(double deadline) = 0;
 };
 

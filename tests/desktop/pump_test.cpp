@@ -5,13 +5,14 @@
 #include <QCoreApplication>
 #include <QTimer>
 #include <chrono>
+#include <limits>
 
 #include "desktop/machine/qt_time.h"
 
 namespace corvalis::desktop {
 namespace {
 
-constexpr double kNeverReached = 86400;  // the clock of a day ends before
+constexpr double kNever = std::numeric_limits<double>::infinity();
 
 TEST(PumpTest, TheClockShowsLocalTime) {
   const QtTime time;
@@ -19,27 +20,26 @@ TEST(PumpTest, TheClockShowsLocalTime) {
   const std::chrono::duration<double> since_midnight =
       now - std::chrono::floor<std::chrono::days>(now);
   double later = time.Timer() - since_midnight.count();
-  if (later < 0) later += kNeverReached;  // midnight in between
+  if (later < 0) later += 86400;  // midnight in between
   EXPECT_LT(later, 30);
 }
 
 TEST(PumpTest, AnEventEndsAWait) {
   QtTime time;
   time.RunPending();
-  for (const double deadline : {time.Timer() + 60, kNeverReached + 10}) {
+  for (const double deadline : {time.Steady() + 60, kNever}) {
     bool ran = false;
     QTimer::singleShot(1, qApp, [&] { ran = true; });
     while (!ran) time.RunUntil(deadline);
-    EXPECT_LT(time.Timer(), deadline);
+    EXPECT_LT(time.Steady(), deadline);
   }
 }
 
 TEST(PumpTest, AWaitEndsPastItsDeadlineAndNotBefore) {
   QtTime time;
-  if (time.Timer() > kNeverReached - 60) GTEST_SKIP() << "too near to midnight";
-  const double deadline = time.Timer() + 0.005;
+  const double deadline = time.Steady() + 0.005;
   int rounds = 0;
-  while (time.Timer() <= deadline) {
+  while (time.Steady() <= deadline) {
     time.RunUntil(deadline);
     ++rounds;
   }

@@ -2,16 +2,63 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <numeric>
 #include <tuple>
 #include <utility>
 
+#include "config/config_data.h"
 #include "link/engine_fixture.h"
 #include "link/transfer.h"
 
 namespace corvalis::test {
 namespace {
+
+TEST_F(EngineTest, OpensThePortInThisOrderAndStopsAtTheFirstError) {
+  Start("[Serial Setup]\nSerialPort=3\nBaudrate=4800\nParity=E\nStopBit=1\nSatellite=Off\n");
+  std::vector<std::string> road{"CommPort 3",  "PortOpen on",  "Settings 4800,E,8,1", "InputLen 0",
+                                "InputMode 1", "RThreshold 1", "RTSEnable on"};
+  Open();
+  EXPECT_EQ(port.operations, road);
+  port.Receive({'x'});
+  configData->SetSatellite(true);
+  road.insert(road.begin(), "PortOpen off");
+  road[6] = "RThreshold 0";  // no receive events at all
+  for (std::size_t done = 1; done <= road.size(); ++done) {
+    port.operations.clear();
+    port.refused = done < road.size() ? road[done] : "";
+    Open();
+    EXPECT_EQ(LinkOpen, done == road.size());
+    EXPECT_EQ(dialogs.boxes.size(), std::min(done, road.size() - 1));
+    EXPECT_EQ(port.operations,
+              std::vector(road.begin(),
+                          road.begin() + static_cast<int>(std::min(done + 1, road.size()))));
+    EXPECT_TRUE(ReceiveQueue()->QEmpty());
+    port.SetPortOpen(true);
+  }
+}
+
+TEST_F(EngineTest, ClosedLinkIsNotWrittenTo) {
+  StartLocal();
+  LinkOpen = false;
+  Frame frame = Frame::Write(CommandCode::kTp);
+  TransferFrame(frame.Bytes());
+  EXPECT_EQ(LinkError, kErrorUnconnected);
+  EXPECT_EQ(frame.Bytes().back(), 0);  // nor is the checksum made
+  EXPECT_TRUE(port.written.empty());
+  LinkError = kLinkOk;
+  ReceiveFrame(frame.Bytes());
+  EXPECT_EQ(LinkError, kErrorUnconnected);
+}
+
+TEST_F(EngineTest, WhatCameBeforeAFrameIsNoAnswerToIt) {
+  StartLocal();
+  port.Receive({kNak});
+  port.Receive({kNak}, /*event=*/1);  // left in the port
+  WriteTp();
+  EXPECT_EQ(LinkError, kLinkOk);
+}
 
 TEST_F(EngineTest, ShortFormOfAPagePassesTheCheck) {
   StartLocal();
@@ -33,6 +80,17 @@ TEST_F(EngineTest, RunEndsAtTheFirstItemThatFails) {
   EXPECT_EQ(dialogs.boxes.size(), 1U);
 }
 
+TEST_F(EngineTest, BytesThatComeUnaskedEndNoRun) {
+  StartLocal();
+  int items = 0;
+  RunItems(3, [&](int /*number*/) {
+    ++items;
+    time.After(0, [this] { port.Receive(Bytes(Queue::kCapacity + 1)); });
+  });
+  EXPECT_EQ(items, 3);
+  EXPECT_EQ(LinkError, kLinkOk);
+}
+
 TEST_F(EngineTest, OneWayPathWaitsForNothing) {
   Start(kSatellite);
   Open();
@@ -40,8 +98,6 @@ TEST_F(EngineTest, OneWayPathWaitsForNothing) {
   WriteTp();
   EXPECT_EQ(LinkError, kLinkOk);
   EXPECT_EQ(time.Elapsed(), 0);
-  EXPECT_TRUE(ReceiveQueue()->QEmpty());  // no receive events at all
-
   port.written.clear();
   RunItems(5, [this](int number) {
     WriteTp();
@@ -99,6 +155,7 @@ TEST_F(EngineTest, OnlyABadStartOrEndEmptiesTheQueue) {
   const std::tuple<Bytes, int, bool> cases[] = {
       {Sealed({2, 2, 0, '1', 3}), kLinkOk, false},
       {Sealed({2, 0x0E, 7, '1', 3}), kLinkOk, false},  // of another command of the same length
+      {{2, 2, 0, '1', 3, 0}, kErrorRxChecksum, false},
       {Sealed({1, 2, 0, '1', 3}), kErrorRxStart, true},
       {Sealed({2, 2, 0, '1', 4}), kErrorRxLength, true}};
   for (const auto& [answer, error, emptied] : cases) {
@@ -109,25 +166,6 @@ TEST_F(EngineTest, OnlyABadStartOrEndEmptiesTheQueue) {
     EXPECT_EQ(LinkError, error);
     EXPECT_EQ(ReceiveQueue()->QEmpty(), emptied) << error;
   }
-}
-
-TEST_F(EngineTest, WaitAcrossMidnightEndsByAnAnswerOrByEscOnly) {
-  StartLocal();
-  port.answer = [](const Bytes&) { return Bytes{}; };
-  time.SetTimer(86400 - 5);
-  time.After(600, [this] { port.Receive({kAck}); });
-  WriteTp();
-  EXPECT_EQ(LinkError, kLinkOk);
-
-  time.SetTimer(86400 - 5);
-  time.After(700, [] { EscPressed = true; });
-  WriteTp();
-  EXPECT_EQ(LinkError, kErrorAborted);
-
-  time.SetTimer(86400 - 0.1);
-  time.After(300, [] { EscPressed = true; });
-  WaitSeconds(0.2F);
-  EXPECT_TRUE(EscPressed);  // for the transfer that comes next
 }
 
 TEST_F(EngineTest, AWriteThatFailsLeavesTheErrorUnlessThePortIsClosed) {

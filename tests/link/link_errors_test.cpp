@@ -96,15 +96,5 @@ TEST_F(LinkErrors, LineThatGoesAwayEndsInAnError) {
   EXPECT_EQ(LinkError, kLinkOk);
 }
 
-TEST_F(LinkErrors, TextsThatNothingSetsStandInTheTableToo) {
-  const std::pair<std::int16_t, const char*> cases[] = {
-      {0, "                            "},  {17, "[ RX ] pointer value too big"},
-      {19, "    [ RX ] parity wrong     "}, {20, "[ RX ] stop bits were wrong "},
-      {22, "  [ RX ] not acknowledge    "}, {23, "    [ RX ] overrun error    "},
-      {25, "     Baudrate mismatch      "}, {26, "       Unmanged error       "},
-      {27, " [ TX ] RDS not responding  "}, {99, "       Unmanged error       "}};
-  for (const auto& [error, text] : cases) EXPECT_EQ(LinkErrorText(error), text) << error;
-}
-
 }  // namespace
 }  // namespace corvalis::test

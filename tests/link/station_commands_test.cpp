@@ -149,11 +149,35 @@ TEST_F(StationCommands, ReadCt) {
   EXPECT_EQ(std::tuple(day, date_psn, hour_psn, offset), std::tuple(7, 8, 9, -24));
 
   const DateTime before = when;
-  for (const char* impossible : {"26023011200", "26130111200", "26010112460"}) {
+  for (const char* impossible : {"26023011200", "26130111200", "26010112400", "26010112360"}) {
     read(impossible, "111248");
     EXPECT_EQ(when, before);
     EXPECT_EQ(offset, 24);
   }
+}
+
+TEST_F(StationCommands, RecordKeepsItsDiIfTheReadFails) {
+  const bool before = configData->ArtificialHead();
+  for (const char* digit : {"0", "2"}) {  // one of them is what the record holds
+    port.answer = [frame = Acknowledged({kStart, 0x04, 0, static_cast<std::uint8_t>(*digit), kEnd,
+                                         0})](const Bytes&) { return frame; };
+    configData->GetDiRds();
+    EXPECT_EQ(LinkError, kErrorRxChecksum);
+    EXPECT_EQ(configData->ArtificialHead(), before);
+  }
+}
+
+TEST_F(StationCommands, RecordLeavesAClosedLinkAlone) {
+  LinkOpen = false;
+  for (void (ConfigData::*operation)() :
+       {&ConfigData::GetPiRds, &ConfigData::SetPiRds, &ConfigData::GetEccRds,
+        &ConfigData::SetEccRds, &ConfigData::GetLicRds, &ConfigData::SetLicRds,
+        &ConfigData::GetTpRds, &ConfigData::SetTpRds, &ConfigData::GetDiRds, &ConfigData::SetDiRds,
+        &ConfigData::GetCtRds, &ConfigData::SetCtRds}) {
+    (configData->*operation)();
+  }
+  EXPECT_EQ(LinkError, kLinkOk);
+  EXPECT_TRUE(dialogs.boxes.empty());
 }
 
 TEST_F(StationCommands, DiValueHasTwoInvertedBits) {

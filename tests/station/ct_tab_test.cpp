@@ -63,6 +63,8 @@ TEST_F(CtTabTest, HourAndMinuteWrapAndAPickedDateTakesThem) {
   EXPECT_EQ(configData->DateValue(), At(kToday, 23h, 0min));
   Tab().Calendar1.Pick(2028y / February / 29);
   EXPECT_EQ(configData->DateValue(), At(2028y / February / 29, 23h, 0min));
+  Tab().Command2.Press();
+  EXPECT_EQ(Held(kCt), "28022922300080926");  // a Tuesday
 }
 
 TEST_F(CtTabTest, OffsetStepsBetweenItsLimits) {

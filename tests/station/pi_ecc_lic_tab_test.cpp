@@ -175,10 +175,12 @@ TEST_F(PiTabTest, ReadShowsWhatTheCoderHolds) {
   EXPECT_EQ(Selected(Tab().CountryCombo), "Ascension Island");
   EXPECT_EQ(Tab().EccText.Text(), "F1");  // 0xD1 or 0xE0, until the list sets it again
 
-  Hold(0x1A, "30");  // a code without a name
-  Tab().ReadLicCommand.Press();
-  EXPECT_EQ(Selected(Tab().LicCombo), "");
-  EXPECT_EQ(configData->Lic(), 0x30);
+  for (const auto& [digits, code] : {std::pair("30", 0x30), {"80", 0x80}, {"FF", 0xFF}}) {
+    Hold(0x1A, digits);  // a code without a name
+    Tab().ReadLicCommand.Press();
+    EXPECT_EQ(Selected(Tab().LicCombo), "");
+    EXPECT_EQ(configData->Lic(), code);
+  }
 }
 
 }  // namespace

@@ -29,18 +29,19 @@ DateTime JumpingTime::Now() const {
   return local_days{2026y / November / 15} + seconds(static_cast<long>(now_));
 }
 
-void JumpingTime::SetTimer(double seconds) {
-  now_ = seconds;
-  start_ = now_;
+void JumpingTime::JumpTo(double steady) {
+  now_ += steady - steady_;
+  steady_ = steady;
 }
 
 void JumpingTime::After(double seconds, std::function<void()> event) {
-  schedule_.emplace(now_ + seconds, std::move(event));
+  schedule_.emplace(steady_ + seconds, std::move(event));
 }
 
 bool JumpingTime::RunDue() {
+  const double now = steady_;
   bool ran = false;
-  while (!schedule_.empty() && schedule_.begin()->first <= now_) {
+  while (!schedule_.empty() && schedule_.begin()->first <= now) {
     const auto event = std::move(schedule_.begin()->second);
     schedule_.erase(schedule_.begin());
     event();
@@ -52,23 +53,27 @@ bool JumpingTime::RunDue() {
 void JumpingTime::RunPending() { RunDue(); }
 
 void JumpingTime::RunUntil(double deadline) {
-  if (RunDue() || Timer() > deadline) return;
-  const bool reachable = deadline < kDay;
-  const double end = now_ - Timer() + deadline;
-  if (!schedule_.empty() && (!reachable || schedule_.begin()->first <= end)) {
-    now_ = schedule_.begin()->first;
+  if (RunDue() || steady_ > deadline) return;
+  if (!schedule_.empty() && schedule_.begin()->first <= deadline) {
+    JumpTo(schedule_.begin()->first);
     RunDue();
-  } else if (reachable) {
-    now_ = end + kJustPast;
-  } else {
+  } else if (std::isinf(deadline)) {
     throw std::logic_error("this wait would never end");
+  } else {
+    JumpTo(deadline + kJustPast);
   }
+}
+
+PortError MemoryPort::Do(const std::string& operation) {
+  operations.push_back(operation);
+  if (operation == refused) return {380, "invalid property value"};
+  return {};
 }
 
 PortError MemoryPort::SetCommPort(int number) {
   if (open_) return {8000, "operation not valid while the port is opened"};
   number_ = number;
-  return {};
+  return Do("CommPort " + std::to_string(number));
 }
 
 PortError MemoryPort::SetPortOpen(bool open) {
@@ -78,28 +83,35 @@ PortError MemoryPort::SetPortOpen(bool open) {
     if (error != missing.end()) return {8002, error->second};
   }
   open_ = open;
-  return {};
+  return Do(open ? "PortOpen on" : "PortOpen off");
 }
 
 PortError MemoryPort::SetSettings(const std::string& settings) {
   settings_ = settings;
-  return {};
+  return Do("Settings " + settings);
 }
+
+PortError MemoryPort::SetInputLen(int length) { return Do("InputLen " + std::to_string(length)); }
+
+PortError MemoryPort::SetInputMode(int mode) { return Do("InputMode " + std::to_string(mode)); }
 
 PortError MemoryPort::SetRThreshold(int bytes) {
   threshold_ = bytes;
-  return {};
+  return Do("RThreshold " + std::to_string(bytes));
 }
+
+PortError MemoryPort::SetRTSEnable(bool on) { return Do(on ? "RTSEnable on" : "RTSEnable off"); }
 
 PortError MemoryPort::ClearInput() {
   input_.clear();
-  return {};
+  return Do("ClearInput");
 }
 
 std::vector<std::uint8_t> MemoryPort::Input() { return std::exchange(input_, {}); }
 
 PortError MemoryPort::Output(std::span<const std::uint8_t> bytes) {
   if (!open_) return {kPortNotOpen, "operation valid only when the port is open"};
+  static_cast<void>(Do("Output " + std::to_string(bytes.size())));
   if (output_error) return std::exchange(output_error, {});
   written.emplace_back(bytes.begin(), bytes.end());
   if (heard_on && !heard_on(number_, settings_)) {

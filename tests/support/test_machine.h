@@ -17,26 +17,30 @@ namespace corvalis::test {
 using Bytes = std::vector<std::uint8_t>;
 
 /// A clock that stands still until a wait makes it jump, and the pump of those waits. What is to
-/// happen later stands in a schedule.
+/// happen later stands in a schedule, on the steady clock.
 class JumpingTime : public Clock, public Pump {
  public:
   [[nodiscard]] double Timer() const override;
+  [[nodiscard]] double Steady() const override { return steady_; }
   [[nodiscard]] DateTime Now() const override;
   void RunPending() override;
   void RunUntil(double deadline) override;
 
-  /// Puts the clock at `seconds` after midnight.
-  void SetTimer(double seconds);
+  /// Puts the time of day at `seconds` after midnight; the steady clock does not notice.
+  void SetTimer(double seconds) { now_ = seconds; }
+  /// So many seconds pass with nobody handling what comes in them.
+  void Stall(double seconds) { JumpTo(steady_ + seconds); }
   /// `event` is to run, inside a pump, `seconds` from now.
   void After(double seconds, std::function<void()> event);
   /// Seconds that all waits have taken so far.
-  [[nodiscard]] double Elapsed() const { return now_ - start_; }
+  [[nodiscard]] double Elapsed() const { return steady_; }
 
  private:
   bool RunDue();
+  void JumpTo(double steady);
 
-  double now_ = 12 * 3600;  // since the midnight before the test began
-  double start_ = now_;
+  double steady_ = 0;       // since the test began
+  double now_ = 12 * 3600;  // the time of day, counting on beyond midnight
   std::multimap<double, std::function<void()>> schedule_;
 };
 
@@ -65,10 +69,10 @@ class MemoryPort : public SerialPort {
   [[nodiscard]] bool PortOpen() const override { return open_; }
   PortError SetSettings(const std::string& settings) override;
   [[nodiscard]] std::string Settings() const override { return settings_; }
-  PortError SetInputLen(int) override { return {}; }
-  PortError SetInputMode(int) override { return {}; }
+  PortError SetInputLen(int length) override;
+  PortError SetInputMode(int mode) override;
   PortError SetRThreshold(int bytes) override;
-  PortError SetRTSEnable(bool) override { return {}; }
+  PortError SetRTSEnable(bool on) override;
   [[nodiscard]] int InBufferCount() const override { return static_cast<int>(input_.size()); }
   PortError ClearInput() override;
   std::vector<std::uint8_t> Input() override;
@@ -83,6 +87,10 @@ class MemoryPort : public SerialPort {
   std::function<bool(int number, const std::string& settings)> heard_on;
   /// Errors of opening, by port number.
   std::map<int, std::string> missing;
+  /// Everything that was done to the port, in order: "CommPort 1", "ClearInput", "Output 9" ...
+  std::vector<std::string> operations;
+  /// The operation that fails, in the same words.
+  std::string refused;
   /// Everything that was written, one entry for each `Output`.
   std::vector<Bytes> written;
   /// The next `Output` fails with this.
@@ -94,6 +102,8 @@ class MemoryPort : public SerialPort {
   void Receive(const Bytes& bytes, int event = kCommEventReceive);
 
  private:
+  PortError Do(const std::string& operation);
+
   JumpingTime& time_;
   int number_ = 1;
   bool open_ = false;

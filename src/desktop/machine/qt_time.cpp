@@ -11,9 +11,9 @@ namespace corvalis::desktop {
 namespace {
 
 using std::chrono::milliseconds;
+using std::chrono::steady_clock;
 using std::chrono::system_clock;
 
-constexpr double kDay = 86400;
 constexpr int kMinute = 60;
 constexpr int kHour = 3600;
 constexpr double kMillisecondsPerSecond = 1e3;
@@ -37,6 +37,10 @@ double QtTime::Timer() const {
   return local.tm_hour * kHour + local.tm_min * kMinute + local.tm_sec + fraction.count();
 }
 
+double QtTime::Steady() const {
+  return std::chrono::duration<double>(steady_clock::now().time_since_epoch()).count();
+}
+
 DateTime QtTime::Now() const {
   namespace chrono = std::chrono;
   const std::tm local = LocalTime(system_clock::now());
@@ -50,11 +54,11 @@ DateTime QtTime::Now() const {
 void QtTime::RunPending() { QCoreApplication::processEvents(); }
 
 void QtTime::RunUntil(double deadline) {
-  if (deadline >= kDay) {
+  if (std::isinf(deadline)) {
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
     return;
   }
-  const double left = deadline - Timer();
+  const double left = deadline - Steady();
   if (left < 0) return;
   // The wait is over once the clock is past the deadline, so the last millisecond is waited too.
   RunEventsFor(milliseconds(static_cast<int>(left * kMillisecondsPerSecond) + 1));

@@ -11,6 +11,7 @@ namespace corvalis::desktop {
 class QtTime : public Clock, public Pump {
  public:
   [[nodiscard]] double Timer() const override;
+  [[nodiscard]] double Steady() const override;
   [[nodiscard]] DateTime Now() const override;
   void RunPending() override;
   void RunUntil(double deadline) override;
