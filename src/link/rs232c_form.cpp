@@ -1,6 +1,7 @@
 #include "link/rs232c_form.h"
 
 #include <algorithm>
+#include <optional>
 #include <string>
 #include <utility>
 
@@ -15,7 +16,6 @@ namespace corvalis {
 
 namespace {
 
-constexpr int kDialogueTickMs = 1000;
 constexpr std::int16_t kMinBurst = 2;
 constexpr std::int16_t kMaxBurst = 10;
 
@@ -48,34 +48,18 @@ void WhileDisabled(Window& screen, const Work& work) {
   screen.SetEnabled(enabled);
 }
 
+// Does `work` behind the wait screen.
+template <class Work>
+void WhileWaiting(Window& screen, const Work& work) {
+  TheWaitForm().window.Show(&screen);
+  work();
+  TheWaitForm().window.Hide();
+}
+
 }  // namespace
 
 RS232CForm::RS232CForm(MainMenu main_menu)
-    : window(this, "RS232CForm"),
-      marks(window),
-      RdsOptionLabel(window, "RdsOptionLabel"),
-      BurstLabel(window, "BurstLabel"),
-      SerialLabel(window, "SerialLabel"),
-      BaudrateLabel(window, "BaudrateLabel"),
-      ParityLabel(window, "ParityLabel"),
-      StopBitLabel(window, "StopBitLabel"),
-      LanguageLabel(window, "LanguageLabel"),
-      RdsOptionCombo(window, "RdsOptionCombo"),
-      Combo1(window, "Combo1"),
-      SerialCombo(window, "SerialCombo"),
-      BaudrateCombo(window, "BaudrateCombo"),
-      ParityCombo(window, "ParityCombo"),
-      StopBitCombo(window, "StopBitCombo"),
-      LanguageCombo(window, "LanguageCombo"),
-      Command31(window, "Command31"),
-      Check1(window, "Check1"),
-      Check2(window, "Check2"),
-      Text2(window, "Text2"),
-      Command2(window, "Command2"),
-      Command1(window, "Command1"),
-      Text1(window, "Text1"),
-      Timer1(window, "Timer1", kDialogueTickMs),
-      main_menu_(std::move(main_menu)),
+    : main_menu_(std::move(main_menu)),
       pending_{{{BaudrateCombo, [this] { return TakeBaudrate(); }},
                 {Combo1, [this] { return TakeBurst(); }},
                 {ParityCombo, [this] { return TakeParity(); }},
@@ -269,9 +253,10 @@ void RS232CForm::SwitchLanguage() {
 }
 
 void RS232CForm::AutoSetting() {
-  TheWaitForm().window.Show(&window);
-  const auto found =
-      FindCoder(main_menu_.port, [this](const PortChoice& choice) { ShowAttempt(choice); });
+  std::optional<PortChoice> found;
+  WhileWaiting(window, [&] {
+    found = FindCoder(main_menu_.port, [this](const PortChoice& choice) { ShowAttempt(choice); });
+  });
   if (found) {
     configData->SetCommPort(found->number);
     configData->SetBaudrate(found->baudrate);
@@ -280,7 +265,6 @@ void RS232CForm::AutoSetting() {
   } else {
     ShowPortSettings();
   }
-  TheWaitForm().window.Hide();
 }
 
 void RS232CForm::ShowAttempt(const PortChoice& choice) {
@@ -302,7 +286,7 @@ void RS232CForm::Hook() {
 }
 
 void RS232CForm::HangUp() {
-  ModemHangUp();
+  WhileWaiting(window, ModemHangUp);
   configData->SetModemHookOn(false);
   OfferDialling(true);
   SerialCombo.SetEnabled(true);
@@ -322,17 +306,17 @@ void RS232CForm::ShowDialogue(const std::string& text) {
 
 void RS232CForm::Unload() {
   window.SetEnabled(false);
-  TheWaitForm().window.Show(&window);
-  for (PendingList& pending : pending_) {
-    if (pending.has_focus) Leave(pending);
-  }
-  // What comes from now on is the Coder's, not the modem's.
-  Timer1.SetEnabled(false);
-  TakeCommPort();
-  OpenLink(main_menu_.port);
-  if (Reach()) ProbeCoder();
-  if (Reach()) main_menu_.reload_limits();
-  TheWaitForm().window.Hide();
+  WhileWaiting(window, [this] {
+    for (PendingList& pending : pending_) {
+      if (pending.has_focus) Leave(pending);
+    }
+    // What comes from now on is the Coder's, not the modem's.
+    Timer1.SetEnabled(false);
+    TakeCommPort();
+    OpenLink(main_menu_.port);
+    if (Reach()) ProbeCoder();
+    if (Reach()) main_menu_.reload_limits();
+  });
 }
 
 }  // namespace corvalis

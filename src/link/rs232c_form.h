@@ -35,20 +35,34 @@ class RS232CForm {
   /// Opens the screen on the station record.
   void Load();
 
-  Window window;
-  BrandMarks marks;
-  Label RdsOptionLabel, BurstLabel, SerialLabel, BaudrateLabel, ParityLabel, StopBitLabel,
-      LanguageLabel;
-  ListBox RdsOptionCombo, Combo1, SerialCombo, BaudrateCombo, ParityCombo, StopBitCombo,
-      LanguageCombo;
-  Button Command31;  ///< AUTOSETTING
-  CheckBox Check1, Check2;
-  TextBox Text2;              ///< the telephone number
-  Button Command2, Command1;  ///< Hook and Hang up
-  TextBox Text1;              ///< the modem's dialogue
-  Timer Timer1;
+  Window window{this, "RS232CForm"};
+  BrandMarks marks{window};
+  Label RdsOptionLabel{window, "RdsOptionLabel"};
+  Label BurstLabel{window, "BurstLabel"};
+  Label SerialLabel{window, "SerialLabel"};
+  Label BaudrateLabel{window, "BaudrateLabel"};
+  Label ParityLabel{window, "ParityLabel"};
+  Label StopBitLabel{window, "StopBitLabel"};
+  Label LanguageLabel{window, "LanguageLabel"};
+  ListBox RdsOptionCombo{window, "RdsOptionCombo"};
+  ListBox Combo1{window, "Combo1"};
+  ListBox SerialCombo{window, "SerialCombo"};
+  ListBox BaudrateCombo{window, "BaudrateCombo"};
+  ListBox ParityCombo{window, "ParityCombo"};
+  ListBox StopBitCombo{window, "StopBitCombo"};
+  ListBox LanguageCombo{window, "LanguageCombo"};
+  Button Command31{window, "Command31"};  ///< AUTOSETTING
+  CheckBox Check1{window, "Check1"};      ///< Tone
+  CheckBox Check2{window, "Check2"};      ///< Pulse
+  TextBox Text2{window, "Text2"};         ///< the telephone number
+  Button Command2{window, "Command2"};    ///< Hook
+  Button Command1{window, "Command1"};    ///< Hang up
+  TextBox Text1{window, "Text1"};         ///< the modem's dialogue
+  Timer Timer1{window, "Timer1", kDialogueTickMs};
 
  private:
+  static constexpr int kDialogueTickMs = 1000;
+
   /// A list whose choice is taken when it is left. `take` returns true once nothing is pending.
   struct PendingList {
     ListBox& list;

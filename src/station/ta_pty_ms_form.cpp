@@ -80,6 +80,8 @@ void TaPtyMsForm::StorePty() {
   pty_pending_ = false;
 }
 
+// A PTY beyond the last type, which a file may bring, is not sent either: the list shows none for
+// it.
 void TaPtyMsForm::SendPtyLive() {
   if (!IsProgrammeType(configData->Pty())) {
     Machine().dialogs->Show({.text = "Select a programme type from the list first.",

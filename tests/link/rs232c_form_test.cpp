@@ -221,6 +221,7 @@ TEST_F(SetupScreen, ACallFromHookToHangUp) {
   RS232CForm& f = *form;
   port.answer = [&f](const Bytes& sent) {
     f.window.Close();  // refused while the modem hangs up
+    EXPECT_EQ(TheWaitForm().window.Visible(), sent != Text("ATDP55512\r\n"));
     return sent == Text("+++") ? Text("OK") : Bytes{};
   };
   f.window.MoveFocus(&f.Text2);
@@ -249,6 +250,7 @@ TEST_F(SetupScreen, ACallFromHookToHangUp) {
   EXPECT_FALSE(configData->ModemHookOn());
   EXPECT_TRUE(f.Command2.Enabled());
   EXPECT_TRUE(f.window.Visible());
+  EXPECT_FALSE(TheWaitForm().window.Visible());
 }
 
 }  // namespace
