@@ -15,32 +15,10 @@ namespace {
 constexpr const char* kDesignCaption =
     "  Main Menu                                 -CORVALIS-        ";
 constexpr const char* kVersion = "V" CORVALIS_VERSION;
-constexpr const char* kExtension = ".rds";
-constexpr int kTimer1Ms = 1000;
 
 }  // namespace
 
-MainForm::MainForm()
-    : window(this, "MainForm"),
-      marks(window),
-      Text_KOR(window, "Text_KOR"),
-      Drive1(window, "Drive1"),
-      Dir1(window, "Dir1"),
-      File1(window, "File1", kExtension),
-      Text105(window, "Text105", TextBox::Content::kFileName),
-      NewButton(window, "NewButton"),
-      OpenButton(window, "OpenButton"),
-      SaveButton(window, "SaveButton"),
-      RS232CButton(window, "RS232CButton"),
-      ConnectionButton(window, "ConnectionButton"),
-      TaPtyMsButton(window, "TaPtyMsButton"),
-      EditGroupsButton(window, "EditGroupsButton"),
-      CtTpDiPiButton(window, "CtTpDiPiButton"),
-      PsnRtPinAfButton(window, "PsnRtPinAfButton"),
-      EonLiButton(window, "EonLiButton"),
-      TdcIhButton(window, "TdcIhButton"),
-      Timer1(window, "Timer1", kTimer1Ms),
-      MSComm1(*Machine().port) {
+MainForm::MainForm() : MSComm1(*Machine().port) {
   Timer1.SetEnabled(false);
   Text_KOR.SetCaption("KOR");
   Text_KOR.SetVisible(false);

@@ -37,23 +37,33 @@ class MainForm {
   /// The screen has been closed and everything released: the program ends.
   std::function<void()> Ended;
 
-  Window window;
-  BrandMarks marks;
-  Label Text_KOR;
-  DriveList Drive1;
-  DirList Dir1;
-  FileList File1;
-  TextBox Text105;
-  Button NewButton, OpenButton, SaveButton;
-  Button RS232CButton, ConnectionButton, TaPtyMsButton, EditGroupsButton;
-  Button CtTpDiPiButton, PsnRtPinAfButton, EonLiButton, TdcIhButton;
-  Timer Timer1;
+  Window window{this, "MainForm"};
+  BrandMarks marks{window};
+  Label Text_KOR{window, "Text_KOR"};
+  DriveList Drive1{window, "Drive1"};
+  DirList Dir1{window, "Dir1"};
+  FileList File1{window, "File1", kExtension};
+  TextBox Text105{window, "Text105", TextBox::Content::kFileName};
+  Button NewButton{window, "NewButton"};
+  Button OpenButton{window, "OpenButton"};
+  Button SaveButton{window, "SaveButton"};
+  Button RS232CButton{window, "RS232CButton"};
+  Button ConnectionButton{window, "ConnectionButton"};
+  Button TaPtyMsButton{window, "TaPtyMsButton"};
+  Button EditGroupsButton{window, "EditGroupsButton"};
+  Button CtTpDiPiButton{window, "CtTpDiPiButton"};
+  Button PsnRtPinAfButton{window, "PsnRtPinAfButton"};
+  Button EonLiButton{window, "EonLiButton"};
+  Button TdcIhButton{window, "TdcIhButton"};
+  Timer Timer1{window, "Timer1", 1000};
   SerialPort& MSComm1;
 
   /// The screen, once it has been opened; null before.
   [[nodiscard]] CtTpDiPiForm* OpenedCtTpDiPi() const { return ct_tp_di_pi_.get(); }
 
  private:
+  static constexpr const char* kExtension = ".rds";
+
   void New();
   void Open();
   void Save();

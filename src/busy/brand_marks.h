@@ -9,16 +9,7 @@ namespace corvalis {
 /// brand is the one in use.
 class BrandMarks {
  public:
-  explicit BrandMarks(Window& window)
-      : Logo_KOR(window, "Logo_KOR"),
-        Logo_Varn(window, "Logo_Varn"),
-        Logo_ZEL(window, "Logo_ZEL"),
-        Logo_Breno(window, "Logo_Breno"),
-        Logo_Tulm(window, "Logo_Tulm"),
-        Logo_Paxen(window, "Logo_Paxen"),
-        Logo_DOX(window, "Logo_DOX") {
-    Hide();
-  }
+  explicit BrandMarks(Window& owner) : window(owner) { Hide(); }
 
   /// Shows the mark that `configData` names, if any.
   void Follow() {
@@ -31,7 +22,14 @@ class BrandMarks {
     Logo_DOX.SetVisible(configData->DOX());
   }
 
-  Label Logo_KOR, Logo_Varn, Logo_ZEL, Logo_Breno, Logo_Tulm, Logo_Paxen, Logo_DOX;
+  Window& window;  ///< the screen's
+  Label Logo_KOR{window, "Logo_KOR"};
+  Label Logo_Varn{window, "Logo_Varn"};
+  Label Logo_ZEL{window, "Logo_ZEL"};
+  Label Logo_Breno{window, "Logo_Breno"};
+  Label Logo_Tulm{window, "Logo_Tulm"};
+  Label Logo_Paxen{window, "Logo_Paxen"};
+  Label Logo_DOX{window, "Logo_DOX"};
 
  private:
   void Hide() {

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "busy/wait_form.h"
 #include "config/language_data.h"
 #include "screen/keys.h"
 
@@ -10,11 +9,7 @@ namespace corvalis {
 
 bool TransferCloseAllowed = false;
 
-SerialCommunicationForm::SerialCommunicationForm(const std::function<void()>& abort)
-    : window(this, "SerialCommunicationForm"),
-      ProgressBar1(window, "ProgressBar1"),
-      Timer1(window, "Timer1", kBusyTickMs),
-      Command1(window, "Command1") {
+SerialCommunicationForm::SerialCommunicationForm(const std::function<void()>& abort) {
   window.SetCaption("   Serial Communication");
   window.QueryUnload = [](bool& cancel) { cancel = !std::exchange(TransferCloseAllowed, false); };
   Timer1.Tick = [this] { ProgressBar1.Tick(); };

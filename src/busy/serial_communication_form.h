@@ -2,6 +2,7 @@
 
 #include <functional>
 
+#include "busy/wait_form.h"
 #include "screen/button.h"
 #include "screen/progress_bar.h"
 #include "screen/timer.h"
@@ -19,10 +20,10 @@ class SerialCommunicationForm {
   /// `abort` is called when the operator presses ESC.
   explicit SerialCommunicationForm(const std::function<void()>& abort);
 
-  Window window;
-  ProgressBar ProgressBar1;
-  Timer Timer1;
-  Button Command1;
+  Window window{this, "SerialCommunicationForm"};
+  ProgressBar ProgressBar1{window, "ProgressBar1"};
+  Timer Timer1{window, "Timer1", kBusyTickMs};
+  Button Command1{window, "Command1"};
 };
 
 }  // namespace corvalis

@@ -10,12 +10,7 @@ namespace {
 std::unique_ptr<WaitForm> the_form;
 }  // namespace
 
-WaitForm::WaitForm()
-    : window(this, "WaitForm"),
-      marks(window),
-      WaitMessage(window, "WaitMessage"),
-      WaitBar(window, "WaitBar"),
-      WaitTimer(window, "WaitTimer", kBusyTickMs) {
+WaitForm::WaitForm() {
   window.SetCaption(" Wait");
   WaitMessage.SetCaption("Wait please!");
   WaitTimer.Tick = [this] { WaitBar.Tick(); };

@@ -20,11 +20,11 @@ class WaitForm {
   /// Takes the brand mark and the message from the present brand and language.
   void InitMask();
 
-  Window window;
-  BrandMarks marks;
-  Label WaitMessage;
-  ProgressBar WaitBar;
-  Timer WaitTimer;
+  Window window{this, "WaitForm"};
+  BrandMarks marks{window};
+  Label WaitMessage{window, "WaitMessage"};
+  ProgressBar WaitBar{window, "WaitBar"};
+  Timer WaitTimer{window, "WaitTimer", kBusyTickMs};
 };
 
 /// The one `WaitForm`, created on first use.

@@ -25,22 +25,7 @@ std::string PsnText(std::int16_t number) { return Digits(number, 2); }
 
 }  // namespace
 
-CtTab::CtTab(Window& window)
-    : HourMinLabel(window, "HourMinLabel"),
-      CtOffsetLabel(window, "CtOffsetLabel"),
-      DatePsnLabel(window, "DatePsnLabel"),
-      HourPsnLabel(window, "HourPsnLabel"),
-      Calendar1(window, "Calendar1"),
-      Text1(window, "Text1"),
-      VScroll2(window, "VScroll2"),
-      VScroll1(window, "VScroll1"),
-      Text9(window, "Text9"),
-      VScroll6(window, "VScroll6"),
-      Text7(window, "Text7"),
-      Text8(window, "Text8"),
-      Command1(window, "Command1"),
-      Command2(window, "Command2"),
-      window_(window) {
+CtTab::CtTab(Window& owner) : window(owner) {
   Calendar1.Change = [this] { StoreDate(); };
   Text1.SetLocked(true);
   VScroll2.StepUp = [this] { StepTime(+1, 0); };
@@ -59,8 +44,8 @@ CtTab::CtTab(Window& window)
     TakePsn(Text8, &ConfigData::HourPsn, &ConfigData::DatePsn, &ConfigData::SetHourPsn);
   };
 
-  Command1.Click = [this] { RunRead(window_, [this] { Read(); }); };
-  Command2.Click = [this] { RunSend(window_, [this] { Send(); }); };
+  Command1.Click = [this] { RunRead(window, [this] { Read(); }); };
+  Command2.Click = [this] { RunSend(window, [this] { Send(); }); };
 }
 
 void CtTab::FirstOpening() {

@@ -18,7 +18,7 @@ namespace corvalis {
 /// Coder shows date and hour.
 class CtTab {
  public:
-  explicit CtTab(Window& window);
+  explicit CtTab(Window& owner);
 
   /// The screen opens for the first time in this run. The record gets today's date without a time
   /// and keeps that until date, hour or minute is changed; the screen shows the present time.
@@ -29,14 +29,21 @@ class CtTab {
   /// and minute are the screen's own.
   void Open();
 
-  Label HourMinLabel, CtOffsetLabel, DatePsnLabel, HourPsnLabel;
-  Calendar Calendar1;
-  TextBox Text1;               ///< hour and minute
-  Spinner VScroll2, VScroll1;  ///< hour; minute
-  TextBox Text9;               ///< the offset in hours
-  Spinner VScroll6;            ///< the offset, in half hours
-  TextBox Text7, Text8;        ///< the PSN numbers of date and hour
-  Button Command1, Command2;   ///< read; send
+  Window& window;  ///< the screen's
+  Label HourMinLabel{window, "HourMinLabel"};
+  Label CtOffsetLabel{window, "CtOffsetLabel"};
+  Label DatePsnLabel{window, "DatePsnLabel"};
+  Label HourPsnLabel{window, "HourPsnLabel"};
+  Calendar Calendar1{window, "Calendar1"};
+  TextBox Text1{window, "Text1"};        ///< hour and minute
+  Spinner VScroll2{window, "VScroll2"};  ///< hour
+  Spinner VScroll1{window, "VScroll1"};  ///< minute
+  TextBox Text9{window, "Text9"};        ///< the offset in hours
+  Spinner VScroll6{window, "VScroll6"};  ///< the offset, in half hours
+  TextBox Text7{window, "Text7"};        ///< the PSN number of the date
+  TextBox Text8{window, "Text8"};        ///< the PSN number of the hour
+  Button Command1{window, "Command1"};   ///< read
+  Button Command2{window, "Command2"};   ///< send
 
  private:
   using PsnGetter = std::int16_t (ConfigData::*)() const;
@@ -58,7 +65,6 @@ class CtTab {
   void Read();
   void Send();
 
-  Window& window_;
   int hour_ = 0;    // 0 to 23
   int minute_ = 0;  // 0 to 59
   std::string

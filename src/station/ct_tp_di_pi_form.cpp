@@ -2,13 +2,7 @@
 
 namespace corvalis {
 
-CtTpDiPiForm::CtTpDiPiForm(Window& main_menu)
-    : window(this, "CtTpDiPiForm"),
-      SSTab1(window, "SSTab1", {"CT", "TP-DI", "PI-ECC-LIC"}),
-      ct(window),
-      tp_di(window),
-      pi_ecc_lic(window),
-      main_menu_(main_menu) {
+CtTpDiPiForm::CtTpDiPiForm(Window& main_menu) : main_menu_(main_menu) {
   window.SetCaption("CT - TP - DI - PI - ECC - LIC");
 }
 

@@ -18,11 +18,12 @@ class CtTpDiPiForm {
   /// Opens the screen.
   void Load();
 
-  Window window;
-  Tabs SSTab1;  ///< the three below, in their order
-  CtTab ct;
-  TpDiTab tp_di;
-  PiEccLicTab pi_ecc_lic;
+  Window window{this, "CtTpDiPiForm"};
+  /// The three below, in their order.
+  Tabs SSTab1{window, "SSTab1", {"CT", "TP-DI", "PI-ECC-LIC"}};
+  CtTab ct{window};
+  TpDiTab tp_di{window};
+  PiEccLicTab pi_ecc_lic{window};
 
  private:
   Window& main_menu_;

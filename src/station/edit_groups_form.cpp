@@ -40,20 +40,7 @@ void SendGroup(int group) {
 
 }  // namespace
 
-EditGroupsForm::EditGroupsForm(Window& main_menu)
-    : window(this, "EditGroupsForm"),
-      Check1(window, "Check1"),
-      Text1(window, "Text1"),
-      VScroll2(window, "VScroll2"),
-      PercentText(window, "PercentText"),
-      PercentBar(window, "PercentBar"),
-      SelectedLabel(window, "SelectedLabel"),
-      Command1(window, "Command1"),
-      Command11(window, "Command11"),
-      Command12(window, "Command12"),
-      Command13(window, "Command13"),
-      Command2(window, "Command2"),
-      main_menu_(main_menu) {
+EditGroupsForm::EditGroupsForm(Window& main_menu) : main_menu_(main_menu) {
   window.SetCaption("EDIT GROUPS");
   for (int group = 0; group < kGroups; ++group) {
     Check1[group].Click = [this, group] { Tick(group); };

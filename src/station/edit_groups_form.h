@@ -22,17 +22,21 @@ class EditGroupsForm {
   /// Opens the screen.
   void Load();
 
-  Window window;
+  Window window{this, "EditGroupsForm"};
   // By position in the group table.
-  ControlArray<CheckBox, kGroups> Check1;
-  ControlArray<TextBox, kGroups> Text1;
-  ControlArray<Spinner, kGroups> VScroll2;
+  ControlArray<CheckBox, kGroups> Check1{window, "Check1"};
+  ControlArray<TextBox, kGroups> Text1{window, "Text1"};
+  ControlArray<Spinner, kGroups> VScroll2{window, "VScroll2"};
   // By group number: the share of both versions, in words and as a bar.
-  ControlArray<Label, kGroupNumbers> PercentText;
-  ControlArray<Meter, kGroupNumbers> PercentBar;
+  ControlArray<Label, kGroupNumbers> PercentText{window, "PercentText"};
+  ControlArray<Meter, kGroupNumbers> PercentBar{window, "PercentBar"};
   /// Names the group that sending one and reading one are about.
-  Label SelectedLabel;
-  Button Command1, Command11, Command12, Command13, Command2;
+  Label SelectedLabel{window, "SelectedLabel"};
+  Button Command1{window, "Command1"};
+  Button Command11{window, "Command11"};
+  Button Command12{window, "Command12"};
+  Button Command13{window, "Command13"};
+  Button Command2{window, "Command2"};
 
  private:
   void InitCaptions();

@@ -56,32 +56,7 @@ std::string CountryName(int row) {
 
 }  // namespace
 
-PiEccLicTab::PiEccLicTab(Window& window)
-    : CountryLabel(window, "CountryLabel"),
-      CoverageLabel(window, "CoverageLabel"),
-      IDNumberLabel(window, "IDNumberLabel"),
-      PiLabel(window, "PiLabel"),
-      EccLabel(window, "EccLabel"),
-      LicLabel(window, "LicLabel"),
-      CountryListLabel(window, "CountryListLabel"),
-      CountryCombo(window, "CountryCombo"),
-      CoverageCombo(window, "CoverageCombo"),
-      IDNumberText(window, "IDNumberText"),
-      VScroll3(window, "VScroll3"),
-      PiText(window, "PiText"),
-      EccText(window, "EccText"),
-      LicCombo(window, "LicCombo"),
-      CountryList(window, "CountryList"),
-      ReadPiCommand(window, "ReadPiCommand"),
-      SendPiCommand(window, "SendPiCommand"),
-      SendPiBurstCommand(window, "SendPiBurstCommand"),
-      ReadEccCommand(window, "ReadEccCommand"),
-      SendEccCommand(window, "SendEccCommand"),
-      SendEccBurstCommand(window, "SendEccBurstCommand"),
-      ReadLicCommand(window, "ReadLicCommand"),
-      SendLicCommand(window, "SendLicCommand"),
-      SendLicBurstCommand(window, "SendLicBurstCommand"),
-      window_(window) {
+PiEccLicTab::PiEccLicTab(Window& owner) : window(owner) {
   CountryCombo.Click = [this] { ChooseCountry(); };
   CountryCombo.LostFocus = [this] { ShowCountry(); };
   CoverageCombo.Click = [this] { ChooseCoverage(); };
@@ -98,14 +73,14 @@ PiEccLicTab::PiEccLicTab(Window& window)
   PiText.LostFocus = [this] { TakePi(); };
   EccText.SetLocked(true);
 
-  ReadPiCommand.Click = [this] { RunRead(window_, [this] { ReadPi(); }); };
-  ReadEccCommand.Click = [this] { RunRead(window_, [this] { ReadEcc(); }); };
-  ReadLicCommand.Click = [this] { RunRead(window_, [this] { ReadLic(); }); };
+  ReadPiCommand.Click = [this] { RunRead(window, [this] { ReadPi(); }); };
+  ReadEccCommand.Click = [this] { RunRead(window, [this] { ReadEcc(); }); };
+  ReadLicCommand.Click = [this] { RunRead(window, [this] { ReadLic(); }); };
 
   const auto send = [this](Button& once, Button& burst, void (ConfigData::*operation)()) {
     const auto work = [operation] { (configData->*operation)(); };
-    once.Click = [this, work] { RunSend(window_, work); };
-    burst.Click = [this, work] { RunBurst(window_, configData->Burst(), work); };
+    once.Click = [this, work] { RunSend(window, work); };
+    burst.Click = [this, work] { RunBurst(window, configData->Burst(), work); };
   };
   send(SendPiCommand, SendPiBurstCommand, &ConfigData::SetPiRds);
   send(SendEccCommand, SendEccBurstCommand, &ConfigData::SetEccRds);

@@ -12,7 +12,7 @@ namespace corvalis {
 /// The station's identity: PI with its three parts, ECC and LIC.
 class PiEccLicTab {
  public:
-  explicit PiEccLicTab(Window& window);
+  explicit PiEccLicTab(Window& owner);
 
   /// Takes the captions from the present language.
   void InitCaptions();
@@ -20,16 +20,31 @@ class PiEccLicTab {
   /// want it, and shows the record.
   void Open();
 
-  Label CountryLabel, CoverageLabel, IDNumberLabel, PiLabel, EccLabel, LicLabel, CountryListLabel;
-  ListBox CountryCombo, CoverageCombo;
-  TextBox IDNumberText;
-  Spinner VScroll3;
-  TextBox PiText, EccText;
-  ListBox LicCombo;
-  ListBox CountryList;
-  Button ReadPiCommand, SendPiCommand, SendPiBurstCommand;
-  Button ReadEccCommand, SendEccCommand, SendEccBurstCommand;
-  Button ReadLicCommand, SendLicCommand, SendLicBurstCommand;
+  Window& window;  ///< the screen's
+  Label CountryLabel{window, "CountryLabel"};
+  Label CoverageLabel{window, "CoverageLabel"};
+  Label IDNumberLabel{window, "IDNumberLabel"};
+  Label PiLabel{window, "PiLabel"};
+  Label EccLabel{window, "EccLabel"};
+  Label LicLabel{window, "LicLabel"};
+  Label CountryListLabel{window, "CountryListLabel"};
+  ListBox CountryCombo{window, "CountryCombo"};
+  ListBox CoverageCombo{window, "CoverageCombo"};
+  TextBox IDNumberText{window, "IDNumberText"};
+  Spinner VScroll3{window, "VScroll3"};
+  TextBox PiText{window, "PiText"};
+  TextBox EccText{window, "EccText"};
+  ListBox LicCombo{window, "LicCombo"};
+  ListBox CountryList{window, "CountryList"};
+  Button ReadPiCommand{window, "ReadPiCommand"};
+  Button SendPiCommand{window, "SendPiCommand"};
+  Button SendPiBurstCommand{window, "SendPiBurstCommand"};
+  Button ReadEccCommand{window, "ReadEccCommand"};
+  Button SendEccCommand{window, "SendEccCommand"};
+  Button SendEccBurstCommand{window, "SendEccBurstCommand"};
+  Button ReadLicCommand{window, "ReadLicCommand"};
+  Button SendLicCommand{window, "SendLicCommand"};
+  Button SendLicBurstCommand{window, "SendLicBurstCommand"};
 
  private:
   void ChooseCountry();
@@ -54,8 +69,6 @@ class PiEccLicTab {
   void ReadPi();
   void ReadEcc();
   void ReadLic();
-
-  Window& window_;
 };
 
 }  // namespace corvalis

@@ -11,21 +11,7 @@
 
 namespace corvalis {
 
-TaPtyMsForm::TaPtyMsForm(Window& main_menu)
-    : window(this, "TaPtyMsForm"),
-      TaLabel(window, "TaLabel"),
-      PtyLabel(window, "PtyLabel"),
-      MsLabel(window, "MsLabel"),
-      Combo1(window, "Combo1"),
-      Command1(window, "Command1"),
-      Command2(window, "Command2"),
-      Command6(window, "Command6"),
-      Command8(window, "Command8"),
-      Check1(window, "Check1"),
-      Check2(window, "Check2"),
-      Check3(window, "Check3"),
-      Check4(window, "Check4"),
-      main_menu_(main_menu) {
+TaPtyMsForm::TaPtyMsForm(Window& main_menu) : main_menu_(main_menu) {
   window.SetCaption("TA - PTY - MS");
   window.Unloading = [this] {
     if (pty_pending_) StorePty();

@@ -18,15 +18,19 @@ class TaPtyMsForm {
   /// Opens the screen.
   void Load();
 
-  Window window;
-  Label TaLabel, PtyLabel, MsLabel;
-  ComboBox Combo1;          ///< the programme type; its line is the code
-  Button Command1;          ///< send PTY
-  Button Command2;          ///< toggle TA and send it
-  Button Command6;          ///< toggle music and speech and send it
-  Button Command8;          ///< read all three
-  CheckBox Check1, Check2;  ///< indicators: music; speech
-  CheckBox Check3, Check4;  ///< indicators: TA on; TA off
+  Window window{this, "TaPtyMsForm"};
+  Label TaLabel{window, "TaLabel"};
+  Label PtyLabel{window, "PtyLabel"};
+  Label MsLabel{window, "MsLabel"};
+  ComboBox Combo1{window, "Combo1"};    ///< the programme type; its line is the code
+  Button Command1{window, "Command1"};  ///< send PTY
+  Button Command2{window, "Command2"};  ///< toggle TA and send it
+  Button Command6{window, "Command6"};  ///< toggle music and speech and send it
+  Button Command8{window, "Command8"};  ///< read all three
+  CheckBox Check1{window, "Check1"};    ///< indicator: music
+  CheckBox Check2{window, "Check2"};    ///< indicator: speech
+  CheckBox Check3{window, "Check3"};    ///< indicator: TA on
+  CheckBox Check4{window, "Check4"};    ///< indicator: TA off
 
  private:
   void InitCaptions();

@@ -29,21 +29,7 @@ void Show(CheckBox& true_box, CheckBox& false_box, bool value) {
 
 }  // namespace
 
-TpDiTab::TpDiTab(Window& window)
-    : Check1(window, "Check1"),
-      Check10(window, "Check10"),
-      Check2(window, "Check2"),
-      Check3(window, "Check3"),
-      Check4(window, "Check4"),
-      Check5(window, "Check5"),
-      Check6(window, "Check6"),
-      Check7(window, "Check7"),
-      Check8(window, "Check8"),
-      Check9(window, "Check9"),
-      Command3(window, "Command3"),
-      Command4(window, "Command4"),
-      Command5(window, "Command5"),
-      window_(window) {
+TpDiTab::TpDiTab(Window& owner) : window(owner) {
   Pair(Check1, Check10, &ConfigData::SetTp);
   Pair(Check2, Check3, &ConfigData::SetMono);
   Pair(Check4, Check5, &ConfigData::SetArtificialHead);
@@ -51,9 +37,9 @@ TpDiTab::TpDiTab(Window& window)
   Pair(Check8, Check9, &ConfigData::SetStaticPty);
 
   // The read keeps the address rule too, though it is out of sight where the rule would bite.
-  Command3.Click = [this] { RunSend(window_, [this] { Read(); }); };
-  Command4.Click = [this] { RunSend(window_, Send); };
-  Command5.Click = [this] { RunSend(window_, SendBurst); };
+  Command3.Click = [this] { RunSend(window, [this] { Read(); }); };
+  Command4.Click = [this] { RunSend(window, Send); };
+  Command5.Click = [this] { RunSend(window, SendBurst); };
 }
 
 void TpDiTab::InitCaptions() {
