@@ -33,18 +33,18 @@ struct ListRules {
 
 /// The list that the buttons are about. What is empty isn't done. Items are counted from 0.
 struct ListItems {
-  std::function<int()> count;
+  std::function<int()> count = {};
   /// What reading one and sending one are about; none is allowed, and the transfer screen shows all
   /// the same. Empty: the grid's current row.
-  std::function<std::vector<int>()> selected;
-  std::function<void(int item)> read;
-  std::function<void(int item)> send;
+  std::function<std::vector<int>()> selected = {};
+  std::function<void(int item)> read = {};
+  std::function<void(int item)> send = {};
   /// An item has been read without an error; in a grid its row shows it by itself.
-  std::function<void(int item)> show;
+  std::function<void(int item)> show = {};
   /// Before what is sent is sent, once for a burst.
-  std::function<void()> prepare;
+  std::function<void()> prepare = {};
   /// After a run, whatever it left: the screen shows the list.
-  std::function<void()> refresh;
+  std::function<void()> refresh = {};
   /// The grid that the items are the rows of; null for none.
   Grid* grid = nullptr;
 };
