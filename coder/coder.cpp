@@ -36,10 +36,12 @@ Bytes Joined(const std::vector<Bytes>& parts) {
   return all;
 }
 
-Bytes Factory(const Command& command) {
-  Bytes body(command.factory.begin(), command.factory.end());
-  body.resize(command.body_bytes, ' ');
-  return body;
+Bytes Digits(int number, std::size_t digits) {
+  Bytes text(digits);
+  for (; digits-- > 0; number /= 16) {
+    text[digits] = static_cast<std::uint8_t>("0123456789ABCDEF"[number % 16]);
+  }
+  return text;
 }
 
 // The bytes up to the next that could begin something.
@@ -51,16 +53,9 @@ Bytes GarbageAtFront(std::span<const std::uint8_t> bytes) {
 
 }  // namespace
 
-Coder::Coder(std::string id, bool open) : id_(std::move(id)), open_(open) {
+Coder::Coder(std::string id, bool open, const Counts& counts)
+    : id_(std::move(id)), open_(open), counts_(counts) {
   id_.resize(kIdLength, ' ');
-  for (const Command& command : Commands()) {
-    if (command.code == kAddress) continue;
-    memory_[command.code].assign(static_cast<std::size_t>(command.last_index) + 1,
-                                 Factory(command));
-  }
-  // Group 0A carries the basics of every station, so a Coder leaves the factory sending it.
-  constexpr std::string_view kOnOnce = "0101";
-  memory_[kEnable].front().assign(kOnOnce.begin(), kOnOnce.end());
 }
 
 Bytes Coder::Take(std::span<const std::uint8_t> bytes) { return Joined(TakeApart(bytes)); }
@@ -84,19 +79,39 @@ bool Coder::Addressed() const { return addressed_; }
 
 const std::string& Coder::Id() const { return id_; }
 
-std::optional<Bytes> Coder::Item(std::uint8_t command, std::uint8_t index) const {
-  const auto items = memory_.find(command);
-  if (items == memory_.end() || index >= items->second.size()) return std::nullopt;
-  return items->second[index];
+const Counts& Coder::Sizes() const { return counts_; }
+
+void Coder::SetSizes(const Counts& counts) {
+  counts_ = counts;
+  std::erase_if(memory_, [&](const auto& item) {
+    return FindItem(item.first.first, item.first.second, counts) == nullptr;
+  });
 }
 
-bool Coder::SetItem(std::uint8_t command, std::uint8_t index, std::span<const std::uint8_t> body) {
-  const auto items = memory_.find(command);
-  if (items == memory_.end() || index >= items->second.size()) return false;
-  Bytes& item = items->second[index];
-  if (body.size() != item.size()) return false;
-  item.assign(body.begin(), body.end());
+std::optional<Bytes> Coder::Item(std::uint8_t code, int number) const {
+  const Command* command = FindItem(code, number, counts_);
+  if (command == nullptr || code == kAddress) return std::nullopt;
+  if (command->tells != nullptr) return Digits(counts_.*command->tells, command->body_bytes);
+  if (command->part_of != 0) return Bytes{(*Item(command->part_of, number))[command->part_at]};
+  const auto item = memory_.find({code, number});
+  return item == memory_.end() ? command->Factory(number) : item->second;
+}
+
+bool Coder::SetItem(std::uint8_t code, int number, std::span<const std::uint8_t> body) {
+  const Command* command = FindItem(code, number, counts_);
+  if (command == nullptr || code == kAddress || !command->writable) return false;
+  if (body.size() != command->body_bytes) return false;
+  if (command->part_of != 0) {
+    Bytes whole = *Item(command->part_of, number);
+    whole[command->part_at] = body.front();
+    return SetItem(command->part_of, number, whole);
+  }
+  memory_[{code, number}].assign(body.begin(), body.end());
   return true;
+}
+
+bool Coder::Written(std::uint8_t code, int number) const {
+  return memory_.contains({code, number});
 }
 
 std::vector<Bytes> Coder::Digest(bool pause) {
@@ -124,14 +139,15 @@ std::vector<Bytes> Coder::Digest(bool pause) {
     const bool whole = frame.state == Delimited::State::kWhole;
     if (whole && frame.error == 0) {
       hunting_ = false;
-      answers.push_back(Execute(std::move(received), frame.read));
+      answers.push_back(Execute(*frame.command, std::move(received), frame.read));
       at += frame.length;
     } else if (hunting_) {
       ++at;
     } else {
       answers.push_back(Refuse(frame.error, std::move(received)));
-      // What could not be delimited is searched again from its second byte.
-      hunting_ = !whole;
+      // What could not be delimited is searched again from its second byte. What a pause has cut
+      // short is one thing, whatever it looks like.
+      hunting_ = pause || !whole;
       at += whole ? frame.length : 1;
     }
   }
@@ -139,53 +155,51 @@ std::vector<Bytes> Coder::Digest(bool pause) {
   return answers;
 }
 
-Bytes Coder::Execute(Bytes frame, bool read) {
-  int error = Refused(frame, read);
-  if (error == 0 && !read) error = Store(frame);
+Bytes Coder::Execute(const Command& command, Bytes frame, bool read) {
+  const std::uint8_t index = frame[kIndexOffset];
+  Bytes body = BodyOf(frame);
+  int error = Refused(command, index, body, read);
+  if (error == 0 && command.code == kAddress) error = TakeAddress(index == kNewIdentity, body);
   if (error != 0) return Refuse(error, std::move(frame));
 
+  const int number = *command.Number(index, body);
   Bytes answer = {kAck};
-  Bytes body;
   if (read) {
-    const std::uint8_t command = frame[kCommandOffset];
-    const std::uint8_t index = frame[kIndexOffset];
-    body = memory_[command][index];
-    const Bytes answer_frame = FrameOf(command, index, body);
+    body = *Item(command.code, number);
+    // The end of an in-house page is answered as it is written, with the marker 1.
+    const std::uint8_t marked = command.Marked() ? 1 : index;
+    const Bytes answer_frame = FrameOf(command.code, marked, body);
     answer.insert(answer.end(), answer_frame.begin(), answer_frame.end());
+  } else {
+    SetItem(command.code, number, body);
   }
-  Report({read ? Event::Kind::kRead : Event::Kind::kWrite, std::move(frame), 0, std::move(body)});
+  Report({read ? Event::Kind::kRead : Event::Kind::kWrite, std::move(frame), 0, &command, number,
+          std::move(body)});
   return answer;
 }
 
 // The error number for a good frame that the Coder does not carry out, 0 if it does.
-int Coder::Refused(const Bytes& frame, bool read) const {
-  const Command& command = *FindCommand(frame[kCommandOffset]);
-  const int index = frame[kIndexOffset];
-  const bool may_come_first = command.code == kAddress && index != kNewIdentity;
+int Coder::Refused(const Command& command, std::uint8_t index, const Bytes& body, bool read) const {
+  const bool may_come_first =
+      read ? command.tells != nullptr : command.code == kAddress && index != kNewIdentity;
   if (!addressed_ && !open_ && !may_come_first) return kNotAddressed;
   if (read && !command.readable) return kReadNotAllowed;
   if (!read && !command.writable) return kWriteNotAllowed;
-  if (index > command.last_index) return kIndexTooBig;
-  if (!read && !command.Accepts(BodyOf(frame))) return kWriteNotAllowed;
-  return 0;
+  const auto number = command.Number(index, body);
+  if (number && !command.Holds(*number, counts_)) return kIndexTooBig;
+  return command.Judge(body, read, counts_);
 }
 
-// Carries out a write. The error number of an address that is not the Coder's own, else 0.
-int Coder::Store(const Bytes& frame) {
-  const std::uint8_t command = frame[kCommandOffset];
-  const Bytes body = BodyOf(frame);
-  if (command != kAddress) {
-    memory_[command][frame[kIndexOffset]] = body;
-    return 0;
-  }
+// An `error` for an address that is not the Coder's own, else 0.
+int Coder::TakeAddress(bool is_new, const Bytes& body) {
   const std::string id(body.begin(), body.end());
-  if (frame[kIndexOffset] == kNewIdentity) id_ = id;
+  if (is_new) id_ = id;
   addressed_ = id == id_;
   return addressed_ ? 0 : kAddressWrong;
 }
 
 Bytes Coder::Refuse(int error, Bytes received) {
-  Report({Event::Kind::kRefused, std::move(received), error, {}});
+  Report({Event::Kind::kRefused, std::move(received), error});
   Bytes answer = FrameOf(0, static_cast<std::uint8_t>(error), {});
   answer.insert(answer.begin(), kNak);
   return answer;

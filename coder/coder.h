@@ -6,7 +6,10 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "coder/commands.h"
 
 namespace corvalis::coder {
 
@@ -16,9 +19,11 @@ using Bytes = std::vector<std::uint8_t>;
 struct Event {
   enum class Kind { kEnq, kWrite, kRead, kRefused };
   Kind kind = Kind::kEnq;
-  Bytes received = {};  ///< the frame, or what was delimited of it
-  int error = 0;        ///< 1 to 11 for `kRefused`, else 0
-  Bytes answered = {};  ///< the body of the answer for `kRead`, else empty
+  Bytes received = {};               ///< the frame, or what was delimited of it
+  int error = 0;                     ///< 1 to 11 for `kRefused`, else 0
+  const Command* command = nullptr;  ///< for `kWrite` and `kRead`
+  int number = 0;                    ///< of the item, for `kWrite` and `kRead`
+  Bytes body = {};                   ///< as written, or of the answer
 };
 
 /// A simulated RDS encoder: delimits and checks frames, keeps every item it is sent in a memory,
@@ -26,7 +31,11 @@ struct Event {
 ///
 /// An ENQ is acknowledged and drops the addressing. A frame is judged in this order, the first that
 /// fits deciding: start (9), command (3), length and end (6), checksum (1), addressing (8), may it
-/// be read (7) or written (10), index (2), body (10), address (11).
+/// be read (7) or written (10), number of the item (2), body (10, of a request 7), address (11).
+/// Counts are answered without addressing.
+///
+/// An item that was never written is read as it left the factory. An other network's TA is a part
+/// of its list.
 ///
 /// A run of garbage, and a frame that could not be delimited, is refused once; from then on bytes
 /// are dropped silently until an ENQ, a good frame, or a pause of the line.
@@ -36,7 +45,7 @@ class Coder {
  public:
   /// `id` is the Coder ID, up to 5 characters, blanks are added on the right. An `open` Coder
   /// takes commands without having been addressed.
-  explicit Coder(std::string id = "?????", bool open = false);
+  explicit Coder(std::string id = "?????", bool open = false, const Counts& counts = {});
 
   /// Takes bytes from the line, in any portions, and returns what the Coder answers to them.
   [[nodiscard]] Bytes Take(std::span<const std::uint8_t> bytes);
@@ -59,12 +68,23 @@ class Coder {
   /// The Coder ID, 5 characters.
   [[nodiscard]] const std::string& Id() const;
 
-  /// The body bytes held for an item, as on the line; nullopt for an unknown command or index, and
-  /// for Address, which is no item.
-  [[nodiscard]] std::optional<Bytes> Item(std::uint8_t command, std::uint8_t index = 0) const;
+  /// How many items there are of each list.
+  [[nodiscard]] const Counts& Sizes() const;
+  /// Makes it a Coder of other sizes. Items beyond them are forgotten.
+  void SetSizes(const Counts& counts);
+
+  /// The body bytes held for an item, as on the line; nullopt for an unknown command or number, and
+  /// for Address, which is no item. The number is the index byte, and
+  ///
+  ///     PIN        its 12 bits
+  ///     PSN page   page * 256 + row
+  ///     IH         page * 256 + block, the blocks being 0 to 15 and the end frame 16
+  [[nodiscard]] std::optional<Bytes> Item(std::uint8_t command, int number = 0) const;
   /// Puts an item into the memory as if it had been sent, whatever its characters. False if the
-  /// command is unknown, the index too big or the body's length wrong.
-  bool SetItem(std::uint8_t command, std::uint8_t index, std::span<const std::uint8_t> body);
+  /// command is unknown or only read, the number too big or the body's length wrong.
+  bool SetItem(std::uint8_t command, int number, std::span<const std::uint8_t> body);
+  /// True if the item has been put into the memory since the Coder left the factory.
+  [[nodiscard]] bool Written(std::uint8_t command, int number = 0) const;
 
   /// Called for each ENQ and each frame, taken or refused, before its answer leaves. It may look
   /// at the Coder and must not give it bytes.
@@ -72,9 +92,10 @@ class Coder {
 
  private:
   std::vector<Bytes> Digest(bool pause);
-  [[nodiscard]] Bytes Execute(Bytes frame, bool read);
-  [[nodiscard]] int Refused(const Bytes& frame, bool read) const;
-  [[nodiscard]] int Store(const Bytes& frame);
+  [[nodiscard]] Bytes Execute(const Command& command, Bytes frame, bool read);
+  [[nodiscard]] int Refused(const Command& command, std::uint8_t index, const Bytes& body,
+                            bool read) const;
+  [[nodiscard]] int TakeAddress(bool is_new, const Bytes& body);
   [[nodiscard]] Bytes Refuse(int error, Bytes received);
   void Report(const Event& event) const;
 
@@ -83,7 +104,8 @@ class Coder {
   bool addressed_ = false;
   bool hunting_ = false;  // garbage has been refused; its rest is dropped
   Bytes held_;            // taken from the line and not yet judged
-  std::map<std::uint8_t, std::vector<Bytes>> memory_;  // by command, then by index
+  Counts counts_;
+  std::map<std::pair<std::uint8_t, int>, Bytes> memory_;  // by command and number, if written
 };
 
 }  // namespace corvalis::coder

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "coder/commands.h"
 #include "coder/errors.h"
 #include "link/frame.h"
 
@@ -35,27 +34,30 @@ Delimited Proven(std::span<const std::uint8_t> bytes, bool hopeless, int error) 
 
 Delimited Delimit(std::span<const std::uint8_t> bytes, bool pause) {
   if (bytes.size() <= kCommandOffset) return Proven(bytes, pause, kByteCountWrong);
-  const Command* command = FindCommand(bytes[kCommandOffset]);
-  if (command == nullptr) {
+  const Command* longest = nullptr;
+  for (const Command& command : Commands()) {
+    if (command.code != bytes[kCommandOffset]) continue;
+    if (longest == nullptr) longest = &command;
+    const std::size_t length = kOverhead + command.request.size();
+    if (bytes.size() < length || bytes[length - 2] != kEnd) continue;
+    if (FrameChecksum(bytes.first(length)) == 0) {
+      const bool read = !command.Marked() || bytes[kIndexOffset] == 0;
+      return {State::kWhole, length, 0, &command, read};
+    }
+    if (pause && bytes.size() == length) return {State::kWhole, length, kChecksumWrong};
+  }
+  if (longest == nullptr) {
     return Proven(bytes, pause || bytes.size() >= kLongestFrame, kCodeUnknown);
   }
 
-  const std::size_t request = kOverhead + command->request_bytes;
-  if (bytes.size() >= request && bytes[request - 2] == kEnd) {
-    const bool good = FrameChecksum(bytes.first(request)) == 0;
-    // A raw body may begin with an end byte; then only the checksum, or the silence, tells.
-    if (good || command->EndTellsRequest() || (pause && bytes.size() == request)) {
-      return {State::kWhole, request, good ? 0 : kChecksumWrong, true};
-    }
-  }
-
-  const std::size_t length = kOverhead + command->body_bytes;
+  const std::size_t length = kOverhead + longest->body_bytes;
   if (bytes.size() < length) {
     if (!pause) return {};
     return Proven(bytes, true, kByteCountWrong);
   }
   if (bytes[length - 2] != kEnd) return {State::kBroken, length, kByteCountWrong};
-  return {State::kWhole, length, FrameChecksum(bytes.first(length)) == 0 ? 0 : kChecksumWrong};
+  const bool good = FrameChecksum(bytes.first(length)) == 0;
+  return {State::kWhole, length, good ? 0 : kChecksumWrong, longest};
 }
 
 }  // namespace corvalis::coder

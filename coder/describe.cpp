@@ -1,11 +1,10 @@
 #include "coder/describe.h"
 
 #include <array>
-#include <charconv>
 #include <string_view>
 
 #include "coder/commands.h"
-#include "coder/errors.h"
+#include "coder/meaning.h"
 #include "link/frame.h"
 
 namespace corvalis::coder {
@@ -40,64 +39,26 @@ std::string Printable(const Bytes& bytes) {
   return text;
 }
 
-int Number(std::string_view digits, int base) {
-  int value = -1;
-  std::from_chars(digits.data(), digits.data() + digits.size(), value, base);
-  return value;
-}
-
-std::string Decimal(std::string_view hex) { return std::to_string(Number(hex, kSixteen)); }
-
-std::string OnOff(char flag) { return flag == '1' ? "on" : "off"; }
-
-std::string ClockWords(const std::string& t) {
-  const int offset = Number(t.substr(15, 2), 10) - 24;
-  return t.substr(0, 2) + "-" + t.substr(2, 2) + "-" + t.substr(4, 2) + " weekday " + t[6] + ", " +
-         t.substr(7, 2) + ":" + t.substr(9, 2) + ", date on PSN " + t.substr(11, 2) +
-         ", hour on PSN " + t.substr(13, 2) + ", offset " + (offset < 0 ? "" : "+") +
-         std::to_string(offset) + " half hours";
-}
-
-std::string DiWords(const std::string& text) {
-  const int di = Number(text, kSixteen);
-  return std::string((di & 1) != 0 ? "stereo" : "mono") +
-         ((di & 2) != 0 ? ", artificial head" : "") + ((di & 4) != 0 ? ", compressed" : "") +
-         ((di & 8) != 0 ? ", dynamic PTY" : ", static PTY");
-}
-
-std::string GroupName(int index) {
-  return std::to_string(index % kSixteen) + (index < kSixteen ? "A" : "B");
-}
-
-// What a body says, or nothing where the body speaks for itself.
-std::string Meaning(std::uint8_t command, int index, const std::string& text) {
-  switch (command) {
-    case kPi:
-      return std::string("country ") + text[0] + ", coverage " + text[1] + ", programme " +
-             text.substr(2);
-    case kTp:
-    case kTa:
-      return OnOff(text[0]);
-    case kMs:
-      return text == "1" ? "music" : "speech";
-    case kDi:
-      return DiWords(text);
-    case kEnable:
-      return "group " + GroupName(index) + " " + OnOff(text[1]) + ", repetitions " +
-             Decimal(text.substr(2));
-    case kPty:
-      return "type " + Decimal(text);
-    case kCt:
-      return ClockWords(text);
-    case kTdc:
-      return OnOff(text[0]);
-    case kLi:
-      return "linkage " + OnOff(text[0]) + ", extended generic " + OnOff(text[1]) +
-             ", international " + OnOff(text[2]) + ", set number " + text.substr(3);
-    default:
-      return {};
+// An item's place in its list, behind its name: " 10", " 2 row 10"; nothing for a single value.
+std::string Place(const Command& command, int number, std::string (*digits)(int)) {
+  std::string text;
+  if (command.pages != nullptr) {
+    text = " " + digits(number / kPageStep);
+    if (command.Marked()) return text;
+    text += command.code == kIh ? " block" : " row";
+  } else if (!command.IsList()) {
+    return text;
   }
+  return text + " " + digits(number % kPageStep);
 }
+
+std::string HexPlace(int value) {
+  std::string text = Hex2(static_cast<unsigned>(value));
+  if (value > 0xFF) text.insert(0, 1, Hex2(static_cast<unsigned>(value) >> 8)[1]);
+  return text;
+}
+
+std::string DecimalPlace(int value) { return std::to_string(value); }
 
 std::string InBrackets(const std::string& words) {
   return words.empty() ? words : " (" + words + ")";
@@ -123,32 +84,37 @@ std::string Describe(const Event& event) {
     line += kErrorWords.at(static_cast<std::size_t>(event.error));
     return line + "): " + HexText(event.received);
   }
-  const Command& command = *FindCommand(event.received.at(kCommandOffset));
-  const int index = event.received[kIndexOffset];
-  const bool read = event.kind == Event::Kind::kRead;
-  const Bytes body =
-      read ? event.answered : Bytes(event.received.begin() + kBodyOffset, event.received.end() - 2);
-  const std::string text = Printable(body);
+  const Command& command = *event.command;
+  const std::string text = Printable(event.body);
   if (command.code == kAddress) {
-    return std::string(index == 0 ? "Address" : "Address, new identity") + " <- \"" + text + "\"";
+    return std::string(event.number == 0 ? "Address" : "Address, new identity") + " <- \"" + text +
+           "\"";
   }
   std::string line(command.name);
-  if (command.last_index > 0) line.append(" ").append(std::to_string(index));
-  line += read ? " read -> " : " <- ";
+  line += Place(command, event.number, DecimalPlace);
+  line += event.kind == Event::Kind::kRead ? " read -> " : " <- ";
   line += text;
-  return line + InBrackets(Meaning(command.code, index, text));
+  return line + InBrackets(Meaning(command, event.number, text));
 }
 
 std::string Dump(const Coder& coder) {
   std::string all;
+  const auto add = [&](const Command& command, int number) {
+    const auto body = coder.Item(command.code, number);
+    if (!body || (command.IsList() && !coder.Written(command.code, number))) return;
+    const std::string text = Printable(*body);
+    std::string place = Place(command, number, HexPlace);
+    if (place.empty()) place = " 00";
+    all += std::string(command.name) + place + ": " + HexText(*body) +
+           InBrackets(Meaning(command, number, text)) + "  \"" + text + "\"\n";
+  };
   for (const Command& command : Commands()) {
-    for (int index = 0; index <= command.last_index; ++index) {
-      const auto body = coder.Item(command.code, static_cast<std::uint8_t>(index));
-      if (!body) continue;
-      const std::string text = Printable(*body);
-      all += std::string(command.name) + " " + Hex2(static_cast<unsigned>(index)) + ": " +
-             HexText(*body) + InBrackets(Meaning(command.code, index, text)) + "  \"" + text +
-             "\"\n";
+    const int pages = command.pages == nullptr ? 1 : coder.Sizes().*command.pages;
+    for (int page = 0; page < pages; ++page) {
+      for (int place = 0; place < kPageStep; ++place) {
+        const int number = page * kPageStep + place;
+        if (command.Holds(number, coder.Sizes())) add(command, number);
+      }
     }
   }
   return all;

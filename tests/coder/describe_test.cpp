@@ -39,6 +39,7 @@ TEST(Describe, PutsWhatTheCoderTookIntoWords) {
   for (const auto& c : cases) {
     lines.clear();
     static_cast<void>(coder.Take(c.sent));
+    static_cast<void>(coder.LinePause());
     EXPECT_EQ(lines, std::vector<std::string>{c.words});
   }
 }
