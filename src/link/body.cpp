@@ -1,7 +1,6 @@
 #include "link/body.h"
 
 #include <stdexcept>
-#include <string>
 
 #include "config/conversions.h"
 
@@ -41,19 +40,28 @@ BodyWriter& BodyWriter::Raw(std::span<const std::uint8_t> bytes) {
   return *this;
 }
 
+BodyWriter& BodyWriter::Text(std::string_view text, int width) {
+  for (const char c : Padded(text, static_cast<std::size_t>(width))) {
+    Byte(static_cast<std::uint8_t>(c));
+  }
+  return *this;
+}
+
 BodyWriter& BodyWriter::Byte(std::uint8_t byte) {
   Take(rest_, 1).front() = byte;
   return *this;
 }
 
-std::int32_t BodyReader::Hex(int digits) {
-  const auto bytes = Raw(digits);
-  return HexToLong(std::string(bytes.begin(), bytes.end()));
-}
+std::int32_t BodyReader::Hex(int digits) { return HexToLong(Text(digits)); }
 
 std::int32_t BodyReader::Dec2() {
   const std::int32_t tens = Dec1();
   return tens * 10 + Dec1();
+}
+
+std::string BodyReader::Text(int bytes) {
+  const auto raw = Raw(bytes);
+  return {raw.begin(), raw.end()};
 }
 
 std::span<const std::uint8_t> BodyReader::Raw(int bytes) {

@@ -2,6 +2,8 @@
 
 #include <cstdint>
 #include <span>
+#include <string>
+#include <string_view>
 
 namespace corvalis {
 
@@ -21,6 +23,8 @@ class BodyWriter {
   /// Two decimal digits: 0x30 + value / 10, 0x30 + value mod 10.
   BodyWriter& Dec2(std::int32_t value);
   BodyWriter& Raw(std::span<const std::uint8_t> bytes);
+  /// The bytes of a text, cut, or filled with blanks, to `width`.
+  BodyWriter& Text(std::string_view text, int width);
   BodyWriter& Byte(std::uint8_t byte);
 
  private:
@@ -40,6 +44,7 @@ class BodyReader {
   std::int32_t Dec1() { return Byte() - '0'; }
   std::int32_t Dec2();
   std::span<const std::uint8_t> Raw(int bytes);
+  std::string Text(int bytes);
   std::uint8_t Byte() { return Raw(1).front(); }
 
  private:

@@ -21,7 +21,6 @@ namespace {
 
 constexpr double kAnswerSeconds = 15;
 constexpr float kAbortSeconds = 0.2F;
-constexpr int kReadAttempts = 3;
 
 SerialPort* port = nullptr;
 std::optional<Queue> queue;
@@ -270,8 +269,12 @@ Frame Frame::Write(CommandCode code, std::uint8_t index) {
   return Frame(code, index, FrameSize(code));
 }
 
-Frame Frame::Request(CommandCode code, std::uint8_t index) {
-  return Frame(code, index, kFrameOverhead);
+Frame Frame::Write(CommandCode code, std::uint8_t index, std::size_t body_bytes) {
+  return Frame(code, index, kFrameOverhead + body_bytes);
+}
+
+Frame Frame::Request(CommandCode code, std::uint8_t index, std::size_t body_bytes) {
+  return Write(code, index, body_bytes);
 }
 
 std::span<std::uint8_t> Frame::Body() {
@@ -284,9 +287,10 @@ void WriteToCoder(Frame frame, std::string_view label) {
 }
 
 void ReadFromCoder(Frame request, std::size_t answer_size, std::string_view label,
-                   const std::function<void(std::span<const std::uint8_t> body)>& decode) {
+                   const std::function<void(std::span<const std::uint8_t> body)>& decode,
+                   int attempts) {
   std::vector<std::uint8_t> answer(answer_size);
-  for (int attempt = 0; attempt < kReadAttempts; ++attempt) {
+  for (int attempt = 0; attempt < attempts; ++attempt) {
     TransferFrame(request.Bytes());
     if (LinkError != kLinkOk) break;
     ReceiveFrame(answer);

@@ -74,12 +74,13 @@ void CheckFrame(std::span<const std::uint8_t> frame);
 /// addressed again afterwards.
 void SendEnq();
 
-/// A frame of a command, sized by the command table, with start, code, index and end in place. A
-/// read request has no body.
+/// A frame of a command, with start, code, index and end in place. A write frame has the size of
+/// the command table, or a body of that many bytes; most read requests have no body.
 class Frame {
  public:
   static Frame Write(CommandCode code, std::uint8_t index = 0);
-  static Frame Request(CommandCode code, std::uint8_t index = 0);
+  static Frame Write(CommandCode code, std::uint8_t index, std::size_t body_bytes);
+  static Frame Request(CommandCode code, std::uint8_t index = 0, std::size_t body_bytes = 0);
 
   [[nodiscard]] std::span<std::uint8_t> Bytes() { return bytes_; }
   /// The body's bytes, from offset 3 of the frame.
@@ -93,10 +94,14 @@ class Frame {
 /// The write pattern: one transfer; a failure is reported under `label` and stays in `LinkError`.
 void WriteToCoder(Frame frame, std::string_view label);
 
-/// The read pattern: the request, and an answer of the command's size, up to three times as long
-/// as only the answer is missing. `decode` gets the answer's body; on failure it isn't called, the
-/// failure is reported under `label` and stays in `LinkError`.
+/// How often a read asks as long as only the answer is missing.
+inline constexpr int kReadAttempts = 3;
+
+/// The read pattern: the request, and an answer of `answer_size` bytes, up to `attempts` times as
+/// long as only the answer is missing. `decode` gets the answer's body; on failure it isn't called,
+/// the failure is reported under `label` and stays in `LinkError`.
 void ReadFromCoder(Frame request, std::size_t answer_size, std::string_view label,
-                   const std::function<void(std::span<const std::uint8_t> body)>& decode);
+                   const std::function<void(std::span<const std::uint8_t> body)>& decode,
+                   int attempts = kReadAttempts);
 
 }  // namespace corvalis

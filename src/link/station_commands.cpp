@@ -1,67 +1,44 @@
 #include "link/station_commands.h"
 
 #include <algorithm>
-#include <functional>
 #include <string_view>
-#include <utility>
 
 #include "config/conversions.h"
-#include "link/body.h"
-#include "link/serial_management.h"
+#include "link/catalogue.h"
 
 namespace corvalis {
 
 namespace {
 
-using Writing = std::function<void(BodyWriter& body)>;
-using Reading = std::function<void(BodyReader& body)>;
-
 constexpr int kCtOffsetShift = 24;  // the offset travels shifted, so that it is never negative
 
-void Send(CommandCode code, std::uint8_t index, std::string_view label, const Writing& write) {
-  Frame frame = Frame::Write(code, index);
-  BodyWriter body(frame.Body());
-  write(body);
-  WriteToCoder(std::move(frame), label);
-}
-
-void Read(CommandCode code, std::uint8_t index, std::string_view label, const Reading& read) {
-  ReadFromCoder(Frame::Request(code, index), FrameSize(code), label,
-                [&read](std::span<const std::uint8_t> bytes) {
-                  BodyReader body(bytes);
-                  read(body);
-                });
-}
-
-std::int16_t Short(std::int32_t value) { return static_cast<std::int16_t>(value); }
-
 void SendByte(CommandCode code, std::string_view label, std::uint8_t value) {
-  Send(code, 0, label, [&](BodyWriter& body) { body.Hex(value, 2); });
+  SendItem(code, 0, label, [&](BodyWriter& body) { body.Hex(value, 2); });
 }
 
 void ReadByte(CommandCode code, std::string_view label, std::uint8_t& value) {
-  Read(code, 0, label,
-       [&](BodyReader& body) { value = Narrow<std::uint8_t>(body.Hex(2)).value_or(value); });
+  ReadItem(code, 0, label,
+           [&](BodyReader& body) { value = Narrow<std::uint8_t>(body.Hex(2)).value_or(value); });
 }
 
 void SendSwitch(CommandCode code, std::string_view label, bool on) {
-  Send(code, 0, label, [&](BodyWriter& body) { body.Flag(on); });
+  SendItem(code, 0, label, [&](BodyWriter& body) { body.Flag(on); });
 }
 
 // The on-air switches take any digit but 0 as true.
 void ReadSwitch(CommandCode code, std::string_view label, bool& on) {
-  Read(code, 0, label, [&](BodyReader& body) { on = body.Dec1() != 0; });
+  ReadItem(code, 0, label, [&](BodyReader& body) { on = body.Dec1() != 0; });
 }
 
 }  // namespace
 
 void SendPi(std::int16_t country, std::int16_t coverage, std::int16_t program_num) {
-  Send(CommandCode::kPi, 0, "PI",
-       [&](BodyWriter& body) { body.Hex(country, 1).Hex(coverage, 1).Hex(program_num, 2); });
+  SendItem(CommandCode::kPi, 0, "PI",
+           [&](BodyWriter& body) { body.Hex(country, 1).Hex(coverage, 1).Hex(program_num, 2); });
 }
 
 void ReadPi(std::int16_t& country, std::int16_t& coverage, std::int16_t& program_num) {
-  Read(CommandCode::kPi, 0, "PI", [&](BodyReader& body) {
+  ReadItem(CommandCode::kPi, 0, "PI", [&](BodyReader& body) {
     country = Short(body.Hex(1));
     coverage = Short(body.Hex(1));
     program_num = Short(body.Hex(2));
@@ -75,12 +52,12 @@ void SendLic(std::uint8_t lic) { SendByte(CommandCode::kLic, "LIC", lic); }
 void ReadLic(std::uint8_t& lic) { ReadByte(CommandCode::kLic, "LIC", lic); }
 
 void SendLi(bool la, bool egi, bool il, std::int16_t lsn) {
-  Send(CommandCode::kLi, 0, "LI",
-       [&](BodyWriter& body) { body.Flag(la).Flag(egi).Flag(il).Hex(lsn, 3); });
+  SendItem(CommandCode::kLi, 0, "LI",
+           [&](BodyWriter& body) { body.Flag(la).Flag(egi).Flag(il).Hex(lsn, 3); });
 }
 
 void ReadLi(bool& la, bool& egi, bool& il, std::int16_t& lsn) {
-  Read(CommandCode::kLi, 0, "LI", [&](BodyReader& body) {
+  ReadItem(CommandCode::kLi, 0, "LI", [&](BodyReader& body) {
     la = body.Flag();
     egi = body.Flag();
     il = body.Flag();
@@ -93,7 +70,7 @@ void SendCt(DateTime when, std::int16_t day_of_week, std::int16_t date_psn, std:
   const auto day = std::chrono::floor<std::chrono::days>(when);
   const std::chrono::year_month_day date{day};
   const std::chrono::hh_mm_ss time{when - day};
-  Send(CommandCode::kCt, 0, "CT", [&](BodyWriter& body) {
+  SendItem(CommandCode::kCt, 0, "CT", [&](BodyWriter& body) {
     body.Dec2(static_cast<int>(date.year()) % 100)
         .Dec2(static_cast<int>(static_cast<unsigned>(date.month())))
         .Dec2(static_cast<int>(static_cast<unsigned>(date.day())))
@@ -108,7 +85,7 @@ void SendCt(DateTime when, std::int16_t day_of_week, std::int16_t date_psn, std:
 
 void ReadCt(DateTime& when, std::int16_t& day_of_week, std::int16_t& date_psn,
             std::int16_t& hour_psn, std::int16_t& ct_offset) {
-  Read(CommandCode::kCt, 0, "CT", [&](BodyReader& body) {
+  ReadItem(CommandCode::kCt, 0, "CT", [&](BodyReader& body) {
     const int short_year = body.Dec2();
     const int month = body.Dec2();
     const int day = body.Dec2();
@@ -135,7 +112,7 @@ void ReadCt(DateTime& when, std::int16_t& day_of_week, std::int16_t& date_psn,
 
 void SendTp(bool tp) { SendSwitch(CommandCode::kTp, "TP", tp); }
 void ReadTp(bool& tp) {
-  Read(CommandCode::kTp, 0, "TP", [&](BodyReader& body) { tp = body.Flag(); });
+  ReadItem(CommandCode::kTp, 0, "TP", [&](BodyReader& body) { tp = body.Flag(); });
 }
 
 void SendTa(bool ta) { SendSwitch(CommandCode::kTa, "TA", ta); }
@@ -145,27 +122,27 @@ void SendMs(bool music) { SendSwitch(CommandCode::kMs, "MS", music); }
 void ReadMs(bool& music) { ReadSwitch(CommandCode::kMs, "MS", music); }
 
 void SendDi(std::int16_t di) {
-  Send(CommandCode::kDi, 0, "DI", [&](BodyWriter& body) { body.Hex(di & 15, 1); });
+  SendItem(CommandCode::kDi, 0, "DI", [&](BodyWriter& body) { body.Hex(di & 15, 1); });
 }
 void ReadDi(std::int16_t& di) {
-  Read(CommandCode::kDi, 0, "DI", [&](BodyReader& body) { di = Short(body.Hex(1)); });
+  ReadItem(CommandCode::kDi, 0, "DI", [&](BodyReader& body) { di = Short(body.Hex(1)); });
 }
 
 void SendPty(std::int16_t pty) {
-  Send(CommandCode::kPty, 0, "PTY",
-       [&](BodyWriter& body) { body.Hex(pty / 16, 1).Hex(pty % 16, 1); });
+  SendItem(CommandCode::kPty, 0, "PTY",
+           [&](BodyWriter& body) { body.Hex(pty / 16, 1).Hex(pty % 16, 1); });
 }
 void ReadPty(std::int16_t& pty) {
-  Read(CommandCode::kPty, 0, "PTY", [&](BodyReader& body) { pty = Short(body.Hex(2)); });
+  ReadItem(CommandCode::kPty, 0, "PTY", [&](BodyReader& body) { pty = Short(body.Hex(2)); });
 }
 
 void SendEnable(std::uint8_t group, bool active, std::int16_t repetitions) {
-  Send(CommandCode::kEnable, group, "Enable", [&](BodyWriter& body) {
+  SendItem(CommandCode::kEnable, group, "Enable", [&](BodyWriter& body) {
     body.Byte('0').Flag(active).Hex(repetitions / 16, 1).Hex(repetitions % 16, 1);
   });
 }
 void ReadEnable(std::uint8_t group, bool& active, std::int16_t& repetitions) {
-  Read(CommandCode::kEnable, group, "Enable", [&](BodyReader& body) {
+  ReadItem(CommandCode::kEnable, group, "Enable", [&](BodyReader& body) {
     body.Byte();
     active = body.Flag();
     repetitions = Short(body.Hex(2));
@@ -173,10 +150,11 @@ void ReadEnable(std::uint8_t group, bool& active, std::int16_t& repetitions) {
 }
 
 void SendTdc(std::uint8_t number, std::span<const std::uint8_t, kTdcPayload> payload, bool active) {
-  Send(CommandCode::kTdc, number, "TDC", [&](BodyWriter& body) { body.Flag(active).Raw(payload); });
+  SendItem(CommandCode::kTdc, number, "TDC",
+           [&](BodyWriter& body) { body.Flag(active).Raw(payload); });
 }
 void ReadTdc(std::uint8_t number, std::array<std::uint8_t, kTdcPayload>& payload, bool& active) {
-  Read(CommandCode::kTdc, number, "TDC", [&](BodyReader& body) {
+  ReadItem(CommandCode::kTdc, number, "TDC", [&](BodyReader& body) {
     active = body.Flag();
     const auto bytes = body.Raw(kTdcPayload);
     std::copy(bytes.begin(), bytes.end(), payload.begin());
