@@ -73,7 +73,8 @@ std::string HexToBits(std::string_view hex, std::int16_t width) {
 
 std::string PinCode(std::int16_t day, std::chrono::minutes time_of_day) {
   const auto minutes = static_cast<std::int32_t>(time_of_day.count());
-  return LongToHex(day * 2048 + minutes / 60 * 64 + minutes % 60, 4);
+  constexpr std::int32_t kBits = 0xFFFF;
+  return LongToHex((day * 2048 + minutes / 60 * 64 + minutes % 60) & kBits, 4);
 }
 
 bool IsWholeNumber(std::string_view text) { return ParseDecimal<std::int16_t>(text).has_value(); }

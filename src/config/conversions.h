@@ -31,7 +31,7 @@ namespace corvalis {
 [[nodiscard]] std::string HexToBits(std::string_view hex, std::int16_t width);
 
 /// The programme item number of a day (0 to 31) and a time: day, hour and minute in 5, 5 and 6
-/// bits, as four hexadecimal digits.
+/// bits, as four hexadecimal digits. Of a day outside that range only the low 5 bits are kept.
 [[nodiscard]] std::string PinCode(std::int16_t day, std::chrono::minutes time_of_day);
 
 /// True for a decimal integer of 16 bits, with or without a sign.
