@@ -1,6 +1,7 @@
 #include "platform/profile_document.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace corvalis {
@@ -9,14 +10,12 @@ namespace {
 
 constexpr std::string_view kByteOrderMark = "\xEF\xBB\xBF";
 
-std::string_view TrimFront(std::string_view text) {
-  const std::size_t start = text.find_first_not_of(" \t");
-  return start == std::string_view::npos ? std::string_view() : text.substr(start);
+std::string_view TrimBack(std::string_view text) {
+  return text.substr(0, text.find_last_not_of(" \t") + 1);
 }
 
 std::string_view Trim(std::string_view text) {
-  text = TrimFront(text);
-  return text.substr(0, text.find_last_not_of(" \t") + 1);
+  return TrimBack(text.substr(std::min(text.find_first_not_of(" \t"), text.size())));
 }
 
 void AppendFolded(std::string& to, std::string_view name) {
@@ -31,7 +30,8 @@ std::string FoldedSection(std::string_view section) {
   return folded;
 }
 
-// No name in a text holds a line feed, so it can separate the two.
+/// The index of the key of a line or of a name. No name in a text holds a line feed, so it can
+/// separate the two.
 std::string FoldedKey(std::string_view section, std::string_view key) {
   std::string folded;
   folded.reserve(section.size() + key.size() + 1);
@@ -41,119 +41,127 @@ std::string FoldedKey(std::string_view section, std::string_view key) {
   return folded;
 }
 
+std::string_view NameOf(std::string_view line) { return line.substr(0, line.find('=')); }
+
 std::optional<std::string_view> SectionName(std::string_view line) {
-  line = TrimFront(line);
-  const std::size_t end = line.find(']');
+  line = Trim(line);
+  const std::size_t end = line.rfind(']');
   if (line.empty() || line.front() != '[' || end == std::string_view::npos) return std::nullopt;
   return line.substr(1, end - 1);
 }
 
-bool IsComment(std::string_view line) { return TrimFront(line).starts_with(';'); }
+/// The first line of `text` without its end.
+std::string_view FirstLine(std::string_view text) {
+  text = text.substr(0, text.find('\n'));
+  return text.substr(0, text.find_last_not_of('\r') + 1);
+}
+
+std::string_view WithoutQuotes(std::string_view value) {
+  const bool quoted = value.size() >= 2 && value.front() == value.back() &&
+                      (value.front() == '"' || value.front() == '\'');
+  return quoted ? value.substr(1, value.size() - 2) : value;
+}
 
 }  // namespace
 
-void ProfileDocument::Parse(std::string text) {
-  text_ = std::move(text);
-  values_.clear();
+void ProfileDocument::Parse(std::string_view text) {
+  pieces_.clear();
   keys_.clear();
   sections_.clear();
-  const std::string_view all = text_;
-  std::string_view section;
-  std::size_t* insert_at = nullptr;  // null outside the sections that count
-  for (std::size_t at = all.starts_with(kByteOrderMark) ? kByteOrderMark.size() : 0;
-       at < all.size();) {
-    const std::size_t feed = std::min(all.find('\n', at), all.size());
-    const std::size_t next = std::min(feed + 1, all.size());
-    std::string_view line = all.substr(at, feed - at);
-    line = line.substr(0, line.find_last_not_of('\r') + 1);
+  has_mark_ = text.starts_with(kByteOrderMark);
+  if (has_mark_) text.remove_prefix(kByteOrderMark.size());
+  std::string section;
+  Piece* last = nullptr;  // of the section; null where no line counts
+  const auto begin_piece = [this] { return pieces_.emplace(pieces_.end()); };
+  while (!text.empty()) {
+    const std::string_view whole = text.substr(0, std::min(text.find('\n'), text.size() - 1) + 1);
+    const std::string_view line = FirstLine(whole);
+    text.remove_prefix(whole.size());
     if (const auto name = SectionName(line)) {
-      section = *name;
-      const auto [entry, first] = sections_.try_emplace(FoldedSection(section), next);
-      insert_at = first ? &entry->second : nullptr;
-    } else if (insert_at != nullptr && !Trim(line).empty()) {
-      *insert_at = next;
-      const std::size_t equals = line.find('=');
-      if (equals != std::string_view::npos && !IsComment(line)) {
-        const auto [entry, first] =
-            keys_.try_emplace(FoldedKey(section, line.substr(0, equals)), values_.size());
-        if (first) values_.push_back({at + equals + 1, at + line.size()});
+      section = FoldedSection(*name);
+      const auto [entry, first] = sections_.try_emplace(section);
+      last = first ? &entry->second : nullptr;
+      if (first) *last = begin_piece();
+    } else if (Trim(line).empty()) {
+      if (pieces_.empty() || (last != nullptr && *last == std::prev(pieces_.end()))) begin_piece();
+    } else {
+      if (sections_.empty()) last = &sections_.try_emplace(section, pieces_.end()).first->second;
+      if (last != nullptr) {
+        const auto [entry, first] = keys_.try_emplace(FoldedKey(section, NameOf(line)));
+        if (first || *last != std::prev(pieces_.end())) *last = begin_piece();
+        if (first) entry->second = *last;
       }
     }
-    at = next;
+    pieces_.back() += whole;
   }
+}
+
+std::string ProfileDocument::Text() const {
+  std::size_t size = kByteOrderMark.size();
+  for (const std::string& piece : pieces_) size += piece.size();
+  std::string text;
+  text.reserve(size);
+  if (has_mark_) text += kByteOrderMark;
+  for (const std::string& piece : pieces_) text += piece;
+  return text;
 }
 
 std::optional<std::string_view> ProfileDocument::Value(std::string_view section,
                                                        std::string_view key) const {
   const auto found = keys_.find(FoldedKey(section, key));
   if (found == keys_.end()) return std::nullopt;
-  const Span span = values_[found->second];
-  return Trim(std::string_view(text_).substr(span.from, span.to - span.from));
+  const std::string_view line = FirstLine(*found->second);
+  const std::size_t name_end = NameOf(line).size();
+  return WithoutQuotes(Trim(line.substr(std::min(name_end + 1, line.size()))));
 }
 
-ProfileDocument::Range ProfileDocument::Set(std::string_view section, std::string_view key,
-                                            std::string_view value) {
+void ProfileDocument::Set(std::string_view section, std::string_view key, std::string_view value) {
   value = Trim(value.substr(0, value.find_first_of("\r\n")));
-  const auto [entry, is_new] = keys_.try_emplace(FoldedKey(section, key), values_.size());
-  if (!is_new) {
-    const std::size_t id = entry->second;
-    const auto [from, to] = values_[id];
-    if (std::string_view(text_).substr(from, to - from) == value) return {};
-    const std::size_t end = Replace(from, to, value);
-    values_[id] = {from, end};
-    return {from, end == to ? end : Range::kEnd};
+  const std::string value_part = std::string("=").append(value);
+  if (const auto found = keys_.find(FoldedKey(section, key)); found != keys_.end()) {
+    const std::string_view line = FirstLine(*found->second);
+    std::string_view name = NameOf(line);
+    if (name.size() == line.size()) name = TrimBack(name);
+    found->second->replace(name.size(), line.size() - name.size(), value_part);
+    return;
   }
 
-  const auto [place, new_section] = sections_.try_emplace(FoldedSection(section), text_.size());
-  const std::size_t from = place->second;
-  const std::string_view line_end = LineEndAt(from);
-  const bool line_open = from > 0 && text_[from - 1] != '\n' && text_ != kByteOrderMark;
-  const std::size_t at = line_open ? Replace(from, from, line_end) : from;
-  std::string lines;
-  if (new_section) lines.append("[").append(Trim(section)).append("]").append(line_end);
-  lines.append(Trim(key)).append("=");
-  const std::size_t value_at = at + lines.size();
-  lines.append(value).append(line_end);
-  place->second = Replace(at, at, lines);
-  values_.push_back({value_at, value_at + value.size()});
-  return {from, Range::kEnd};
+  const auto [entry, is_new] = sections_.try_emplace(FoldedSection(section), pieces_.end());
+  Piece at = pieces_.end();
+  if (!is_new) {
+    at = std::next(entry->second);
+  } else if (entry->first.empty()) {
+    at = pieces_.begin();
+  } else {
+    Add(at, std::string("[").append(Trim(section)).append("]"));
+  }
+  entry->second = Add(at, std::string(Trim(key)) + value_part);
+  keys_.try_emplace(FoldedKey(section, NameOf(key)), entry->second);
 }
 
 bool ProfileDocument::CanHold(std::string_view section, std::string_view key) {
   key = Trim(key);
-  return section.find_first_of("\r\n]") == std::string_view::npos &&
-         key.find_first_of("\r\n=") == std::string_view::npos && !key.empty() &&
-         key.front() != '[' && key.front() != ';';
+  return section.find_first_of("\r\n") == std::string_view::npos &&
+         key.find_first_of("\r\n") == std::string_view::npos && !key.empty() && key.front() != '[';
 }
 
-/// Puts `by` where `from` to `to` stood, moves the index along, and returns the end of the new
-/// bytes. The places of what is replaced itself are the caller's to set.
-std::size_t ProfileDocument::Replace(std::size_t from, std::size_t to, std::string_view by) {
-  const bool last = to == text_.size();
-  // A section that ends where new lines go in doesn't own them; one that ends in a line does.
-  const std::size_t first_moved = from == 0 || text_[from - 1] == '\n' ? to + 1 : to;
-  text_.replace(from, to - from, by);
-  const std::size_t end = from + by.size();
-  if (end == to) return end;
-  for (auto& [name, insert_at] : sections_) {
-    if (insert_at >= first_moved) insert_at = insert_at - to + end;
+/// Puts a line before the piece and ends the one before it where that is still open.
+ProfileDocument::Piece ProfileDocument::Add(Piece before, std::string line) {
+  const std::string_view line_end = LineEnd(before);
+  if (before != pieces_.begin() && !std::prev(before)->ends_with('\n')) {
+    std::prev(before)->append(line_end);
   }
-  // At the end of the text no key follows: a file that is written in order costs the same each key.
-  if (last) return end;
-  for (Span& value : values_) {
-    if (value.from < to) continue;
-    value.from = value.from - to + end;
-    value.to = value.to - to + end;
-  }
-  return end;
+  return pieces_.insert(before, std::move(line.append(line_end)));
 }
 
-/// The line end for a line that begins at `at`: that of the line before it, else that of the first
-/// line, else CR LF.
-std::string_view ProfileDocument::LineEndAt(std::size_t at) const {
-  const std::size_t feed = at > 0 && text_[at - 1] == '\n' ? at - 1 : text_.find('\n');
-  if (feed == std::string::npos) return "\r\n";
-  return feed > 0 && text_[feed - 1] == '\r' ? "\r\n" : "\n";
+/// The line end for a new line before the piece: that of the line before it, else that of the
+/// first line, else CR LF.
+std::string_view ProfileDocument::LineEnd(Piece before) const {
+  if (pieces_.empty()) return "\r\n";
+  std::string_view ended = pieces_.front();
+  ended = ended.substr(0, std::min(ended.find('\n'), ended.size() - 1) + 1);
+  if (before != pieces_.begin() && std::prev(before)->ends_with('\n')) ended = *std::prev(before);
+  return ended.ends_with("\r\n") || !ended.ends_with('\n') ? "\r\n" : "\n";
 }
 
 }  // namespace corvalis

@@ -2,9 +2,11 @@
 
 #include <sys/stat.h>
 
+#include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/profile_document.h"
 
@@ -21,12 +23,14 @@ class ProfileFile {
   [[nodiscard]] std::optional<std::string_view> Read(std::string_view section,
                                                      std::string_view key);
 
-  /// Writes one key as one whole operation. False, with the file as it was, if that can't be done.
-  bool Write(std::string_view section, std::string_view key, std::string_view value,
-             bool in_series);
+  /// Gives the key a value in memory, to be committed later. False if no line can hold it or the
+  /// file can't be read.
+  bool Edit(std::string_view section, std::string_view key, std::string_view value);
 
-  /// Sees the keys of the series onto the disk and removes the spare.
-  void EndSeries();
+  /// Puts all edits on the disk as one whole operation, or drops them. True if they are on the
+  /// disk to stay; a file that has them already isn't touched. Waits at most `lock_wait` for
+  /// others that save in the same folder.
+  bool Commit(std::chrono::milliseconds lock_wait);
 
  private:
   /// What tells one state of a file from another. A missing file has the inode 0.
@@ -45,31 +49,22 @@ class ProfileFile {
     uid_t owner = 0;
     gid_t group = 0;
   };
+  struct Change {
+    std::string section, key, value;
+  };
 
   bool Refresh();
   bool Load();
-  bool Save(const ProfileDocument::Range& edit, bool in_series);
-  [[nodiscard]] int OpenSpare() const;
-  [[nodiscard]] int CreateSpare() const;
-  bool Put(int file, const ProfileDocument::Range& range) const;
-  static bool Finish(int file, Stamp& stamp, bool& settled);
-  bool ChangePlaces(bool exchange, bool& spare_remains) const;
+  void Take(std::string text);
 
   std::string path_;
-  ProfileDocument document_;
+  ProfileDocument document_;     // the file's text with the edits
+  std::string text_;             // the file's text
+  std::vector<Change> changes_;  // the edits, in their order
   bool loaded_ = false;
   Stamp stamp_;
   /// Whether any later change of the file must show in its stamp.
   bool settled_ = false;
-
-  // The series. Only a file that this series itself has made becomes a spare: the one that was
-  // there before may have other names, or readers.
-  std::string target_;  // the file behind the links, beside which the spare lies
-  bool touched_ = false;
-  bool made_here_ = false;
-  bool has_spare_ = false;
-  Stamp spare_stamp_;
-  ProfileDocument::Range spare_lag_;  // where the spare differs from the file
 };
 
 }  // namespace corvalis

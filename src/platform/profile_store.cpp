@@ -2,14 +2,19 @@
 
 #include <exception>
 #include <unordered_map>
+#include <utility>
 
 #include "platform/profile_file.h"
 
 namespace corvalis {
 
+// What is caught in this file is a memory too small for a profile.
+
 /// The files that were used last.
 class ProfileStore::Files {
  public:
+  explicit Files(std::chrono::milliseconds lock_wait) : lock_wait_(lock_wait) {}
+
   ProfileFile& operator[](const std::string& path) {
     // A file that is left out is read again when it is asked for; no more is lost than time. A
     // series needs its files to its end.
@@ -17,29 +22,48 @@ class ProfileStore::Files {
     if (files_.size() >= kMostFiles && series_ == 0 && !files_.contains(path)) files_.clear();
     return files_.try_emplace(path, path).first->second;
   }
-  void Forget(const std::string& path) {
-    const auto found = files_.find(path);
-    if (found == files_.end()) return;
-    found->second.EndSeries();
-    files_.erase(found);
+
+  bool Write(const std::string& path, std::string_view section, std::string_view key,
+             std::string_view value) {
+    ProfileFile& file = (*this)[path];
+    const bool taken = file.Edit(section, key, value);
+    good_ = good_ && taken;
+    return taken && (series_ > 0 || file.Commit(lock_wait_));
   }
 
-  [[nodiscard]] bool InSeries() const { return series_ > 0; }
-  void BeginSeries() { ++series_; }
-  void EndSeries() {
-    if (--series_ > 0) return;
-    for (auto& [path, file] : files_) file.EndSeries();
+  /// What was edited in the file is lost.
+  void Forget(const std::string& path) {
+    good_ = false;
+    files_.erase(path);
+  }
+
+  void BeginSeries() {
+    if (series_++ == 0) good_ = true;
+  }
+  bool EndSeries() {
+    if (--series_ > 0) return good_;
+    for (auto entry = files_.begin(); entry != files_.end();) {
+      try {
+        good_ = entry->second.Commit(lock_wait_) && good_;
+        ++entry;
+      } catch (const std::exception&) {
+        good_ = false;
+        entry = files_.erase(entry);
+      }
+    }
+    return good_;
   }
 
  private:
+  std::chrono::milliseconds lock_wait_;
   std::unordered_map<std::string, ProfileFile> files_;
   int series_ = 0;
+  bool good_ = true;  // whether the series has taken everything
 };
 
-ProfileStore::ProfileStore() : files_(std::make_unique<Files>()) {}
+ProfileStore::ProfileStore(std::chrono::milliseconds lock_wait)
+    : files_(std::make_unique<Files>(lock_wait)) {}
 ProfileStore::~ProfileStore() = default;
-
-// What is caught below is a memory too small for the file.
 
 std::string ProfileStore::Read(const std::string& path, std::string_view section,
                                std::string_view key, std::size_t buffer_size) {
@@ -56,14 +80,19 @@ std::string ProfileStore::Read(const std::string& path, std::string_view section
 bool ProfileStore::Write(const std::string& path, std::string_view section, std::string_view key,
                          std::string_view value) {
   try {
-    return (*files_)[path].Write(section, key, value, files_->InSeries());
+    return files_->Write(path, section, key, value);
   } catch (const std::exception&) {
     files_->Forget(path);
     return false;
   }
 }
 
-ProfileStore::Series::Series(ProfileStore& store) : store_(store) { store_.files_->BeginSeries(); }
-ProfileStore::Series::~Series() { store_.files_->EndSeries(); }
+ProfileStore::Series::Series(ProfileStore& store) : store_(&store) { store.files_->BeginSeries(); }
+
+ProfileStore::Series::~Series() {
+  if (store_ != nullptr) store_->files_->EndSeries();
+}
+
+bool ProfileStore::Series::Finish() { return std::exchange(store_, nullptr)->files_->EndSeries(); }
 
 }  // namespace corvalis

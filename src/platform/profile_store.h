@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -14,37 +15,40 @@ namespace corvalis {
 /// What the store does not understand stays as it is: comments, blank lines, junk, order, line
 /// ends. A new file gets CR LF.
 ///
-/// No file is held open between calls. Each written key is one whole operation: whenever the
-/// process is killed, the file is the old one or the one with the key, complete. A symbolic link
-/// stays a link, and the file keeps its mode. What other programs do to a file between two calls
-/// is seen.
+/// No file is held open between calls. What is written is one whole operation: whenever the process
+/// is killed or the machine loses its power, the file is the old one or the new one, complete. A
+/// symbolic link stays a link, and the file keeps its owner, group, mode and access list. What
+/// other programs do to a file between two calls is seen.
 class ProfileStore {
  public:
   /// The size of the buffer that every reader of the program gives.
   static constexpr std::size_t kBufferSize = 1024;
 
-  ProfileStore();
+  /// `lock_wait` is how long a write waits for another program that has locked the folder; it then
+  /// goes on without the lock.
+  explicit ProfileStore(std::chrono::milliseconds lock_wait = std::chrono::seconds(1));
   ~ProfileStore();
   ProfileStore(const ProfileStore&) = delete;
   ProfileStore& operator=(const ProfileStore&) = delete;
 
-  /// The value of the key, cut at `buffer_size` - 1 bytes; empty if the file, the section or the
-  /// key is missing or can't be read.
+  /// The value of the key without the blanks around it and one pair of quotes (" or '), cut at
+  /// `buffer_size` - 1 bytes; empty if the file, the section or the key is missing or can't be
+  /// read.
   [[nodiscard]] std::string Read(const std::string& path, std::string_view section,
                                  std::string_view key, std::size_t buffer_size = kBufferSize);
 
   /// Writes one key, creating the file and the section where they are missing. A new key goes to
   /// the end of its section, before the blank lines that close it; a new section to the end of the
   /// file. Line ends inside `value` would break the file, so the value ends at the first of them.
-  /// Returns false, with the file as it was, if the disk is full, if the folder or the file can't
-  /// be written, or if no line could hold such names (`ProfileDocument::CanHold`).
+  /// True if the key is on the disk to stay, or taken into the series that is under way. False,
+  /// with the file as it was, if the disk is full, if the folder and the file can't be written, or
+  /// if no line could hold such names (`ProfileDocument::CanHold`).
   bool Write(const std::string& path, std::string_view section, std::string_view key,
              std::string_view value);
 
-  /// While a series lives, many keys are written fast: the version before the last key stays
-  /// beside the file as a hidden spare (".<name>.corvalis-spare") and takes the next key, then the
-  /// two change places. The end of the last series sees the files safely on the disk and removes
-  /// the spares.
+  /// While a series lives, all that is written is one operation for each file: it is kept in
+  /// memory, where reading finds it, and put on the disk at the end. Of series within a series only
+  /// the outermost counts.
   class Series {
    public:
     explicit Series(ProfileStore& store);
@@ -52,8 +56,14 @@ class ProfileStore {
     Series(const Series&) = delete;
     Series& operator=(const Series&) = delete;
 
+    /// Ends the series. True if everything that was written in it, to all files, is on the disk to
+    /// stay; otherwise each file that failed is as it was. A file that had its keys already isn't
+    /// written and counts as good. Within another series: whether all was taken so far. Once only;
+    /// a series that isn't finished by hand ends with its life.
+    bool Finish();
+
    private:
-    ProfileStore& store_;
+    ProfileStore* store_;  // null once finished
   };
 
  private:
