@@ -1,7 +1,7 @@
 #include "coder/modem.h"
 
 #include <algorithm>
-#include <cctype>
+#include <utility>
 
 namespace corvalis::coder {
 
@@ -12,37 +12,19 @@ constexpr std::uint8_t kLineFeed = '\n';
 constexpr int kEscapePluses = 3;
 constexpr std::size_t kLongestLine = 256;
 
+constexpr std::string_view kAttention = "AT";
+constexpr std::string_view kHangUp = "H0";
 constexpr std::string_view kOk = "OK";
 constexpr std::string_view kError = "ERROR";
 constexpr std::string_view kNoCarrier = "NO CARRIER";
 constexpr std::string_view kBusy = "BUSY";
-constexpr std::string_view kConnect = "CONNECT";
-constexpr std::string_view kConnectSpeed = " 9600";
-
-// Upper case without blanks.
-std::string Squeezed(std::string_view text) {
-  std::string out;
-  for (const char c : text) {
-    if (c != ' ') out += static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-  }
-  return out;
-}
+constexpr std::string_view kConnect = "CONNECT 9600";
 
 std::string Printable(std::string_view text) {
   std::string out(text);
   std::ranges::replace_if(
       out, [](char c) { return c < ' ' || c > '~'; }, '.');
   return out;
-}
-
-// Takes the figure behind a command's letter; -1 for one that is neither 0 nor 1. None is 0.
-int TakeFigure(std::string_view& rest) {
-  std::size_t digits = 0;
-  while (digits < rest.size() && rest[digits] >= '0' && rest[digits] <= '9') ++digits;
-  const std::string_view figure = rest.substr(0, digits);
-  rest.remove_prefix(digits);
-  if (figure.empty() || figure == "0") return 0;
-  return figure == "1" ? 1 : -1;
 }
 
 }  // namespace
@@ -88,7 +70,7 @@ Modem::Outcome Modem::DialTimeOver() {
     call_up_ = true;
     state_ = State::kOnline;
     Report("dial " + number_ + " -> CONNECT");
-    Say(std::string(kConnect).append(kConnectSpeed), out);
+    Say(kConnect, out);
     return out;
   }
   const std::string_view why = calls_ == Calls::kBusy && has_number ? kBusy : kNoCarrier;
@@ -111,7 +93,7 @@ void Modem::TakeData(std::uint8_t byte, Outcome& out) {
 
 void Modem::TakeCommandByte(std::uint8_t byte, Outcome& out) {
   if (byte == kLineFeed) return;
-  if (echo_ && calls_ != Calls::kSilent) out.to_terminal.push_back(byte);
+  if (calls_ != Calls::kSilent) out.to_terminal.push_back(byte);
   if (byte == kReturn) {
     after_return_ = true;
     RunLine(out);
@@ -122,10 +104,9 @@ void Modem::TakeCommandByte(std::uint8_t byte, Outcome& out) {
 }
 
 void Modem::RunLine(Outcome& out) {
-  const std::string line = Squeezed(line_);
-  const std::string shown = Printable(line_);
-  line_.clear();
-  const std::size_t attention = line.find("AT");
+  const std::string line = std::exchange(line_, {});
+  const std::string shown = Printable(line);
+  const std::size_t attention = line.find(kAttention);
   if (attention == std::string::npos) {
     if (!shown.empty()) Report("no command: " + shown);
     return;
@@ -134,65 +115,19 @@ void Modem::RunLine(Outcome& out) {
     Report(shown + " -> silence");
     return;
   }
-  std::string_view rest = std::string_view(line).substr(attention + 2);
-  while (!rest.empty()) {
-    if (!RunCommand(rest, out)) {
-      Report(shown + " -> ERROR");
-      Say(kError, out);
-      return;
-    }
-    // These two say by themselves how they end.
-    if (state_ != State::kCommand) return;
+  const std::string command = line.substr(attention + kAttention.size());
+  const bool dials = command.starts_with("DT") || command.starts_with("DP");
+  if (dials && !call_up_) {
+    // Says by itself how it ends.
+    number_ = std::string{command[1], ' '} + Printable(command.substr(2));
+    state_ = State::kDialling;
+    return;
   }
-  Report(shown + " -> OK");
-  Say(kOk, out);
-}
-
-// Runs the first command of `rest` and takes it off. False for an error.
-bool Modem::RunCommand(std::string_view& rest, Outcome& out) {
-  const char letter = rest.front();
-  rest.remove_prefix(1);
-  if (letter == 'D') {
-    if (call_up_) return false;
-    Dial(rest);
-    return true;
-  }
-  const int figure = TakeFigure(rest);
-  switch (letter) {
-    case 'E':
-      if (figure < 0) return false;
-      echo_ = figure == 1;
-      return true;
-    case 'H':
-      if (figure != 0) return false;
-      DropCall(out);
-      return true;
-    case 'I':
-      if (figure < 0) return false;
-      Say("Corvalis simulated modem", out);
-      return true;
-    case 'O':
-      if (figure != 0 || !call_up_) return false;
-      state_ = State::kOnline;
-      Report("back to the call -> CONNECT");
-      Say(std::string(kConnect).append(kConnectSpeed), out);
-      return true;
-    case 'Z':
-      if (figure < 0) return false;
-      echo_ = true;
-      DropCall(out);
-      return true;
-    default:
-      return false;
-  }
-}
-
-void Modem::Dial(std::string_view rest) {
-  const bool says_how = !rest.empty() && (rest.front() == 'T' || rest.front() == 'P');
-  const char how = says_how ? rest.front() : 'T';
-  if (says_how) rest.remove_prefix(1);
-  number_ = std::string{how, ' '} + Printable(rest);
-  state_ = State::kDialling;
+  const bool known = command.empty() || command == kHangUp;
+  if (command == kHangUp) DropCall(out);
+  const std::string_view answer = known ? kOk : kError;
+  Report(shown + " -> " + std::string(answer));
+  Say(answer, out);
 }
 
 void Modem::DropCall(Outcome& out) {

@@ -14,11 +14,10 @@ namespace corvalis::coder {
 /// the far end of the telephone line taken for granted. Like the line it knows no clock: it is told
 /// of bytes, of silence and of the end of its dial time, and says what is to be passed on.
 ///
-/// It starts in the command state, with echo. A command line is "AT" in either case, commands in a
-/// row, and CR; LF is passed over, so is what stands before the "AT", and blanks mean nothing. It
-/// answers in words between CR LF. Its commands: nothing at all, E0, E1, E (echo), H0, H (hang up),
-/// I (what it is), O (back to the call), Z (hang up, echo on), D with T or P or neither and a
-/// number (dial). Any other is an ERROR, and so is dialling with a call up.
+/// It starts in the command state, and echoes there. A command line is "AT", one command, and CR;
+/// LF is passed over, and so is what stands before the "AT". It answers in words between CR LF. Its
+/// commands: nothing at all, H0 (hang up), DT or DP and a number (dial). Any other is an ERROR, and
+/// so is dialling with a call up.
 ///
 /// It is set up with a guard time of 0: "+++" needs no silence before it to lead from the call back
 /// to the command state. To be told from data, it has to begin what is being sent, so it stands
@@ -68,8 +67,6 @@ class Modem {
   void TakeData(std::uint8_t byte, Outcome& out);
   void TakeCommandByte(std::uint8_t byte, Outcome& out);
   void RunLine(Outcome& out);
-  bool RunCommand(std::string_view& rest, Outcome& out);
-  void Dial(std::string_view rest);
   void DropCall(Outcome& out);
   void ReleasePluses(Outcome& out);
   void Say(std::string_view words, Outcome& out) const;
@@ -78,7 +75,6 @@ class Modem {
   Calls calls_;
   State state_ = State::kCommand;
   bool call_up_ = false;
-  bool echo_ = true;
   bool after_return_ = false;  // the LF of the last command line may be still to come
   std::string line_;           // of commands, so far
   std::string number_;         // being dialled, behind "T " or "P "

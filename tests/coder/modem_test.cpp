@@ -54,15 +54,8 @@ TEST(CoderModem, AnswersCommandLines) {
     std::string line;
     std::string answer;
   } cases[] = {
-      {"AT\r", "AT\r\r\nOK\r\n"},
-      {"at\r\n", "at\r\r\nOK\r\n"},
-      {"At e1 H0\r", "At e1 H0\r\r\nOK\r\n"},
-      {"ATE0\rAT\rATE1\rAT\r", "ATE0\r\r\nOK\r\n\r\nOK\r\n\r\nOK\r\nAT\r\r\nOK\r\n"},
-      {"ATE0\rATZ\rAT\r", "ATE0\r\r\nOK\r\n\r\nOK\r\nAT\r\r\nOK\r\n"},
-      {"ATI\r", "ATI\r\r\nCorvalis simulated modem\r\n\r\nOK\r\n"},
+      {"AT\r\n", "AT\r\r\nOK\r\n"},
       {"ATQ\r", "ATQ\r\r\nERROR\r\n"},
-      {"ATH99999999999\r", "ATH99999999999\r\r\nERROR\r\n"},
-      {"ATO\r", "ATO\r\r\nERROR\r\n"},
       {"hello\r", "hello\r"},
       {"+++ATH0\r\n", "+++ATH0\r\r\nOK\r\n"},
       {"\2\1\3\2AT\r", "\2\1\3\2AT\r\r\nOK\r\n"},
@@ -83,8 +76,7 @@ TEST(CoderModem, DialsWithEachOutcome) {
     bool online;
   } cases[] = {
       {Calls::kAnswered, "ATDT800,12345678\r", "\r\nCONNECT 9600\r\n", true},
-      {Calls::kAnswered, "atdp 800\r", "\r\nCONNECT 9600\r\n", true},
-      {Calls::kAnswered, "ATZDT1\r", "\r\nCONNECT 9600\r\n", true},
+      {Calls::kAnswered, "ATDP 800\r", "\r\nCONNECT 9600\r\n", true},
       {Calls::kAnswered, "ATDT\r", "\r\nNO CARRIER\r\n", false},
       {Calls::kBusy, "ATDT800\r", "\r\nBUSY\r\n", false},
       {Calls::kRefused, "ATDT800\r", "\r\nNO CARRIER\r\n", false},
@@ -116,12 +108,8 @@ TEST(CoderModem, CarriesTheCallAndTellsTheEscapeFromData) {
         kConnect,
         {"\5", "", "\5"}}},
       {"behind a pause", {{"\2\1", "", "\2\1"}, {kPause, ""}, {"+++", ""}, {kPause, "\r\nOK\r\n"}}},
-      {"back to the call",
-       {{"+++", ""},
-        {kPause, "\r\nOK\r\n"},
-        {"ATDT1\r", "ATDT1\r\r\nERROR\r\n"},
-        {"ATO\r\n", "ATO\r\r\nCONNECT 9600\r\n"},
-        {"\5", "", "\5"}}},
+      {"no call beside it",
+       {{"+++", ""}, {kPause, "\r\nOK\r\n"}, {"ATDT1\r", "ATDT1\r\r\nERROR\r\n"}}},
       {"inside a frame", {{"\2\7A+++B\3", "", "\2\7A+++B\3"}, {kPause, ""}}},
       {"inside a frame that comes in portions",
        {{"\2\7", "", "\2\7"}, {"+++", "", "+++"}, {kPause, ""}, {"+", ""}, {kPause, "", "+"}}},
@@ -150,7 +138,7 @@ TEST(CoderModem, GivesUpDiallingForAByteButNotForTheLineFeed) {
 
 TEST(CoderModem, WithoutPowerSaysNothingAtAll) {
   Modem modem(Calls::kSilent);
-  Play(modem, {{"AT\r", ""}, {"ATDT800\r\n", ""}, {"+++", ""}, {kPause, ""}, {"ATI\r", ""}});
+  Play(modem, {{"AT\r", ""}, {"ATDT800\r\n", ""}, {"+++", ""}, {kPause, ""}});
   EXPECT_FALSE(modem.Dialling());
   EXPECT_FALSE(modem.Online());
 }

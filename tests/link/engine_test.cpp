@@ -50,6 +50,8 @@ TEST_F(EngineTest, ClosedLinkIsNotWrittenTo) {
   LinkError = kLinkOk;
   ReceiveFrame(frame.Bytes());
   EXPECT_EQ(LinkError, kErrorUnconnected);
+  ReleaseLink();
+  EXPECT_EQ(ReceiveQueue(), nullptr);
 }
 
 TEST_F(EngineTest, WhatCameBeforeAFrameIsNoAnswerToIt) {

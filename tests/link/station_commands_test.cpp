@@ -157,13 +157,16 @@ TEST_F(StationCommands, ReadCt) {
 }
 
 TEST_F(StationCommands, RecordKeepsItsDiIfTheReadFails) {
-  const bool before = configData->ArtificialHead();
-  for (const char* digit : {"0", "2"}) {  // one of them is what the record holds
-    port.answer = [frame = Acknowledged({kStart, 0x04, 0, static_cast<std::uint8_t>(*digit), kEnd,
-                                         0})](const Bytes&) { return frame; };
-    configData->GetDiRds();
-    EXPECT_EQ(LinkError, kErrorRxChecksum);
-    EXPECT_EQ(configData->ArtificialHead(), before);
+  ConfigData& c = *configData;
+  for (const bool value : {true, false}) {
+    c.SetMono(value);
+    c.SetArtificialHead(value);
+    c.SetCompressed(value);
+    c.SetStaticPty(value);
+    port.answer = [](const Bytes&) { return Refusal(7); };
+    c.GetDiRds();
+    EXPECT_EQ(std::tuple(c.Mono(), c.ArtificialHead(), c.Compressed(), c.StaticPty()),
+              std::tuple(value, value, value, value));
   }
 }
 
