@@ -19,8 +19,8 @@ using Setter = bool (*)(Options&, std::string_view value);
 struct Option {
   std::string_view name;
   std::string_view value;  // what its value is called; empty: it has none
-  std::string_view wanted;
-  std::string_view help;
+  std::string wanted;
+  std::string help;
   Setter set;
 };
 
@@ -51,10 +51,45 @@ bool ParseCalls(std::string_view text, std::optional<Modem::Calls>& calls) {
   return true;
 }
 
+// "psn=50,page=10": any of the counts, each once. `counts` may be changed in part on failure.
+bool ParseCounts(std::string_view text, Counts& counts) {
+  std::array<bool, kCountNames.size()> given{};
+  for (bool more = true; more;) {
+    const std::size_t comma = std::min(text.find(','), text.size());
+    const std::string_view entry = text.substr(0, comma);
+    const std::size_t equals = std::min(entry.find('='), entry.size());
+    const auto* const found =
+        std::ranges::find(kCountNames, entry.substr(0, equals), &CountName::name);
+    if (found == kCountNames.end() || equals == entry.size()) return false;
+    bool& twice = given[static_cast<std::size_t>(found - kCountNames.begin())];
+    if (twice) return false;
+    twice = true;
+    if (!ParseNumber(entry.substr(equals + 1), 0, found->most, counts.*found->count)) return false;
+    more = comma < text.size();
+    text.remove_prefix(std::min(comma + 1, text.size()));
+  }
+  return true;
+}
+
 bool On(bool& flag) { return flag = true; }
 
-constexpr std::string_view kPositive = "a number from 1";
-constexpr std::string_view kMilliseconds = "a number of milliseconds from 0";
+// "psn=50,page=10 ..." of what `number` gives for each count.
+template <typename Number>
+std::string CountList(Number number) {
+  std::string text;
+  for (const CountName& count : kCountNames) {
+    text +=
+        (text.empty() ? "" : ",") + std::string(count.name) + "=" + std::to_string(number(count));
+  }
+  return text;
+}
+
+const std::string kMostCounts = CountList([](const CountName& count) { return count.most; });
+const std::string kUsualCounts =
+    CountList([](const CountName& count) { return Counts{}.*count.count; });
+
+const std::string kPositive = "a number from 1";
+const std::string kMilliseconds = "a number of milliseconds from 0";
 
 const std::array kOptions = {
     Option{"--link", "PATH", "a path", "make PATH a link to the line, for as long as it is there",
@@ -69,6 +104,10 @@ const std::array kOptions = {
            }},
     Option{"--open", "", "", "take commands without having been addressed",
            [](Options& o, std::string_view) { return On(o.open); }},
+    Option{"--count", "LIST",
+           "counts such as psn=50,page=10, none twice and none above " + kMostCounts,
+           "how many items it holds (see below)",
+           [](Options& o, std::string_view v) { return ParseCounts(v, o.counts); }},
     Option{"--baud", "N", kPositive, "understand bytes at N bits per second only",
            [](Options& o, std::string_view v) { return ParseNumber(v, 1, kMost, o.baud); }},
     Option{"--stop-bits", "N", "1 or 2", "understand bytes with N stop bits only",
@@ -118,11 +157,11 @@ std::string ParseOptions(std::span<const char* const> words, Options& options) {
     if (found == kOptions.end()) return "unknown option " + name;
     std::string_view value;
     if (!found->value.empty()) {
-      if (i + 1 == words.size()) return name + " wants " + std::string(found->wanted);
+      if (i + 1 == words.size()) return name + " wants " + found->wanted;
       value = words[++i];
     }
     if (!found->set(options, value)) {
-      return name + " wants " + std::string(found->wanted) + ", not \"" + std::string(value) + "\"";
+      return name + " wants " + found->wanted + ", not \"" + std::string(value) + "\"";
     }
   }
   return {};
@@ -136,14 +175,15 @@ std::string HelpText() {
   for (const Option& option : kOptions) {
     std::string line = "  " + std::string(option.name) + " " + std::string(option.value);
     line.resize(std::max(line.size() + 1, kColumn), ' ');
-    text += line + std::string(option.help) + "\n";
+    text += line + option.help + "\n";
   }
-  return text +
-         "\nThe first line printed is \"ready\" and the terminal's path, also after each new "
+  return text + "\nOf each list it holds, unless --count says otherwise:\n\n  " + kUsualCounts +
+         "\n\nThe first line printed is \"ready\" and the terminal's path, also after each new "
          "plugging;\n\"unplugged\" stands for its removal. The memory is printed between the lines "
-         "\"memory\"\nand \"end of memory\": the Coder ID and each item's name, index in two "
-         "hexadecimal digits,\nbytes of the body in hexadecimal, what they say, and the body as a "
-         "text:\n\n"
+         "\"memory\"\nand \"end of memory\": the Coder ID, and name, place in hexadecimal digits, "
+         "bytes of the\nbody, what they say and the body as a text of each single value, and of "
+         "each "
+         "item of a list\nthat has been written:\n\n"
          "  ID \"?????\" addressed\n"
          "  PI 00: 35 32 30 31 (country 5, coverage 2, programme 01)  \"5201\"\n\n"
          "Behind a modem the Coder has to be dialled (ATDT, ATDP). A call is answered, finds the "

@@ -4,6 +4,7 @@
 #include <span>
 #include <string>
 
+#include "coder/counts.h"
 #include "coder/line.h"
 #include "coder/modem.h"
 
@@ -14,6 +15,7 @@ struct Options {
   std::string link;          ///< path of the link to the pseudo-terminal; empty: none
   std::string id = "?????";  ///< Coder ID, 1 to 5 characters
   bool open = false;
+  Counts counts;
   int baud = 0;       ///< bits per second the Coder answers to; 0: any
   int stop_bits = 0;  ///< 1 or 2, that the Coder answers to; 0: any
   bool pace = false;

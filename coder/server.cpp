@@ -27,7 +27,7 @@ constexpr int kStartAndDataBits = 9;
 
 Server::Server(Options options)
     : options_(std::move(options)),
-      coder_(options_.id, options_.open),
+      coder_(options_.id, options_.open, options_.counts),
       line_(coder_, options_.faults),
       terminal_(std::make_unique<PseudoTerminal>(options_.link)) {
   if (options_.print) {
