@@ -99,6 +99,21 @@ std::string ToFileName(const QString& text) {
   return name + valid.toStdString();
 }
 
+QString Harmless(QString name) {
+  // Letters join by some characters of the same kind, and a line breaks at one.
+  constexpr char16_t kHarmless[] = {u'\u00AD', u'\u200C', u'\u200D'};
+  for (QChar& character : name) {
+    const QChar::Category kind = character.category();
+    const bool invisible = kind == QChar::Other_Control || kind == QChar::Other_Format ||
+                           kind == QChar::Separator_Line || kind == QChar::Separator_Paragraph;
+    if (invisible && std::find(std::begin(kHarmless), std::end(kHarmless), character.unicode()) ==
+                         std::end(kHarmless)) {
+      character = QChar::ReplacementCharacter;
+    }
+  }
+  return name;
+}
+
 QString FromContent(const std::string& bytes, TextBox::Content content) {
   return content == TextBox::Content::kFileName ? FromFileName(bytes) : FromBytes(bytes);
 }

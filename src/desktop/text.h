@@ -21,6 +21,10 @@ namespace corvalis::desktop {
 /// The way back.
 [[nodiscard]] std::string ToFileName(const QString& text);
 
+/// `name` as it can be shown beside others without doing harm: a character that controls, or that
+/// turns the direction of what follows, becomes U+FFFD. There is no way back.
+[[nodiscard]] QString Harmless(QString name);
+
 /// A text whose owner says what its bytes are.
 [[nodiscard]] QString FromContent(const std::string& bytes, TextBox::Content content);
 /// The way back.

@@ -1,9 +1,10 @@
 #include "desktop/views/ct_page.h"
 
 #include <QGroupBox>
-#include <QLabel>
+#include <QLineEdit>
 
 #include "desktop/widgets/calendar_widget.h"
+#include "desktop/widgets/label_widget.h"
 #include "desktop/widgets/layout.h"
 #include "desktop/widgets/spinner_widget.h"
 #include "desktop/widgets/style.h"
@@ -17,25 +18,24 @@ constexpr int kTimeColumns = 5;
 constexpr int kOffsetColumns = 5;
 constexpr int kPsnColumns = 3;
 
-QWidget* Unit(const char* symbol, QWidget* parent) {
-  auto* label = new QLabel(QString::fromLatin1(symbol), parent);
-  QPalette palette = label->palette();
-  palette.setColor(QPalette::WindowText, QColor(colours::kQuietText));
-  label->setPalette(palette);
-  return label;
-}
-
 // The hour's arrows before the time, the minute's behind it.
 QWidget* Time(CtTab& tab, QWidget* parent) {
   auto* group = new QWidget(parent);
   group->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  QLineEdit* time = CodeBox(tab.Text1, kTimeColumns, group);
+  group->setFocusProxy(time);
+  auto* hours = new SpinnerWidget(tab.VScroll2, group);
+  hours->setAccessibleName(QStringLiteral("Hours"));
+  auto* minutes = new SpinnerWidget(tab.VScroll1, group);
+  minutes->setAccessibleName(QStringLiteral("Minutes"));
   QHBoxLayout* row = Row(group);
   row->setSpacing(kTight);
-  row->addWidget(new SpinnerWidget(tab.VScroll2, group));
-  row->addWidget(Unit("h", group));
-  row->addWidget(CodeBox(tab.Text1, kTimeColumns, group));
-  row->addWidget(Unit("min", group));
-  row->addWidget(new SpinnerWidget(tab.VScroll1, group));
+  row->addWidget(hours);
+  row->addWidget(QuietText(QStringLiteral("h"), group));
+  row->addWidget(time);
+  row->addWidget(QuietText(QStringLiteral("min"), group));
+  row->addWidget(minutes);
+  for (SpinnerWidget* spinner : {hours, minutes}) spinner->Moves(*time);
   return group;
 }
 

@@ -2,10 +2,11 @@
 
 #include <QGroupBox>
 
+#include "desktop/text.h"
 #include "desktop/widgets/check_box_widget.h"
 #include "desktop/widgets/label_widget.h"
 #include "desktop/widgets/layout.h"
-#include "desktop/widgets/meter_widget.h"
+#include "desktop/widgets/progress_bar_widget.h"
 #include "desktop/widgets/spinner_widget.h"
 #include "desktop/widgets/style.h"
 
@@ -14,8 +15,6 @@ namespace corvalis::desktop {
 namespace {
 
 constexpr int kRepetitionColumns = 3;
-constexpr int kPercentWidth = 42;
-constexpr int kSelectedWidth = 88;
 // A box and a number for each version, then what they make together.
 constexpr int kVersionAColumn = 0;
 constexpr int kVersionBColumn = 2;
@@ -25,39 +24,57 @@ constexpr int kBlock = kGroupNumbers / 2;
 
 void AddGroup(EditGroupsForm& form, int group, QGridLayout& grid, int row, int column,
               QWidget* parent) {
-  grid.addWidget(new CheckBoxWidget(form.Check1[group], parent), row, column);
-  grid.addWidget(new SpinField(form.Text1[group], form.VScroll2[group], kRepetitionColumns, parent),
-                 row, column + 1);
+  const QString name = QStringLiteral("Group ") + FromBytes(GroupName(group));
+  auto* box = new CheckBoxWidget(form.Check1[group], parent);
+  box->setAccessibleName(name);
+  grid.addWidget(box, row, column);
+  auto* repetitions =
+      new SpinField(form.Text1[group], form.VScroll2[group], kRepetitionColumns, parent);
+  repetitions->Name(name + QStringLiteral(", repetitions"));
+  grid.addWidget(repetitions, row, column + 1);
+}
+
+// Room for the longest text that a label takes, so that what is beside it stands still.
+void KeepRoom(QWidget& label, const QString& longest) {
+  label.setFixedWidth(label.fontMetrics().horizontalAdvance(longest) + kTight);
 }
 
 // Eight group numbers, one below the other.
 QWidget* Block(EditGroupsForm& form, int first, QWidget* parent) {
   auto* block = new QGroupBox(parent);
   auto* grid = new QGridLayout(block);
-  grid->setHorizontalSpacing(kNear);
+  grid->setHorizontalSpacing(kGap);
   grid->setVerticalSpacing(kTight);
-  for (int row = 0; row < kBlock; ++row) {
-    const int number = first + row;
+  for (const int column : {kVersionAColumn, kVersionBColumn}) {
+    grid->addWidget(QuietText(QStringLiteral("Group"), block), 0, column);
+    grid->addWidget(QuietText(QStringLiteral("Repetitions"), block), 0, column + 1);
+  }
+  grid->addWidget(QuietText(QStringLiteral("Share of the cycle"), block), 0, kShareColumn, 1, 2);
+  for (int line = 0; line < kBlock; ++line) {
+    const int number = first + line;
+    const int row = line + 1;
     AddGroup(form, number, *grid, row, kVersionAColumn, block);
     AddGroup(form, number + kGroupNumbers, *grid, row, kVersionBColumn, block);
     auto* share = new LabelWidget(form.PercentText[number], block);
     share->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    share->setFixedWidth(kPercentWidth);
+    KeepRoom(*share, QStringLiteral("100 %"));
     grid->addWidget(share, row, kShareColumn);
-    grid->addWidget(new MeterWidget(form.PercentBar[number], block), row, kBarColumn);
+    auto* bar = new ProgressBarWidget(form.PercentBar[number], block);
+    bar->setAccessibleName(QStringLiteral("Share of group %1").arg(number));
+    grid->addWidget(bar, row, kBarColumn);
   }
   grid->setColumnStretch(kBarColumn, 1);
   return block;
 }
 
-// What the two buttons beside it are about: as wide as the longest name, so that they stand still.
+// What the two buttons beside it are about.
 QWidget* Selected(EditGroupsForm& form, QWidget* parent) {
   auto* part = new QWidget(parent);
   QHBoxLayout* row = Row(part);
   row->setSpacing(kGap);
   auto* name = new LabelWidget(form.SelectedLabel, part);
   name->setFont(Bold(name->font()));
-  name->setFixedWidth(kSelectedWidth);
+  KeepRoom(*name, QStringLiteral("Group 00A"));
   row->addWidget(name);
   row->addWidget(ButtonRow({&form.Command2, &form.Command11}, part));
   return part;

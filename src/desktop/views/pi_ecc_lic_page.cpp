@@ -26,28 +26,39 @@ PiEccLicPage::PiEccLicPage(PiEccLicTab& tab, QWidget* parent) : QWidget(parent) 
   AddField(*pi, tab.CoverageLabel, new DropDownWidget(tab.CoverageCombo, identity));
   AddField(*pi, tab.IDNumberLabel,
            new SpinField(tab.IDNumberText, tab.VScroll3, kIdNumberColumns, identity));
-  // Under the three parts that make it up, without a label of its own: it is the group's.
-  const int row = pi->rowCount();
-  pi->addWidget(CodeBox(tab.PiText, kPiColumns, identity), row, 1, Qt::AlignLeft);
+  // Under the three parts that make it up.
+  auto* code = new QWidget(identity);
+  code->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
+  QLineEdit* digits = CodeBox(tab.PiText, kPiColumns, code);
+  code->setFocusProxy(digits);
+  QHBoxLayout* line = Row(code);
+  line->addWidget(digits);
+  line->addWidget(QuietText(QStringLiteral("country, coverage,\nID number (2 digits)"), code));
+  AddField(*pi, QStringLiteral("PI code"), code);
   pi->addWidget(
       ButtonRow({&tab.ReadPiCommand, &tab.SendPiCommand, &tab.SendPiBurstCommand}, identity),
-      row + 1, 1);
+      pi->rowCount(), 1);
 
   auto* extended = new LabelledGroup(tab.EccLabel, this);
   QGridLayout* ecc = Fields(extended);
-  AddLine(*ecc, CodeBox(tab.EccText, kEccColumns, extended));
+  QLineEdit* country_code = CodeBox(tab.EccText, kEccColumns, extended);
+  extended->Name(country_code);
+  AddLine(*ecc, country_code);
   AddLine(*ecc, ButtonRow({&tab.ReadEccCommand, &tab.SendEccCommand, &tab.SendEccBurstCommand},
                           extended));
 
   auto* language = new LabelledGroup(tab.LicLabel, this);
   QGridLayout* lic = Fields(language);
-  AddLine(*lic, new DropDownWidget(tab.LicCombo, language));
+  auto* languages = new DropDownWidget(tab.LicCombo, language);
+  language->Name(languages);
+  AddLine(*lic, languages);
   AddLine(*lic, ButtonRow({&tab.ReadLicCommand, &tab.SendLicCommand, &tab.SendLicBurstCommand},
                           language));
 
   auto* countries = new LabelledGroup(tab.CountryListLabel, this);
   auto* list = new OpenListWidget(tab.CountryList, countries);
   list->ShowOnly();
+  countries->Name(list);
   QVBoxLayout* inside = new QVBoxLayout(countries);
   inside->addWidget(list);
 

@@ -17,7 +17,7 @@ namespace corvalis::desktop {
 namespace {
 
 constexpr int kNumberColumns = 20;
-constexpr int kListsWidth = 260;
+constexpr Length kListsWidth{260};
 
 struct Field {
   Label& label;
@@ -29,11 +29,21 @@ LabelledGroup* Lists(const Field& first, std::initializer_list<Field> others, QW
   auto* group = new LabelledGroup(first.label, parent);
   QGridLayout* grid = Fields(group);
   grid->setColumnStretch(0, 1);  // halves, so that the lists of all groups begin at one place
-  AddLine(*grid, new DropDownWidget(first.list, group));
+  auto* list = new DropDownWidget(first.list, group);
+  group->Name(list);
+  AddLine(*grid, list);
   for (const Field& field : others) {
     AddField(*grid, field.label, new DropDownWidget(field.list, group));
   }
   return group;
+}
+
+// A word that is the same in every language, above the box that it names.
+QLabel* Heading(const QString& word, QWidget* box) {
+  box->setAccessibleName(word);
+  QLabel* heading = QuietText(word, box->parentWidget());
+  heading->setBuddy(box);
+  return heading;
 }
 
 // From top to bottom as a call goes: the number, Hook, what the modem says, Hang up. The dialogue
@@ -46,17 +56,20 @@ QWidget* Modem(RS232CForm& form, QWidget* parent) {
 
   auto* number = new TextBoxWidget(form.Text2, kNumberColumns, group);
   number->setSizePolicy(QSizePolicy::MinimumExpanding, QSizePolicy::Fixed);
-  number->setPlaceholderText(QStringLiteral("Telephone number"));
-  grid->addWidget(number, 0, 0);
   auto* tones = new QWidget(group);
   QHBoxLayout* tone = Row(tones);
   tone->addWidget(new CheckBoxWidget(form.Check1, tones));
   tone->addWidget(new CheckBoxWidget(form.Check2, tones));
   tone->addStretch();
-  grid->addWidget(tones, 1, 0, 1, 2);
-  grid->addWidget(new ButtonWidget(form.Command2, group), 0, 1);
-  grid->addWidget(new MemoWidget(form.Text1, group), 2, 0, 1, 2);
-  grid->addWidget(new ButtonWidget(form.Command1, group), 3, 1);
+  auto* dialogue = new MemoWidget(form.Text1, group);
+
+  grid->addWidget(Heading(QStringLiteral("Telephone number"), number), 0, 0);
+  grid->addWidget(number, 1, 0);
+  grid->addWidget(tones, 2, 0, 1, 2);
+  grid->addWidget(new ButtonWidget(form.Command2, group), 1, 1);
+  grid->addWidget(Heading(QStringLiteral("Dialogue with the modem"), dialogue), 3, 0, 1, 2);
+  grid->addWidget(dialogue, 4, 0, 1, 2);
+  grid->addWidget(new ButtonWidget(form.Command1, group), 5, 1);
   return group;
 }
 
@@ -88,6 +101,8 @@ RS232CView::RS232CView(RS232CForm& form) : WindowView(form.window) {
   QVBoxLayout* column = WindowColumn(this);
   column->addWidget(new BrandHeader(form.marks, nullptr, this));
   column->addLayout(halves, 1);
+  column->addWidget(
+      QuietText(QStringLiteral("Settings take effect when this window is closed."), this));
 }
 
 }  // namespace corvalis::desktop

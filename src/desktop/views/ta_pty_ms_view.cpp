@@ -27,7 +27,7 @@ QWidget* Switch(Label& title, std::initializer_list<CheckBox*> states, Button& t
   auto* column = new QVBoxLayout(group);
   // All in one place: only one of them shows, and the window keeps its size when they change over.
   auto* place = new QGridLayout;
-  for (CheckBox* state : states) place->addWidget(new IndicatorWidget(*state, group), 0, 0);
+  for (CheckBox* state : states) place->addWidget(new IndicatorWidget(*state, title, group), 0, 0);
   column->addLayout(place, 1);
   column->addWidget(LargeButton(toggle, group));
   return group;
@@ -45,6 +45,7 @@ TaPtyMsView::TaPtyMsView(TaPtyMsForm& form) : WindowView(form.window) {
   auto* row = new QHBoxLayout(type);
   auto* list = new ComboBoxWidget(form.Combo1, type);
   list->setMinimumHeight(kLargeHeight);
+  type->Name(list);
   row->addWidget(list, 1);
   row->addWidget(LargeButton(form.Command1, type));
 

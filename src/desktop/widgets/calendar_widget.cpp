@@ -87,6 +87,11 @@ void CalendarWidget::Draw() {
   const QDate date = ToDate(calendar_.Date());
   if (selectedDate() != date) setSelectedDate(date);
   setCurrentPage(date.year(), date.month());
+  // The days alone say neither month nor year.
+  const QString name = QStringLiteral("Date: ") + locale().toString(date, QLocale::LongFormat);
+  for (QWidget* part : {static_cast<QWidget*>(this), static_cast<QWidget*>(days_)}) {
+    part->setAccessibleName(name);
+  }
 }
 
 bool CalendarWidget::eventFilter(QObject* watched, QEvent* event) {

@@ -30,7 +30,7 @@ DropDownWidget::DropDownWidget(ListBox& list, QWidget* parent, TextBox::Content 
 }
 
 QString DropDownWidget::Shown(const std::string& entry) const {
-  return FromContent(entry, content_);
+  return Harmless(FromContent(entry, content_));
 }
 
 void DropDownWidget::Draw() {

@@ -11,50 +11,59 @@ namespace corvalis::desktop {
 
 namespace {
 
-constexpr double kPointSize = 34;
-constexpr int kLeastWidth = 300;
-constexpr int kLeastHeight = 170;
+constexpr double kScale = 3.25;
+constexpr Length kLeastWidth{300};
+constexpr Length kLeastHeight{170};
 constexpr double kCorner = 6;
-
-QFont LargeFont(const QWidget& widget) {
-  QFont font = Bold(widget.font());
-  font.setPointSizeF(kPointSize);
-  return font;
-}
 
 }  // namespace
 
-IndicatorWidget::IndicatorWidget(CheckBox& box, QWidget* parent) : QWidget(parent), box_(box) {
-  Bind(*this, box, [this] { update(); });
+IndicatorWidget::IndicatorWidget(CheckBox& box, const Label& title, QWidget* parent)
+    : QLabel(parent), box_(box), title_(title) {
+  QFont large = Bold(font());
+  large.setPointSizeF(kScale * QFontInfo(large).pointSizeF());
+  setFont(large);
+  setAlignment(Qt::AlignCenter);
+  setTextFormat(Qt::PlainText);
+  Bind(*this, box, [this] { Draw(); });
 }
 
 QSize IndicatorWidget::sizeHint() const {
-  const QFontMetrics metrics(LargeFont(*this));
-  return {std::max(metrics.horizontalAdvance(FromBytes(box_.Caption())) + 4 * kApart, kLeastWidth),
-          std::max(metrics.height() + 2 * kApart, kLeastHeight)};
+  const QSize margins(4 * kApart, 2 * kApart);
+  return (QLabel::sizeHint() + margins).expandedTo({kLeastWidth, kLeastHeight});
+}
+
+void IndicatorWidget::Draw() {
+  const QString state = FromBytes(box_.Caption());
+  setText(state);
+  setAccessibleName(FromBytes(title_.Caption()) + QStringLiteral(": ") + state);
+  // A state that is on shows white on its colour; one that is off stays as quiet as a field.
+  const bool on = box_.ColourTone() == CheckBox::Tone::kOn;
+  QPalette palette = parentWidget()->palette();
+  palette.setColor(QPalette::Window, QColor(on ? colours::kOnAir : colours::kDisplay));
+  palette.setColor(QPalette::WindowText, QColor(on ? colours::kField : colours::kQuietText));
+  setPalette(palette);
+}
+
+void IndicatorWidget::showEvent(QShowEvent* event) {
+  Draw();  // the title may have come after the state
+  QLabel::showEvent(event);
 }
 
 void IndicatorWidget::mousePressEvent(QMouseEvent* event) {
-  // It only shows: a press changes nothing, and leaves the keyboard where it is.
+  // The keyboard stays where it is.
   event->accept();
 }
 
-void IndicatorWidget::paintEvent(QPaintEvent* /*event*/) {
-  // A state that is on shows white on its colour; one that is off stays as quiet as a field.
-  QRgb ground = colours::kDisplay;
-  QRgb text = colours::kQuietText;
-  if (box_.ColourTone() == CheckBox::Tone::kOn) {
-    ground = colours::kOnAir;
-    text = colours::kField;
+void IndicatorWidget::paintEvent(QPaintEvent* event) {
+  {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().window());
+    painter.drawRoundedRect(rect(), kCorner, kCorner);
   }
-  QPainter painter(this);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(ground));
-  painter.drawRoundedRect(rect(), kCorner, kCorner);
-  painter.setFont(LargeFont(*this));
-  painter.setPen(QColor(text));
-  painter.drawText(rect(), Qt::AlignCenter, FromBytes(box_.Caption()));
+  QLabel::paintEvent(event);
 }
 
 }  // namespace corvalis::desktop

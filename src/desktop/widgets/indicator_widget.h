@@ -1,16 +1,17 @@
 #pragma once
 
-#include <QWidget>
+#include <QLabel>
 
 #include "screen/check_box.h"
 
 namespace corvalis::desktop {
 
 /// A state of the station on the air, in large letters on a ground of its colour, to be read from
-/// across the room. A click goes to the form, which keeps the state as it is.
-class IndicatorWidget : public QWidget {
+/// across the room. It only shows: a click changes nothing.
+class IndicatorWidget : public QLabel {
  public:
-  IndicatorWidget(CheckBox& box, QWidget* parent);
+  /// `title` says what it is the state of; the two together are its accessible name.
+  IndicatorWidget(CheckBox& box, const Label& title, QWidget* parent);
 
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
@@ -18,9 +19,13 @@ class IndicatorWidget : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
+  void showEvent(QShowEvent* event) override;
 
  private:
+  void Draw();
+
   CheckBox& box_;
+  const Label& title_;
 };
 
 }  // namespace corvalis::desktop

@@ -2,8 +2,22 @@
 
 #include "desktop/text.h"
 #include "desktop/widgets/binding.h"
+#include "desktop/widgets/style.h"
 
 namespace corvalis::desktop {
+
+void Naming::Name(QWidget* widget) {
+  named_.emplace_back(widget);
+  widget->setAccessibleName(caption_);
+}
+
+void Naming::Call(const QString& caption) {
+  if (caption_ == caption) return;
+  caption_ = caption;
+  for (const auto& widget : named_) {
+    if (widget) widget->setAccessibleName(caption);
+  }
+}
 
 LabelWidget::LabelWidget(Label& label, QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
@@ -11,11 +25,24 @@ LabelWidget::LabelWidget(Label& label, QWidget* parent) : QLabel(parent) {
     const QString caption = FromBytes(label.Caption());
     if (text() != caption) setText(caption);
     if (caption.isEmpty()) hide();
+    Call(caption);
   });
 }
 
 LabelledGroup::LabelledGroup(Label& label, QWidget* parent) : QGroupBox(parent) {
-  Bind(*this, label, [this, &label] { setTitle(FromBytes(label.Caption())); });
+  Bind(*this, label, [this, &label] {
+    const QString caption = FromBytes(label.Caption());
+    setTitle(caption);
+    Call(caption);
+  });
+}
+
+QLabel* QuietText(const QString& text, QWidget* parent) {
+  auto* label = new QLabel(text, parent);
+  QPalette palette = label->palette();
+  palette.setColor(QPalette::WindowText, QColor(colours::kQuietText));
+  label->setPalette(palette);
+  return label;
 }
 
 }  // namespace corvalis::desktop

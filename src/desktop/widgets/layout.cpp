@@ -2,6 +2,7 @@
 
 #include "desktop/widgets/button_widget.h"
 #include "desktop/widgets/label_widget.h"
+#include "desktop/widgets/spinner_widget.h"
 #include "desktop/widgets/style.h"
 #include "desktop/widgets/text_box_widget.h"
 
@@ -14,6 +15,17 @@ Box* Bare(QWidget* parent) {
   auto* box = new Box(parent);
   box->setContentsMargins(0, 0, 0, 0);
   box->setSpacing(kNear);
+  return box;
+}
+
+// Returns what has the keyboard in `field`.
+QWidget* AppendField(QGridLayout& fields, QLabel* caption, QWidget* field) {
+  QWidget* box = field->focusProxy() == nullptr ? field : field->focusProxy();
+  const int row = fields.rowCount();
+  caption->setBuddy(box);
+  fields.addWidget(caption, row, 0, Qt::AlignLeft | Qt::AlignVCenter);
+  const bool fixed = field->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
+  fields.addWidget(field, row, 1, fixed ? Qt::AlignLeft : Qt::Alignment());
   return box;
 }
 
@@ -39,25 +51,30 @@ QGridLayout* Fields(QWidget* group) {
 }
 
 void AddField(QGridLayout& fields, Label& label, QWidget* field) {
-  const int row = fields.rowCount();
   auto* caption = new LabelWidget(label, field->parentWidget());
-  caption->setBuddy(field);
-  fields.addWidget(caption, row, 0, Qt::AlignLeft | Qt::AlignVCenter);
-  const bool fixed = field->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed;
-  fields.addWidget(field, row, 1, fixed ? Qt::AlignLeft : Qt::Alignment());
+  QWidget* box = AppendField(fields, caption, field);
+  caption->Name(box);
+  for (auto* spinner : field->findChildren<SpinnerWidget*>()) {
+    if (spinner->accessibleName().isEmpty()) caption->Name(spinner);
+  }
+}
+
+void AddField(QGridLayout& fields, const QString& word, QWidget* field) {
+  QWidget* box = AppendField(fields, new QLabel(word, field->parentWidget()), field);
+  box->setAccessibleName(word);
 }
 
 void AddLine(QGridLayout& fields, QWidget* line) {
   fields.addWidget(line, fields.rowCount(), 0, 1, 2);
 }
 
-QWidget* FixedBox(TextBox& box, int columns, QWidget* parent) {
+QLineEdit* FixedBox(TextBox& box, int columns, QWidget* parent) {
   auto* widget = new TextBoxWidget(box, columns, parent);
   widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   return widget;
 }
 
-QWidget* CodeBox(TextBox& box, int columns, QWidget* parent) {
+QLineEdit* CodeBox(TextBox& box, int columns, QWidget* parent) {
   auto* widget = new TextBoxWidget(box, columns, parent);
   widget->setFont(DigitsFont());
   widget->setAlignment(Qt::AlignHCenter);

@@ -2,6 +2,7 @@
 
 #include <QBoxLayout>
 #include <QGridLayout>
+#include <QLineEdit>
 #include <initializer_list>
 
 #include "screen/button.h"
@@ -23,14 +24,17 @@ namespace corvalis::desktop {
 /// the room that is left.
 [[nodiscard]] QGridLayout* Fields(QWidget* group);
 /// Appends a line to `fields`: `label` and `field`, which keeps its width if it has a fixed one.
+/// The label names what has the keyboard in `field`, and its spinner.
 void AddField(QGridLayout& fields, Label& label, QWidget* field);
+/// The same with a word that is the same in every language.
+void AddField(QGridLayout& fields, const QString& word, QWidget* field);
 /// Appends a line over both columns.
 void AddLine(QGridLayout& fields, QWidget* line);
 
 /// A box of so many digits, no wider.
-[[nodiscard]] QWidget* FixedBox(TextBox& box, int columns, QWidget* parent);
+[[nodiscard]] QLineEdit* FixedBox(TextBox& box, int columns, QWidget* parent);
 /// The same for a code that stands on its own and is read digit by digit.
-[[nodiscard]] QWidget* CodeBox(TextBox& box, int columns, QWidget* parent);
+[[nodiscard]] QLineEdit* CodeBox(TextBox& box, int columns, QWidget* parent);
 
 /// A row of buttons of equal width, from the left. Hidden ones take no room.
 [[nodiscard]] QWidget* ButtonRow(std::initializer_list<Button*> buttons, QWidget* parent);

@@ -16,7 +16,7 @@ namespace corvalis::desktop {
 
 namespace {
 
-constexpr double kMargin = kNear - 2;  // the frame is the rest of what a box of one line has
+constexpr int kFrame = 2;  // the rest of what a box of one line has
 
 /// The length of the line end at `at`: CR LF, CR or LF; 0 if there is none.
 std::size_t LineEnd(const std::string& bytes, std::size_t at) {
@@ -57,7 +57,7 @@ std::string WithLineEnds(const QString& text) {
 
 MemoWidget::MemoWidget(TextBox& box, QWidget* parent) : QPlainTextEdit(parent), box_(box) {
   setTabChangesFocus(true);
-  document()->setDocumentMargin(kMargin);
+  document()->setDocumentMargin(kNear - kFrame);
   connect(this, &QPlainTextEdit::textChanged, this, [this] { TellEdit(); });
   connect(this, &QPlainTextEdit::selectionChanged, this, [this] { TellSelection(); });
   connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { TellSelection(); });

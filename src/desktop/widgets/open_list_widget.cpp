@@ -1,8 +1,13 @@
 #include "desktop/widgets/open_list_widget.h"
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScrollBar>
+#include <QStyledItemDelegate>
+#include <QTextDocument>
+#include <QToolTip>
 
 #include "desktop/text.h"
 #include "desktop/widgets/binding.h"
@@ -14,8 +19,32 @@ namespace corvalis::desktop {
 
 namespace {
 constexpr int kRows = 8;
-constexpr int kLeastWidth = 180;
+constexpr Length kLeastWidth{180};
 constexpr qsizetype kIndent = 3;  // blanks per depth
+
+/// Draws entries as wide as the list, and shows in a tip what finds no room there.
+class NameDelegate : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
+                               const QModelIndex& index) const override {
+    return {0, QStyledItemDelegate::sizeHint(option, index).height()};
+  }
+
+  bool helpEvent(QHelpEvent* event, QAbstractItemView* view, const QStyleOptionViewItem& option,
+                 const QModelIndex& index) override {
+    if (event->type() != QEvent::ToolTip ||
+        QStyledItemDelegate::sizeHint(option, index).width() <= option.rect.width()) {
+      return QStyledItemDelegate::helpEvent(event, view, option, index);
+    }
+    // Escaped, lest a name is taken for markup.
+    const QString name = Qt::convertFromPlainText(index.data().toString().trimmed());
+    QToolTip::showText(event->globalPos(), name, view, option.rect);
+    return true;
+  }
+};
+
 }  // namespace
 
 OpenListWidget::OpenListWidget(ListBox& list, QWidget* parent, TextBox::Content content)
@@ -35,11 +64,11 @@ void OpenListWidget::ShowOnly() {
 QSize OpenListWidget::sizeHint() const {
   const int row = fontMetrics().height() + kNear;
   const int wide = sizeHintForColumn(0) + 2 * kGap + verticalScrollBar()->sizeHint().width();
-  return {qBound(kLeastWidth, wide, 2 * kLeastWidth), kRows * row + 2 * frameWidth()};
+  return {qBound<int>(kLeastWidth, wide, 2 * kLeastWidth), kRows * row + 2 * frameWidth()};
 }
 
 QString OpenListWidget::Shown(const std::string& entry) const {
-  return FromContent(entry, content_);
+  return Harmless(FromContent(entry, content_));
 }
 
 void OpenListWidget::Draw() {
@@ -107,14 +136,44 @@ void OpenListWidget::focusOutEvent(QFocusEvent* event) {
   ShowSelection();
 }
 
+FileListWidget::FileListWidget(ListBox& files, QWidget* parent)
+    : OpenListWidget(files, parent, TextBox::Content::kFileName), files_(files) {
+  setAccessibleName(QStringLiteral("Files"));
+  setTextElideMode(Qt::ElideMiddle);
+  setItemDelegate(new NameDelegate(this));
+}
+
+QSize FileListWidget::sizeHint() const {
+  return {kLeastWidth, OpenListWidget::sizeHint().height()};
+}
+
+void FileListWidget::keyPressEvent(QKeyEvent* event) {
+  const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+  if (command || event->text().isEmpty() || !event->text()[0].isPrint()) {
+    OpenListWidget::keyPressEvent(event);
+    return;
+  }
+  if (!since_typed_.isValid() || since_typed_.hasExpired(QApplication::keyboardInputInterval())) {
+    typed_.clear();
+  }
+  since_typed_.start();
+  typed_ += event->text();
+  for (int i = 0; i < files_.Count(); ++i) {
+    if (!FromFileName(files_.Entry(i)).startsWith(typed_, Qt::CaseInsensitive)) continue;
+    if (i != files_.Index()) files_.Choose(i);
+    return;
+  }
+}
+
 DirListWidget::DirListWidget(DirList& list, QWidget* parent)
-    : OpenListWidget(list, parent, TextBox::Content::kFileName), list_(list) {
+    : FileListWidget(list, parent), list_(list) {
+  setAccessibleName(QStringLiteral("Folders"));
   Draw();
 }
 
 void DirListWidget::Dress(QListWidgetItem& item, int index) {
   const QString indent(list_.Depth(index) * kIndent, u' ');
-  const QString name = indent + FromFileName(list_.Entry(index));
+  const QString name = indent + Shown(list_.Entry(index));
   if (item.text() != name) item.setText(name);
   item.setFont(index == list_.Here() ? Bold(font()) : font());
 }
@@ -128,7 +187,7 @@ void DirListWidget::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
     list_.Open(list_.Index());
   } else {
-    OpenListWidget::keyPressEvent(event);
+    FileListWidget::keyPressEvent(event);
   }
 }
 

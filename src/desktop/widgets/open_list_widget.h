@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QListWidget>
 #include <string>
 #include <vector>
@@ -30,11 +31,11 @@ class OpenListWidget : public QListWidget {
   /// Called for each entry when the list has changed.
   virtual void Dress(QListWidgetItem& item, int index);
   void Draw();
+  [[nodiscard]] QString Shown(const std::string& entry) const;
 
  private:
   /// The entry selected stands out more while the list has the keyboard.
   void ShowSelection();
-  [[nodiscard]] QString Shown(const std::string& entry) const;
 
   ListBox& list_;
   TextBox::Content content_;
@@ -42,15 +43,25 @@ class OpenListWidget : public QListWidget {
   bool choosing_ = true;
 };
 
-/// A list of files.
+/// A list of the names of files. One that is too long leaves out its middle and is whole in a tip.
+/// The letters typed choose the first name that begins with them.
 class FileListWidget : public OpenListWidget {
  public:
-  FileListWidget(FileList& list, QWidget* parent)
-      : OpenListWidget(list, parent, TextBox::Content::kFileName) {}
+  FileListWidget(ListBox& files, QWidget* parent);
+
+  [[nodiscard]] QSize sizeHint() const override;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  ListBox& files_;
+  QString typed_;
+  QElapsedTimer since_typed_;
 };
 
 /// The folders around the present one. A double click or Enter opens one.
-class DirListWidget : public OpenListWidget {
+class DirListWidget : public FileListWidget {
  public:
   DirListWidget(DirList& list, QWidget* parent);
 

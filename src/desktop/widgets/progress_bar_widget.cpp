@@ -1,41 +1,43 @@
 #include "desktop/widgets/progress_bar_widget.h"
 
-#include <QPaintEvent>
-#include <QPainter>
-#include <algorithm>
-
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/style.h"
 
 namespace corvalis::desktop {
 
 namespace {
-constexpr int kWidth = 320;
-constexpr int kHeight = 10;
+
+constexpr Length kWidth{120};
+constexpr Length kBusyWidth{320};
+constexpr Length kLeastWidth{56};
+constexpr Length kHeight{10};
+
+constexpr int kPerCent = 100;
+
 }  // namespace
 
-ProgressBarWidget::ProgressBarWidget(ProgressBar& bar, QWidget* parent) : QWidget(parent) {
-  setAttribute(Qt::WA_OpaquePaintEvent);
+ProgressBarWidget::ProgressBarWidget(QWidget* parent) : QProgressBar(parent) {
+  setTextVisible(false);
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  Bind(*this, bar, [this, &bar] {
-    const int before = Filled();
-    value_ = bar.Value();
-    const auto [left, right] = std::minmax({before, Filled()});
-    if (left < right) update(left, 0, right - left, height());
+}
+
+ProgressBarWidget::ProgressBarWidget(Meter& share, QWidget* parent) : ProgressBarWidget(parent) {
+  setRange(0, kPerCent);  // as it is told to whoever does not see it
+  Bind(*this, share, [this, &share] {
+    setValue(qRound(static_cast<double>(share.Value()) * kPerCent / Meter::kMax));
   });
+}
+
+ProgressBarWidget::ProgressBarWidget(ProgressBar& busy, QWidget* parent)
+    : ProgressBarWidget(parent) {
+  setRange(ProgressBar::kMin, ProgressBar::kMax);
+  setMinimumWidth(kBusyWidth);
+  setAccessibleName(QStringLiteral("Busy"));
+  Bind(*this, busy, [this, &busy] { setValue(busy.Value()); });
 }
 
 QSize ProgressBarWidget::sizeHint() const { return {kWidth, kHeight}; }
 
-int ProgressBarWidget::Filled() const {
-  return width() * (value_ - ProgressBar::kMin) / (ProgressBar::kMax - ProgressBar::kMin);
-}
-
-void ProgressBarWidget::paintEvent(QPaintEvent* event) {
-  QPainter painter(this);
-  const QRect full(0, 0, Filled(), height());
-  painter.fillRect(event->rect(), QColor(colours::kFaintBorder));
-  painter.fillRect(event->rect() & full, QColor(colours::kAccent));
-}
+QSize ProgressBarWidget::minimumSizeHint() const { return {kLeastWidth, kHeight}; }
 
 }  // namespace corvalis::desktop

@@ -1,25 +1,23 @@
 #pragma once
 
-#include <QWidget>
+#include <QProgressBar>
 
+#include "screen/meter.h"
 #include "screen/progress_bar.h"
 
 namespace corvalis::desktop {
 
-/// A busy bar. It is drawn anew only where a pixel changes, as it moves while the program works.
-class ProgressBarWidget : public QWidget {
+/// A bar: how much of a whole something takes, or that the program is busy.
+class ProgressBarWidget : public QProgressBar {
  public:
-  ProgressBarWidget(ProgressBar& bar, QWidget* parent);
+  ProgressBarWidget(Meter& share, QWidget* parent);
+  ProgressBarWidget(ProgressBar& busy, QWidget* parent);
 
   [[nodiscard]] QSize sizeHint() const override;
-
- protected:
-  void paintEvent(QPaintEvent* event) override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  private:
-  [[nodiscard]] int Filled() const;
-
-  int value_ = ProgressBar::kMin;
+  explicit ProgressBarWidget(QWidget* parent);
 };
 
 }  // namespace corvalis::desktop

@@ -5,6 +5,8 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QSignalBlocker>
+#include <QWheelEvent>
 
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/style.h"
@@ -13,73 +15,53 @@
 namespace corvalis::desktop {
 
 namespace {
-constexpr int kWidth = 26;
-constexpr int kFirstRepeatMs = 400;
-constexpr int kRepeatMs = 60;
+constexpr Length kWidth{26};
 }  // namespace
 
 SpinnerWidget::SpinnerWidget(Spinner& spinner, QWidget* parent)
-    : QWidget(parent), spinner_(spinner) {
+    : QAbstractSpinBox(parent), spinner_(spinner) {
+  lineEdit()->hide();
+  setContextMenuPolicy(Qt::NoContextMenu);
   setFocusPolicy(Qt::StrongFocus);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Preferred);
-  connect(&repeat_, &QTimer::timeout, this, [this] { Step(); });
-  Bind(*this, spinner, [this] { update(); });
+  Bind(*this, spinner, [] {});
+}
+
+void SpinnerWidget::Moves(const QLineEdit& box) {
+  const auto show = [this](const QString& text) {
+    const QSignalBlocker silent(lineEdit());  // its text is no input
+    lineEdit()->setText(text);
+  };
+  show(box.text());
+  connect(&box, &QLineEdit::textChanged, this, show);
 }
 
 QSize SpinnerWidget::sizeHint() const { return {kWidth, kControlHeight}; }
 
-void SpinnerWidget::Step() {
-  repeat_.start(repeat_.isActive() ? kRepeatMs : kFirstRepeatMs);
-  update();
-  if (held_ == Half::kUp) {
-    spinner_.PressUp();
-  } else {
-    spinner_.PressDown();
-  }
+QAbstractSpinBox::StepEnabled SpinnerWidget::stepEnabled() const {
+  return StepUpEnabled | StepDownEnabled;
 }
 
-void SpinnerWidget::LetGo() {
-  repeat_.stop();
-  held_ = Half::kNone;
-  update();
+void SpinnerWidget::stepBy(int steps) {
+  for (; steps > 0; --steps) spinner_.PressUp();
+  for (; steps < 0; ++steps) spinner_.PressDown();
 }
 
 void SpinnerWidget::mousePressEvent(QMouseEvent* event) {
   // Without the focus the press is void: the control left has taken it back.
-  if (event->button() != Qt::LeftButton || !hasFocus()) return;
-  held_ = event->position().y() < height() / 2.0 ? Half::kUp : Half::kDown;
-  Step();
+  if (hasFocus()) QAbstractSpinBox::mousePressEvent(event);
 }
 
-void SpinnerWidget::mouseReleaseEvent(QMouseEvent* /*event*/) { LetGo(); }
-
-void SpinnerWidget::focusOutEvent(QFocusEvent* event) {
-  LetGo();
-  QWidget::focusOutEvent(event);
-}
+void SpinnerWidget::wheelEvent(QWheelEvent* event) { event->ignore(); }
 
 void SpinnerWidget::keyPressEvent(QKeyEvent* event) {
   if (event->key() == Qt::Key_Up) {
-    spinner_.PressUp();
+    stepBy(+1);
   } else if (event->key() == Qt::Key_Down) {
-    spinner_.PressDown();
+    stepBy(-1);
   } else {
-    QWidget::keyPressEvent(event);
+    event->ignore();
   }
-}
-
-void SpinnerWidget::paintEvent(QPaintEvent* /*event*/) {
-  QPainter painter(this);
-  const QRect up(0, 0, width(), height() / 2);
-  const QRect down(0, up.height(), width(), height() - up.height());
-  if (held_ != Half::kNone) {
-    painter.fillRect(held_ == Half::kUp ? up : down, QColor(colours::kPressed));
-  }
-  DrawArrow(painter, QRectF(up).translated(0, 1), true, isEnabled());
-  DrawArrow(painter, QRectF(down).translated(0, -1), false, isEnabled());
-  // Within a field, the field shows the focus.
-  const bool alone = (focusPolicy() & Qt::TabFocus) != 0;
-  if (alone && hasFocus()) DrawFocusRing(painter, rect());
 }
 
 SpinField::SpinField(TextBox& box, Spinner& spinner, int columns, QWidget* parent)
@@ -89,6 +71,9 @@ SpinField::SpinField(TextBox& box, Spinner& spinner, int columns, QWidget* paren
   box_ = number;
   spinner_ = new SpinnerWidget(spinner, this);
   spinner_->setFocusPolicy(Qt::ClickFocus);  // the box steps it from the keyboard
+  spinner_->setFrame(false);
+  spinner_->Moves(*box_);
+  setFocusProxy(box_);
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(2, 2, 2, 2);
   row->setSpacing(0);
@@ -98,6 +83,11 @@ SpinField::SpinField(TextBox& box, Spinner& spinner, int columns, QWidget* paren
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   box_->installEventFilter(this);
   spinner_->installEventFilter(this);
+}
+
+void SpinField::Name(const QString& name) {
+  box_->setAccessibleName(name);
+  spinner_->setAccessibleName(name);
 }
 
 bool SpinField::eventFilter(QObject* watched, QEvent* event) {

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <QAbstractSpinBox>
 #include <QLineEdit>
-#include <QTimer>
 #include <QWidget>
 
 #include "screen/spinner.h"
@@ -10,27 +10,25 @@
 namespace corvalis::desktop {
 
 /// Two arrows, one above the other, that step while they are held. From the keyboard: up and down.
-class SpinnerWidget : public QWidget {
+class SpinnerWidget : public QAbstractSpinBox {
  public:
   SpinnerWidget(Spinner& spinner, QWidget* parent);
 
+  /// The spinner's value is what `box` shows, for whoever does not see the two side by side.
+  void Moves(const QLineEdit& box);
+
+  void stepBy(int steps) override;
   [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
-  void paintEvent(QPaintEvent* event) override;
+  [[nodiscard]] StepEnabled stepEnabled() const override;
   void mousePressEvent(QMouseEvent* event) override;
-  void mouseReleaseEvent(QMouseEvent* event) override;
+  void wheelEvent(QWheelEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
-  void focusOutEvent(QFocusEvent* event) override;
 
  private:
-  enum class Half { kNone, kUp, kDown };
-  void Step();
-  void LetGo();
-
   Spinner& spinner_;
-  Half held_ = Half::kNone;
-  QTimer repeat_;
 };
 
 /// A box and the spinner that moves its number, as one field.
@@ -39,6 +37,9 @@ class SpinField : public QWidget {
   /// `columns` is the width of the box in digits.
   SpinField(TextBox& box, Spinner& spinner, int columns, QWidget* parent);
 
+  /// The accessible name of both.
+  void Name(const QString& name);
+
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  protected:
@@ -46,7 +47,7 @@ class SpinField : public QWidget {
 
  private:
   QLineEdit* box_;
-  QWidget* spinner_;
+  SpinnerWidget* spinner_;
 };
 
 }  // namespace corvalis::desktop

@@ -17,9 +17,11 @@ namespace {
 
 constexpr double kCorner = 4;
 constexpr double kRing = 2;
-constexpr double kPointSize = 10.5;
-constexpr double kDigitsPointSize = 16;
-constexpr int kArrowWidth = 28;
+constexpr double kDigitsScale = 1.5;  // of a code that is read digit by digit
+constexpr Length kArrowWidth{28};
+constexpr Length kSquare{18};  // of a check box
+constexpr int kFirstRepeatMs = 400;
+constexpr int kRepeatMs = 60;
 
 void Box(QPainter& painter, const QRect& rect, QRgb ground, QRgb border, double width) {
   painter.save();
@@ -63,6 +65,55 @@ void DrawTab(QPainter& painter, const QStyleOptionTab& tab) {
   }
 }
 
+// The palette of the box says its colours: `Highlight` checked, `Dark` not.
+void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
+  const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+  const bool checked = option.state.testFlag(QStyle::State_On);
+  QRgb edge = option.palette.color(checked ? QPalette::Highlight : QPalette::Dark).rgb();
+  QRgb fill = checked ? edge : colours::kField;
+  if (enabled && !checked && option.state.testFlag(QStyle::State_MouseOver)) fill = colours::kHover;
+  if (!enabled) {
+    edge = colours::kDisabledText;
+    fill = checked ? edge : colours::kWindow;
+  }
+  Box(painter, option.rect, fill, edge, 1);
+  if (!checked) return;
+  const QRectF square = option.rect;
+  const auto at = [&square](double x, double y) {
+    return square.topLeft() + QPointF(x * square.width(), y * square.height());
+  };
+  const QPointF tick[] = {at(0.25, 0.53), at(0.42, 0.70), at(0.75, 0.31)};
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(colours::kField), square.width() / 9, Qt::SolidLine, Qt::RoundCap,
+                      Qt::RoundJoin));
+  painter.drawPolyline(tick, 3);
+  painter.restore();
+}
+
+void DrawBar(QPainter& painter, const QStyleOptionProgressBar& bar) {
+  painter.fillRect(bar.rect, QColor(colours::kFaintBorder));
+  QRectF full = bar.rect;
+  full.setWidth(full.width() * (bar.progress - bar.minimum) / (bar.maximum - bar.minimum));
+  painter.fillRect(full, QColor(colours::kAccent));
+}
+
+// The arrows of a spinner alone: its number stands in a box beside it.
+void DrawSpinner(QPainter& painter, const QStyleOptionSpinBox& spinner, const QRect& up,
+                 const QRect& down) {
+  if (spinner.state.testFlag(QStyle::State_Sunken)) {
+    const bool upper = spinner.activeSubControls.testFlag(QStyle::SC_SpinBoxUp);
+    painter.fillRect(upper ? up : down, QColor(colours::kPressed));
+  }
+  const bool enabled = spinner.state.testFlag(QStyle::State_Enabled);
+  DrawArrow(painter, QRectF(up).translated(0, 1), true, enabled);
+  DrawArrow(painter, QRectF(down).translated(0, -1), false, enabled);
+  // Within a field, the field shows the focus.
+  if (spinner.frame && spinner.state.testFlag(QStyle::State_HasFocus)) {
+    DrawFocusRing(painter, spinner.rect);
+  }
+}
+
 QPalette LightPalette() {
   QPalette palette;
   const auto set = [&palette](QPalette::ColorRole role, QRgb colour) {
@@ -75,6 +126,7 @@ QPalette LightPalette() {
   set(QPalette::Text, colours::kText);
   set(QPalette::Button, colours::kField);
   set(QPalette::ButtonText, colours::kText);
+  set(QPalette::Dark, colours::kBorder);
   set(QPalette::Highlight, colours::kAccent);
   set(QPalette::HighlightedText, colours::kField);
   set(QPalette::ToolTipBase, colours::kText);
@@ -91,6 +143,10 @@ QPalette LightPalette() {
 }
 
 }  // namespace
+
+Length::operator int() const {
+  return qRound(usual_ * QFontMetricsF(QApplication::font()).height() / kUsualLine);
+}
 
 void DrawField(QPainter& painter, const QRect& rect, FieldLook look) {
   const bool focus = look.focus && look.enabled;
@@ -111,16 +167,15 @@ void DrawFocusRing(QPainter& painter, const QRect& rect) {
 }
 
 void DrawArrow(QPainter& painter, const QRectF& rect, bool up, bool enabled) {
-  constexpr double kHalfWidth = 4;
-  constexpr double kHalfHeight = 2;
-  const double tip = up ? -kHalfHeight : kHalfHeight;
+  const int half_width = kTight;
+  const double tip = (up ? -half_width : half_width) / 2.0;
   const QPointF middle = rect.center();
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(QColor(enabled ? colours::kText : colours::kDisabledText), 1.6, Qt::SolidLine,
                       Qt::RoundCap, Qt::RoundJoin));
-  const QPointF points[] = {middle + QPointF(-kHalfWidth, -tip), middle + QPointF(0, tip),
-                            middle + QPointF(kHalfWidth, -tip)};
+  const QPointF points[] = {middle + QPointF(-half_width, -tip), middle + QPointF(0, tip),
+                            middle + QPointF(half_width, -tip)};
   painter.drawPolyline(points, 3);
   painter.restore();
 }
@@ -132,6 +187,9 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
   switch (element) {
     case PE_PanelButtonCommand:
       DrawButton(*painter, *option);
+      return;
+    case PE_IndicatorCheckBox:
+      DrawCheckBox(*painter, *option);
       return;
     case PE_PanelLineEdit: {
       const auto* frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
@@ -182,7 +240,27 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
       return;
     }
   }
+  if (element == CE_ProgressBar) {
+    if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option)) {
+      DrawBar(*painter, *bar);
+      return;
+    }
+  }
   QProxyStyle::drawControl(element, option, painter, widget);
+}
+
+QRect Style::subElementRect(SubElement element, const QStyleOption* option,
+                            const QWidget* widget) const {
+  switch (element) {
+    case SE_CheckBoxClickRect:
+    case SE_CheckBoxFocusRect:
+      return option->rect;
+    case SE_CheckBoxIndicator:
+    case SE_CheckBoxContents:
+      return QProxyStyle::subElementRect(element, option, widget).translated(kTight, 0);
+    default:
+      return QProxyStyle::subElementRect(element, option, widget);
+  }
 }
 
 void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
@@ -193,6 +271,13 @@ void Style::drawComplexControl(ComplexControl control, const QStyleOptionComplex
     arrow.setLeft(arrow.right() - kArrowWidth);
     DrawArrow(*painter, arrow, false, option->state.testFlag(State_Enabled));
     return;
+  }
+  if (control == CC_SpinBox) {
+    if (const auto* spinner = qstyleoption_cast<const QStyleOptionSpinBox*>(option)) {
+      DrawSpinner(*painter, *spinner, subControlRect(control, spinner, SC_SpinBoxUp, widget),
+                  subControlRect(control, spinner, SC_SpinBoxDown, widget));
+      return;
+    }
   }
   if (control == CC_GroupBox) {
     if (const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option)) {
@@ -220,6 +305,13 @@ QRect Style::subControlRect(ComplexControl control, const QStyleOptionComplex* o
     // The text begins where that of a text box does.
     return option->rect.adjusted(kNear - 2, kTight / 2, -kArrowWidth, -kTight / 2);
   }
+  if (control == CC_SpinBox) {
+    const QRect& whole = option->rect;
+    const int upper = whole.height() / 2;
+    if (part == SC_SpinBoxUp) return {whole.left(), whole.top(), whole.width(), upper};
+    if (part == SC_SpinBoxDown) return whole.adjusted(0, upper, 0, 0);
+    return part == SC_SpinBoxFrame ? whole : QRect();
+  }
   if (control == CC_GroupBox && (part == SC_GroupBoxFrame || part == SC_GroupBoxContents)) {
     const auto* box = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
     QRect frame = option->rect;
@@ -245,6 +337,8 @@ QSize Style::sizeFromContents(ContentsType type, const QStyleOption* option, con
       return whole.expandedTo(QSize(size.width() + kApart, kControlHeight + kTight));
     case CT_ItemViewItem:
       return whole + QSize(0, kTight);
+    case CT_CheckBox:
+      return whole + QSize(2 * kTight, 2 * kTight);
     default:
       return whole;
   }
@@ -265,6 +359,11 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
       return kGap;
     case PM_FocusFrameHMargin:
       return kTight;
+    case PM_IndicatorWidth:
+    case PM_IndicatorHeight:
+      return kSquare;
+    case PM_CheckBoxLabelSpacing:
+      return kNear;
     case PM_ButtonShiftHorizontal:
     case PM_ButtonShiftVertical:
       return 0;
@@ -284,6 +383,10 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
       return 0;
     case SH_ToolTipLabel_Opacity:
       return 255;
+    case SH_SpinBox_ClickAutoRepeatThreshold:
+      return kFirstRepeatMs;
+    case SH_SpinBox_ClickAutoRepeatRate:
+      return kRepeatMs;
     default:
       return QProxyStyle::styleHint(hint, option, widget, data);
   }
@@ -295,7 +398,6 @@ void ApplyStyle(QApplication& application) {
   QToolTip::setPalette(LightPalette());
   QFont font = QApplication::font();
   if (QFontDatabase::hasFamily(QStringLiteral("Inter"))) font.setFamily(QStringLiteral("Inter"));
-  font.setPointSizeF(kPointSize);
   QApplication::setFont(font);
   application.setEffectEnabled(Qt::UI_AnimateCombo, false);
 }
@@ -307,7 +409,7 @@ QFont Bold(QFont base) {
 
 QFont DigitsFont() {
   QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-  font.setPointSizeF(kDigitsPointSize);
+  font.setPointSizeF(kDigitsScale * QFontInfo(QApplication::font()).pointSizeF());
   return font;
 }
 

@@ -23,21 +23,33 @@ inline constexpr QRgb kAccent = 0xff0a67a6;
 inline constexpr QRgb kHover = 0xffe8f1f8;
 inline constexpr QRgb kPressed = 0xffcfe2f0;
 inline constexpr QRgb kOnAir = 0xffc62828;  ///< what the whole audience hears now
-inline constexpr QRgb kOn = 0xff1f7a45;     ///< what is switched on, and the ground it stands on
-inline constexpr QRgb kOnGround = 0xffdff1e6;
-inline constexpr QRgb kOff = 0xffb3362c;  ///< what is switched off
-inline constexpr QRgb kOffGround = 0xfff8e3e1;
+inline constexpr QRgb kOn = 0xff1f7a45;     ///< what is switched on
+inline constexpr QRgb kOff = 0xffb27d77;    ///< what is switched off: red, but no alarm
 }  // namespace colours
 
-/// The distances of every layout, in device-independent pixels.
-inline constexpr int kTight = 4;
-inline constexpr int kNear = 8;
-inline constexpr int kGap = 12;
-inline constexpr int kApart = 16;
+/// A length that grows with the program's font, so that whoever needs larger letters gets room for
+/// them. Converts to device-independent pixels.
+class Length {
+ public:
+  /// `usual` is the length, in pixels, where a line of text is `kUsualLine` pixels high.
+  constexpr explicit Length(int usual) : usual_(usual) {}
+  operator int() const;  // NOLINT(google-explicit-constructor): lengths are reckoned with
+
+  static constexpr int kUsualLine = 17;
+
+ private:
+  int usual_;
+};
+
+/// The distances of every layout.
+inline constexpr Length kTight{4};
+inline constexpr Length kNear{8};
+inline constexpr Length kGap{12};
+inline constexpr Length kApart{16};
 
 /// The height of a one-line control, and of a button that opens a screen.
-inline constexpr int kControlHeight = 34;
-inline constexpr int kLargeHeight = 46;
+inline constexpr Length kControlHeight{34};
+inline constexpr Length kLargeHeight{46};
 
 /// How every control of the program looks: flat, with a ring of the accent colour around whatever
 /// has the keyboard, and grey where a field only shows.
@@ -49,6 +61,8 @@ class Style : public QProxyStyle {
                      const QWidget* widget) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
                    const QWidget* widget) const override;
+  [[nodiscard]] QRect subElementRect(SubElement element, const QStyleOption* option,
+                                     const QWidget* widget) const override;
   void drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                           QPainter* painter, const QWidget* widget) const override;
   [[nodiscard]] QRect subControlRect(ComplexControl control, const QStyleOptionComplex* option,

@@ -45,6 +45,7 @@ bool IsEditCommand(QKeyEvent& event) {
 TextBoxWidget::TextBoxWidget(TextBox& box, int columns, QWidget* parent)
     : QLineEdit(parent), box_(box), columns_(columns) {
   setDragEnabled(false);
+  if (FileName()) setAccessibleName(QStringLiteral("File name"));
   setTextMargins(kTight, 0, kTight, 0);
   setSizePolicy(columns == 0 ? QSizePolicy::Expanding : QSizePolicy::Fixed, QSizePolicy::Fixed);
   connect(this, &QLineEdit::textEdited, this, [this] { TellEdit(); });
