@@ -258,9 +258,9 @@ void SendAddress(std::string_view block, bool is_new) {
 
 void SendIh(std::int16_t page, std::string_view text, std::int16_t rotation) {
   const std::string characters = Padded(text, kIhCharacters);
-  for (int block = 0; block < kIhBlocks; ++block) {
-    const auto begin = static_cast<std::size_t>(block * kIhBlockCharacters);
-    SendItem(CommandCode::kIh, static_cast<std::uint8_t>(block), kIh, [&](BodyWriter& body) {
+  for (std::uint8_t block = 0; block < kIhBlocks; ++block) {
+    const std::size_t begin = std::size_t{block} * kIhBlockCharacters;
+    SendItem(CommandCode::kIh, block, kIh, [&](BodyWriter& body) {
       WriteIhPage(body, page).Text(std::string_view(characters).substr(begin), kIhBlockCharacters);
     });
     if (LinkError != kLinkOk) return;
@@ -276,11 +276,10 @@ void SendIh(std::int16_t page, std::string_view text, std::int16_t rotation) {
 
 void ReadIh(std::int16_t page, std::string& text, std::int16_t& rotation) {
   std::string characters;
-  for (int block = 0; block < kIhBlocks; ++block) {
+  for (std::uint8_t block = 0; block < kIhBlocks; ++block) {
     LetEventsRun(0);
-    const Frame request =
-        Filled(Frame::Request(CommandCode::kIh, static_cast<std::uint8_t>(block), kIhPageDigits),
-               [&](BodyWriter& body) { WriteIhPage(body, page); });
+    const Frame request = Filled(Frame::Request(CommandCode::kIh, block, kIhPageDigits),
+                                 [&](BodyWriter& body) { WriteIhPage(body, page); });
     ReadItem(request, FrameSize(CommandCode::kIh), kIh, [&](BodyReader& body) {
       body.Raw(kIhPageDigits);
       characters += body.Text(kIhBlockCharacters);

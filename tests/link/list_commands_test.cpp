@@ -182,8 +182,9 @@ TEST_F(ListCommands, KeepAFramesLengthWhateverTheyAreGiven) {
 
 TEST_F(ListCommands, MakeTheBestOfOddAnswers) {
   const auto read = [this](int code, const std::string& body, void (*read)(Values&)) {
-    const Bytes answer = Acknowledged(WholeFrame(code, 0, body));
-    port.answer = [answer](const Bytes&) { return answer; };
+    port.answer = [answer = Acknowledged(WholeFrame(code, 0, body))](const Bytes&) {
+      return answer;
+    };
     Values values{.rotation = 9, .codes = Codes(1, 2, 3), .day = 9, .time = 9min};
     read(values);
     return values;
@@ -279,7 +280,7 @@ std::string Page() {
 }
 
 std::string Block(int block) {
-  return Page().substr(static_cast<std::size_t>(block * kIhBlockCharacters), kIhBlockCharacters);
+  return Page().substr(static_cast<std::size_t>(block) * kIhBlockCharacters, kIhBlockCharacters);
 }
 
 TEST_F(ListCommands, PageTravelsInSeventeenFrames) {
