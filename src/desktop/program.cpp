@@ -56,7 +56,7 @@ Program::~Program() {
 
 void Program::Start() {
   menu_ = std::make_unique<MainForm>();
-  menu_->Ended = [] { QApplication::quit(); };
+  menu_->Ended = [] { QApplication::exit(); };  // quit() would ask the windows first
   menu_->Load();
 }
 

@@ -35,6 +35,20 @@ TEST_F(BusyScreens, TransferScreenAbortsAndClosesOnceForEachPermission) {
   EXPECT_FALSE(form.window.Unload());
 }
 
+TEST_F(BusyScreens, EscHasTheKeyboardWhileATransferRuns) {
+  Start(kLocal);
+  struct Host : ScreenHost {
+    void Shown(Window& window) override { shown = &window; }
+    void Gone(Window& /*window*/) override {}
+    Window* shown = nullptr;
+  } host;
+  Window::SetHost(&host);
+  RunTransfer(screen, {.may_start = {},
+                       .work = [&] { EXPECT_TRUE(host.shown->Find("Command1")->HasFocus()); },
+                       .abort = {}});
+  Window::SetHost(nullptr);
+}
+
 TEST_F(BusyScreens, BracketGoesItsRoad) {
   Start(kLocal);
   std::string order;

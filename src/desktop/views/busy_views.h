@@ -20,6 +20,10 @@ class WaitView : public WindowView {
 class SerialCommunicationView : public WindowView {
  public:
   explicit SerialCommunicationView(SerialCommunicationForm& form);
+
+ protected:
+  /// A press beside the button leaves the keyboard with it.
+  void mousePressEvent(QMouseEvent* /*event*/) override {}
 };
 
 }  // namespace corvalis::desktop

@@ -36,11 +36,12 @@ void ButtonWidget::mousePressEvent(QMouseEvent* event) {
 
 void ButtonWidget::keyPressEvent(QKeyEvent* event) {
   const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (event->isAutoRepeat() && (enter || event->key() == Qt::Key_Escape)) return;
   if (const int key = KeyCode(*event); key != kKeyCancelled) button_.TypeKey(key);
-  if (!enter) {
-    QPushButton::keyPressEvent(event);
-  } else if (!event->isAutoRepeat()) {
+  if (enter) {
     click();
+  } else {
+    QPushButton::keyPressEvent(event);
   }
 }
 

@@ -3,13 +3,19 @@
 #include <QApplication>
 #include <QDialog>
 #include <QEvent>
+#include <QKeyEvent>
 #include <QWindow>
+
+#include "desktop/widgets/front_window.h"
 
 namespace corvalis::desktop {
 
 QtScreenHost::QtScreenHost() {
   Window::SetHost(this);
   qApp->installEventFilter(this);
+  connect(qApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState now) {
+    if (now != Qt::ApplicationActive) held_keys_.Away();
+  });
 }
 
 QtScreenHost::~QtScreenHost() {
@@ -38,7 +44,7 @@ void QtScreenHost::Gone(Window& window) {
   views_.erase(found);
 }
 
-const WindowView* QtScreenHost::ViewUnder(QObject* receiver) const {
+WindowView* QtScreenHost::ViewUnder(QObject* receiver) const {
   if (receiver->isWindowType()) {
     for (const auto& [window, view] : views_) {
       if (view->windowHandle() == receiver) return view;
@@ -48,14 +54,49 @@ const WindowView* QtScreenHost::ViewUnder(QObject* receiver) const {
   if (!receiver->isWidgetType()) return nullptr;
   for (auto* widget = static_cast<QWidget*>(receiver); widget != nullptr;
        widget = widget->parentWidget()) {
-    if (const auto* view = dynamic_cast<WindowView*>(widget)) return view;
+    if (auto* view = dynamic_cast<WindowView*>(widget)) return view;
     // A box in front of a disabled window can be answered.
     if (qobject_cast<QDialog*>(widget) != nullptr) return nullptr;
   }
   return nullptr;
 }
 
+bool QtScreenHost::Swallowed(QWindow& window, QEvent& event) {
+  switch (event.type()) {
+    case QEvent::KeyPress:
+    case QEvent::KeyRelease:
+      return KeyHandled(window, static_cast<QKeyEvent&>(event));
+    case QEvent::MouseButtonPress:
+      last_pressed_ = &window;
+      return false;
+    case QEvent::MouseButtonDblClick:
+      return last_pressed_ != &window && ViewUnder(&window) != nullptr;
+    default:
+      return false;
+  }
+}
+
+bool QtScreenHost::KeyHandled(QWindow& window, QKeyEvent& event) {
+  if (!event.spontaneous()) return false;  // told below
+  QWindow* to = &window;
+  if (WindowView* view = ViewUnder(&window); view != nullptr && !view->TakesInput()) {
+    to = FrontWindow(view)->windowHandle();  // what has not been given the keyboard yet
+  }
+  const bool repeats = held_keys_.Repeats(event);
+  if (to == &window && (event.isAutoRepeat() || !repeats)) return false;
+  QKeyEvent told(event.type(), event.key(), event.modifiers(), event.nativeScanCode(),
+                 event.nativeVirtualKey(), event.nativeModifiers(), event.text(),
+                 repeats || event.isAutoRepeat(), static_cast<quint16>(event.count()));
+  told.setTimestamp(event.timestamp());
+  if (ViewUnder(to) == nullptr || ViewUnder(to)->TakesInput()) {
+    QCoreApplication::sendEvent(to, &told);
+  }
+  event.setAccepted(told.isAccepted());
+  return true;
+}
+
 bool QtScreenHost::eventFilter(QObject* receiver, QEvent* event) {
+  if (receiver->isWindowType() && Swallowed(*static_cast<QWindow*>(receiver), *event)) return true;
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonDblClick:
@@ -77,6 +118,9 @@ bool QtScreenHost::eventFilter(QObject* receiver, QEvent* event) {
       const WindowView* view = ViewUnder(receiver);
       return view != nullptr && !view->TakesInput();
     }
+    case QEvent::WindowActivate:
+      if (auto* view = dynamic_cast<WindowView*>(receiver)) view->HandOver();
+      return false;
     default:
       return false;
   }

@@ -5,13 +5,21 @@
 #include <typeindex>
 #include <unordered_map>
 
+#include "desktop/widgets/held_keys.h"
 #include "desktop/widgets/window_view.h"
 #include "screen/window.h"
+
+class QKeyEvent;
+class QWindow;
 
 namespace corvalis::desktop {
 
 /// Puts the windows of the program on the screen. There is one, and it must outlive all forms.
-/// It also sees to it that a disabled window gets no event from the operator.
+/// It also looks after the operator's hands: a disabled window gets no event, and the keyboard is
+/// with what stands in front of it; a key held down counts as struck once, whatever window it comes
+/// to (each repetition is marked as one, `QKeyEvent::isAutoRepeat`, so a control that a key presses
+/// asks for no more than that); the second press of a double click goes to no window that the first
+/// one has opened.
 class QtScreenHost : public QObject, public ScreenHost {
  public:
   QtScreenHost();
@@ -30,10 +38,15 @@ class QtScreenHost : public QObject, public ScreenHost {
   bool eventFilter(QObject* receiver, QEvent* event) override;
 
  private:
-  [[nodiscard]] const WindowView* ViewUnder(QObject* receiver) const;
+  [[nodiscard]] WindowView* ViewUnder(QObject* receiver) const;
+  // What comes from the window system. True where that is the end of it.
+  [[nodiscard]] bool Swallowed(QWindow& window, QEvent& event);
+  [[nodiscard]] bool KeyHandled(QWindow& window, QKeyEvent& event);
 
   std::unordered_map<std::type_index, std::function<WindowView*(Window&)>> makers_;
   std::unordered_map<Window*, WindowView*> views_;
+  HeldKeys held_keys_;
+  const QWindow* last_pressed_ = nullptr;  // only compared
 };
 
 }  // namespace corvalis::desktop

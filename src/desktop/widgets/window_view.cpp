@@ -10,6 +10,7 @@
 
 #include "desktop/text.h"
 #include "desktop/widgets/binding.h"
+#include "desktop/widgets/front_window.h"
 #include "desktop/widgets/style.h"
 #include "screen/control.h"
 #include "screen/timer.h"
@@ -69,6 +70,20 @@ WindowView::~WindowView() {
 }
 
 bool WindowView::TakesInput() const { return model_ != nullptr && model_->Enabled(); }
+
+void WindowView::HandOver() {
+  if (TakesInput()) return;
+  // Not within the event: the toolkit has not finished with this activation.
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        QWidget* front = FrontWindow(this);
+        if (TakesInput() || front == this || front->isActiveWindow()) return;
+        front->raise();
+        front->activateWindow();
+      },
+      Qt::QueuedConnection);
+}
 
 void WindowView::Present(QWidget* owner) {
   if (timers_.empty()) {
@@ -180,8 +195,15 @@ void WindowView::ShowFocus() {
   }
 }
 
+// The work of closing lets events run. Were it done within the event, a second press of the close
+// box would find the window closing and end it for the toolkit, in the middle of the work.
 void WindowView::closeEvent(QCloseEvent* event) {
   event->ignore();
+  QMetaObject::invokeMethod(
+      this, [this] { CloseModel(); }, Qt::QueuedConnection);
+}
+
+void WindowView::CloseModel() {
   if (model_ == nullptr) return;
   {
     const QScopedValueRollback<bool> guard(in_model_, true);

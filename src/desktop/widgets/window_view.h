@@ -27,6 +27,9 @@ class WindowView : public QWidget {
 
   /// True while the operator may act on the window.
   [[nodiscard]] bool TakesInput() const;
+  /// The window has been activated. A disabled one gives the keyboard to what stands in front of
+  /// it.
+  void HandOver();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -40,6 +43,7 @@ class WindowView : public QWidget {
   void Draw();
   void TakeDown();
   void RunTimers();
+  void CloseModel();
   void PlaceBefore(QWidget& owner);
   void MoveFocus(QWidget* now);
   void ShowFocus();

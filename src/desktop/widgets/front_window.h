@@ -1,0 +1,11 @@
+#pragma once
+
+class QWidget;
+
+namespace corvalis::desktop {
+
+/// The window that stands before all others of the program that `beneath` owns, boxes included;
+/// `beneath` itself if there is none. With null, the one before all others.
+[[nodiscard]] QWidget* FrontWindow(QWidget* beneath);
+
+}  // namespace corvalis::desktop
