@@ -22,14 +22,12 @@ void KnowHomeFolder() {
 }
 
 // A folder of the program's own under the one that `variable` names, else under `otherwise` in the
-// home folder. It is made if it is missing; where that fails, reading finds nothing and writing is
-// passed over, as with any folder that can't be used.
+// home folder. It is made if it is missing; where that fails, the home folder serves.
 std::string OwnFolder(const char* variable, const QString& otherwise) {
   QString base = qEnvironmentVariable(variable);
   if (base.isEmpty() || QDir::isRelativePath(base)) base = QDir::homePath() + otherwise;
   const QString folder = base + QStringLiteral("/corvalis");
-  QDir().mkpath(folder);
-  return ToFileName(folder);
+  return ToFileName(QDir().mkpath(folder) ? folder : QDir::homePath());
 }
 
 }  // namespace

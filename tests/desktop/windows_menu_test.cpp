@@ -47,15 +47,17 @@ TEST_F(WindowsMenuTest, APortThatIsNotThereIsSaidOnceAndAllElseWorks) {
   PressCloseBox(kMain);
 }
 
-TEST_F(WindowsMenuTest, FoldersThatCannotBeMadeDoNotKeepItFromStarting) {
+TEST_F(WindowsMenuTest, WhereItsFoldersCannotBeMadeTheHomeFolderServes) {
+  qputenv("HOME", qgetenv("XDG_DATA_HOME"));
   for (const char* variable : {"XDG_CONFIG_HOME", "XDG_DATA_HOME"}) {
     qputenv(variable, "/proc/nobody");
   }
   program = std::make_unique<desktop::Program>();
   program->Start();
   static_cast<void>(Boxes());  // COM 1 is the machine's own here, there or not
-  hand.Type(kMain, "Text105", "lost");
+  hand.Type(kMain, "Text105", "kept");
   for (const char* button : {"SaveButton", "NewButton"}) hand.Click(kMain, button);
+  EXPECT_NE(ReadFile("../kept.rds"), "");
   OpenIdentity();
   EXPECT_EQ(hand.Shown(kStation, "PiText"), "5000");
 }
