@@ -18,26 +18,12 @@ std::string_view Trim(std::string_view text) {
   return TrimBack(text.substr(std::min(text.find_first_not_of(" \t"), text.size())));
 }
 
-void AppendFolded(std::string& to, std::string_view name) {
-  for (const char c : Trim(name)) {
-    to += c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+/// The name as the index has it.
+std::string Folded(std::string_view name) {
+  std::string folded(Trim(name));
+  for (char& c : folded) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
   }
-}
-
-std::string FoldedSection(std::string_view section) {
-  std::string folded;
-  AppendFolded(folded, section);
-  return folded;
-}
-
-/// The index of the key of a line or of a name. No name in a text holds a line feed, so it can
-/// separate the two.
-std::string FoldedKey(std::string_view section, std::string_view key) {
-  std::string folded;
-  folded.reserve(section.size() + key.size() + 1);
-  AppendFolded(folded, section);
-  folded += '\n';
-  AppendFolded(folded, key);
   return folded;
 }
 
@@ -66,30 +52,28 @@ std::string_view WithoutQuotes(std::string_view value) {
 
 void ProfileDocument::Parse(std::string_view text) {
   pieces_.clear();
-  keys_.clear();
   sections_.clear();
   has_mark_ = text.starts_with(kByteOrderMark);
   if (has_mark_) text.remove_prefix(kByteOrderMark.size());
-  std::string section;
-  Piece* last = nullptr;  // of the section; null where no line counts
+  Section* section = nullptr;  // null where no line counts
   const auto begin_piece = [this] { return pieces_.emplace(pieces_.end()); };
   while (!text.empty()) {
     const std::string_view whole = text.substr(0, std::min(text.find('\n'), text.size() - 1) + 1);
     const std::string_view line = FirstLine(whole);
     text.remove_prefix(whole.size());
     if (const auto name = SectionName(line)) {
-      section = FoldedSection(*name);
-      const auto [entry, first] = sections_.try_emplace(section);
-      last = first ? &entry->second : nullptr;
-      if (first) *last = begin_piece();
+      const auto [entry, first] = sections_.try_emplace(Folded(*name));
+      section = first ? &entry->second : nullptr;
+      if (first) section->last = begin_piece();
     } else if (Trim(line).empty()) {
-      if (pieces_.empty() || (last != nullptr && *last == std::prev(pieces_.end()))) begin_piece();
+      const bool closing = section != nullptr && section->last == std::prev(pieces_.end());
+      if (pieces_.empty() || closing) begin_piece();
     } else {
-      if (sections_.empty()) last = &sections_.try_emplace(section, pieces_.end()).first->second;
-      if (last != nullptr) {
-        const auto [entry, first] = keys_.try_emplace(FoldedKey(section, NameOf(line)));
-        if (first || *last != std::prev(pieces_.end())) *last = begin_piece();
-        if (first) entry->second = *last;
+      if (sections_.empty()) section = &sections_[{}];
+      if (section != nullptr) {
+        const auto [key, first] = section->keys.try_emplace(Folded(NameOf(line)));
+        if (first || section->last != std::prev(pieces_.end())) section->last = begin_piece();
+        if (first) key->second = section->last;
       }
     }
     pieces_.back() += whole;
@@ -108,35 +92,43 @@ std::string ProfileDocument::Text() const {
 
 std::optional<std::string_view> ProfileDocument::Value(std::string_view section,
                                                        std::string_view key) const {
-  const auto found = keys_.find(FoldedKey(section, key));
-  if (found == keys_.end()) return std::nullopt;
+  const auto place = sections_.find(Folded(section));
+  if (place == sections_.end()) return std::nullopt;
+  const auto found = place->second.keys.find(Folded(key));
+  if (found == place->second.keys.end()) return std::nullopt;
   const std::string_view line = FirstLine(*found->second);
   const std::size_t name_end = NameOf(line).size();
   return WithoutQuotes(Trim(line.substr(std::min(name_end + 1, line.size()))));
 }
 
 void ProfileDocument::Set(std::string_view section, std::string_view key, std::string_view value) {
+  key = Trim(key);
   value = Trim(value.substr(0, value.find_first_of("\r\n")));
-  const std::string value_part = std::string("=").append(value);
-  if (const auto found = keys_.find(FoldedKey(section, key)); found != keys_.end()) {
+  const auto [place, new_section] = sections_.try_emplace(Folded(section));
+  auto& [last, keys] = place->second;
+  const std::string_view name = NameOf(key);
+  const auto [found, new_key] = keys.try_emplace(Folded(name));
+  // No line has a key with "=" in its name: such a key is a new one each time.
+  if (!new_key && name.size() == key.size()) {
     const std::string_view line = FirstLine(*found->second);
-    std::string_view name = NameOf(line);
-    if (name.size() == line.size()) name = TrimBack(name);
-    found->second->replace(name.size(), line.size() - name.size(), value_part);
+    std::string_view kept = NameOf(line);
+    if (kept.size() == line.size()) kept = TrimBack(kept);
+    found->second->replace(kept.size(), line.size() - kept.size(), std::string("=").append(value));
     return;
   }
 
-  const auto [entry, is_new] = sections_.try_emplace(FoldedSection(section), pieces_.end());
   Piece at = pieces_.end();
-  if (!is_new) {
-    at = std::next(entry->second);
-  } else if (entry->first.empty()) {
+  if (!new_section) {
+    at = std::next(last);
+  } else if (place->first.empty()) {
     at = pieces_.begin();
   } else {
     Add(at, std::string("[").append(Trim(section)).append("]"));
   }
-  entry->second = Add(at, std::string(Trim(key)) + value_part);
-  keys_.try_emplace(FoldedKey(section, NameOf(key)), entry->second);
+  std::string line;
+  line.reserve(key.size() + value.size() + std::string_view("=\r\n").size());
+  last = Add(at, std::move(line.append(key).append("=").append(value)));
+  if (new_key) found->second = last;
 }
 
 bool ProfileDocument::CanHold(std::string_view section, std::string_view key) {

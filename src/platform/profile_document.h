@@ -44,14 +44,17 @@ class ProfileDocument {
   /// lines that close a section are a piece too.
   using Piece = std::list<std::string>::iterator;
 
+  struct Section {
+    Piece last;  // that isn't blank: behind it goes the section's next key
+    std::unordered_map<std::string, Piece> keys;
+  };
+
   [[nodiscard]] std::string_view LineEnd(Piece before) const;
   Piece Add(Piece before, std::string line);
 
   bool has_mark_ = false;  // a byte order mark comes before all pieces
   std::list<std::string> pieces_;
-  std::unordered_map<std::string, Piece> keys_;
-  // To the last piece of the section that isn't blank, behind which its next key goes.
-  std::unordered_map<std::string, Piece> sections_;
+  std::unordered_map<std::string, Section> sections_;
 };
 
 }  // namespace corvalis

@@ -70,7 +70,8 @@ bool ProfileFile::Edit(std::string_view section, std::string_view key, std::stri
   if (!ProfileDocument::CanHold(section, key)) return false;
   // The commit looks at the file anyhow.
   if (changes_.empty() && !Refresh()) return false;
-  changes_.push_back({std::string(section), std::string(key), std::string(value)});
+  value = value.substr(0, value.find_first_of("\r\n"));
+  for (const std::string_view part : {section, key, value}) changes_.append(part).append("\n");
   document_.Set(section, key, value);
   return true;
 }
@@ -132,7 +133,16 @@ bool ProfileFile::Load() {
 void ProfileFile::Take(std::string text) {
   text_ = std::move(text);
   document_.Parse(text_);
-  for (const auto& [section, key, value] : changes_) document_.Set(section, key, value);
+  std::string_view changes = changes_;
+  const auto next = [&changes] {
+    const std::string_view part = changes.substr(0, changes.find('\n'));
+    changes.remove_prefix(part.size() + 1);
+    return part;
+  };
+  while (!changes.empty()) {
+    const std::string_view section = next(), key = next();
+    document_.Set(section, key, next());
+  }
 }
 
 }  // namespace corvalis

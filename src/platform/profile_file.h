@@ -6,7 +6,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "platform/profile_document.h"
 
@@ -49,18 +48,15 @@ class ProfileFile {
     uid_t owner = 0;
     gid_t group = 0;
   };
-  struct Change {
-    std::string section, key, value;
-  };
 
   bool Refresh();
   bool Load();
   void Take(std::string text);
 
   std::string path_;
-  ProfileDocument document_;     // the file's text with the edits
-  std::string text_;             // the file's text
-  std::vector<Change> changes_;  // the edits, in their order
+  ProfileDocument document_;  // the file's text with the edits
+  std::string text_;          // the file's text
+  std::string changes_;       // the edits, in their order: section, key and value in a line each
   bool loaded_ = false;
   Stamp stamp_;
   /// Whether any later change of the file must show in its stamp.
