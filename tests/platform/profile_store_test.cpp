@@ -403,10 +403,12 @@ TEST_F(OtherUserTest, NobodyElsesFilesBlockASave) {
   WriteFile(file, "[A]\n");
   for (const uid_t owner : {kNobody, uid_t{0}}) {  // of another's file only the text can be changed
     ASSERT_EQ(::chown(file.c_str(), owner, owner), 0);
+    const auto inode = Status(file).st_ino;
     fs::permissions(file, fs::perms(0666));
     EXPECT_EQ(Run([&] { return store.Write(file, "A", "X", std::to_string(owner)); }), 0);
     EXPECT_EQ(ReadFile(file), "[A]\nX=" + std::to_string(owner) + "\n");
     EXPECT_EQ(Status(file).st_uid, owner);
+    EXPECT_EQ(Status(file).st_ino == inode, owner == 0);
   }
   EXPECT_EQ(Litter().size(), 1U);
 }
