@@ -7,10 +7,12 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
+#include <QHelpEvent>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QTabBar>
 #include <QTest>
+#include <QToolTip>
 #include <QVBoxLayout>
 
 #include "desktop/text.h"
@@ -63,6 +65,7 @@ struct Screen {
   ListBox drop{window, "Combo1"};
   ComboBox combo{window, "Combo2"};
   ListBox open{window, "List1"};
+  ListBox files{window, "File1"};
   CheckBox check{window, "Check1"};
   Calendar calendar{window, "Calendar1"};
   Tabs tabs{window, "SSTab1", {"PI", "TP", "DI", "TA"}};
@@ -86,6 +89,7 @@ struct View : WindowView {
   DropDownWidget* drop = new DropDownWidget(screen.drop, this);
   ComboBoxWidget* combo = new ComboBoxWidget(screen.combo, this);
   OpenListWidget* open = new OpenListWidget(screen.open, this);
+  FileListWidget* files = new FileListWidget(screen.files, this);
   CheckBoxWidget* check = new CheckBoxWidget(screen.check, this);
   CalendarWidget* calendar = new CalendarWidget(screen.calendar, this);
   TabsWidget* tabs = new TabsWidget(screen.tabs, this);
@@ -296,6 +300,35 @@ TEST_F(WidgetsTest, AnOpenListGoesWithItsControl) {
     EXPECT_FALSE(view_->drop->view()->isVisible()) << way;
     EXPECT_FALSE(screen_.drop.HasFocus()) << way;
   }
+}
+
+TEST_F(WidgetsTest, ANameOfAnyLengthAndContentCanBeToldFromTheOthers) {
+  const std::string longest = std::string(400, 'x') + "<b>.rds";
+  screen_.files.Fill({"a\nb.rds", "\xE2\x80\xAEsdr.a", "b.rds", longest});
+  EXPECT_EQ(view_->files->item(0)->text(), QStringLiteral(u"a\uFFFDb.rds"));
+  EXPECT_EQ(view_->files->item(1)->text(), QStringLiteral(u"\uFFFDsdr.a"));  // would turn round
+  const QRect drawn = view_->files->visualItemRect(view_->files->item(3));
+  EXPECT_EQ(drawn.width(), view_->files->viewport()->width());
+  EXPECT_EQ(view_->files->textElideMode(), Qt::ElideMiddle);
+  const auto tip_at = [this](int row) {
+    const QPoint at = Middle(*view_->files, row);
+    QHelpEvent help(QEvent::ToolTip, at, view_->files->viewport()->mapToGlobal(at));
+    QCoreApplication::sendEvent(view_->files->viewport(), &help);
+    return QToolTip::text();
+  };
+  EXPECT_TRUE(tip_at(3).contains(QString(400, u'x') + QStringLiteral("&lt;b&gt;.rds")));
+  EXPECT_FALSE(tip_at(2).contains("b.rds"));  // it can be read where it stands
+}
+
+TEST_F(WidgetsTest, TheLettersTypedChooseTheFirstNameThatBeginsWithThem) {
+  screen_.files.Fill({"corvalis.rds", "Nord west.rds", "Nord.rds", "nordost.rds"});
+  view_->files->setFocus();
+  const std::pair<const char*, int> typed[] = {{"n", 1}, {"ord", 1}, {".", 2}, {"x", 2}};
+  for (const auto& [letters, index] : typed) {
+    QTest::keyClicks(view_->files, letters);
+    EXPECT_EQ(screen_.files.Index(), index) << letters;
+  }
+  EXPECT_EQ(view_->files->currentRow(), 2);
 }
 
 TEST_F(WidgetsTest, TheWheelChoosesNothing) {

@@ -147,6 +147,10 @@ QSize FileListWidget::sizeHint() const {
   return {kLeastWidth, OpenListWidget::sizeHint().height()};
 }
 
+QSize FileListWidget::minimumSizeHint() const {
+  return {kLeastWidth, OpenListWidget::minimumSizeHint().height()};
+}
+
 void FileListWidget::keyPressEvent(QKeyEvent* event) {
   const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
   if (command || event->text().isEmpty() || !event->text()[0].isPrint()) {

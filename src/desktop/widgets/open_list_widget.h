@@ -50,6 +50,7 @@ class FileListWidget : public OpenListWidget {
   FileListWidget(ListBox& files, QWidget* parent);
 
   [[nodiscard]] QSize sizeHint() const override;
+  [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
   void keyPressEvent(QKeyEvent* event) override;
