@@ -20,6 +20,7 @@
 #include "desktop/widgets/check_box_widget.h"
 #include "desktop/widgets/combo_box_widget.h"
 #include "desktop/widgets/drop_down_widget.h"
+#include "desktop/widgets/label_widget.h"
 #include "desktop/widgets/memo_widget.h"
 #include "desktop/widgets/open_list_widget.h"
 #include "desktop/widgets/screen_host.h"
@@ -300,6 +301,14 @@ TEST_F(WidgetsTest, AnOpenListGoesWithItsControl) {
     EXPECT_FALSE(view_->drop->view()->isVisible()) << way;
     EXPECT_FALSE(screen_.drop.HasFocus()) << way;
   }
+}
+
+TEST_F(WidgetsTest, AnAccessibleNameFollowsItsLabel) {
+  Label label(screen_.window, "Label1");
+  LabelledGroup group(label, view_);
+  group.Name(view_->box);
+  label.SetCaption("Kennung");
+  EXPECT_EQ(view_->box->accessibleName(), "Kennung");
 }
 
 TEST_F(WidgetsTest, ANameOfAnyLengthAndContentCanBeToldFromTheOthers) {

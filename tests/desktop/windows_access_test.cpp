@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTabBar>
 
 #include "config/config_data.h"
@@ -144,6 +145,10 @@ TEST_F(WindowsAccessTest, EveryTextHasRoomInLettersOfAnySize) {
       EXPECT_TRUE(in.contains(widget.geometry()));
       QString text;
       if (const auto* button = qobject_cast<QAbstractButton*>(&widget)) text = button->text();
+      // Air above and below the letters, also of large ones.
+      if (!text.isEmpty() && qobject_cast<QPushButton*>(&widget) != nullptr) {
+        EXPECT_GE(widget.height() * 4, letters.height() * 7);
+      }
       if (const auto* label = qobject_cast<QLabel*>(&widget)) text = label->text();
       const auto* box = qobject_cast<QLineEdit*>(&widget);
       if (box != nullptr && box->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed) {
