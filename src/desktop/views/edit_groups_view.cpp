@@ -15,11 +15,11 @@ namespace corvalis::desktop {
 namespace {
 
 constexpr int kRepetitionColumns = 3;
-// A box and a number for each version, then what they make together.
+// A box and a number for each version, then what they make together, each a little apart.
 constexpr int kVersionAColumn = 0;
-constexpr int kVersionBColumn = 2;
-constexpr int kShareColumn = 4;
-constexpr int kBarColumn = 5;
+constexpr int kVersionBColumn = 3;
+constexpr int kShareColumn = 6;
+constexpr int kBarColumn = 7;
 constexpr int kBlock = kGroupNumbers / 2;
 
 void AddGroup(EditGroupsForm& form, int group, QGridLayout& grid, int row, int column,
@@ -45,6 +45,9 @@ QWidget* Block(EditGroupsForm& form, int first, QWidget* parent) {
   auto* grid = new QGridLayout(block);
   grid->setHorizontalSpacing(kGap);
   grid->setVerticalSpacing(kTight);
+  for (const int column : {kVersionBColumn, kShareColumn}) {
+    grid->setColumnMinimumWidth(column - 1, kTight);
+  }
   for (const int column : {kVersionAColumn, kVersionBColumn}) {
     grid->addWidget(QuietText(QStringLiteral("Group"), block), 0, column);
     grid->addWidget(QuietText(QStringLiteral("Repetitions"), block), 0, column + 1);
