@@ -1,9 +1,12 @@
 #include "app/main_form.h"
 
+#include <chrono>
 #include <string>
 
+#include "app/link_words.h"
 #include "busy/wait_form.h"
 #include "config/config_data.h"
+#include "config/conversions.h"
 #include "config/language_data.h"
 #include "link/serial_management.h"
 #include "platform/platform.h"
@@ -16,6 +19,17 @@ constexpr const char* kDesignCaption =
     "  Main Menu                                 -CORVALIS-        ";
 constexpr const char* kVersion = "V" CORVALIS_VERSION;
 
+std::string WithExtension(const std::string& name, const char* extension) {
+  return name.ends_with(extension) ? name : name + extension;
+}
+
+std::string TimeOfDay(DateTime when) {
+  const std::chrono::hh_mm_ss time{when - std::chrono::floor<std::chrono::days>(when)};
+  return Digits(static_cast<int>(time.hours().count()), 2) + ":" +
+         Digits(static_cast<int>(time.minutes().count()), 2) + ":" +
+         Digits(static_cast<int>(time.seconds().count()), 2);
+}
+
 }  // namespace
 
 MainForm::MainForm() : MSComm1(*Machine().port) {
@@ -24,6 +38,8 @@ MainForm::MainForm() : MSComm1(*Machine().port) {
   Text_KOR.SetVisible(false);
   MSComm1.CommEventRaised = OnComm;
   window.Unloading = [this] { Unload(); };
+  // Whatever changes the link does it while this screen is disabled, itself or under another.
+  window.Resumed = [this] { LinkLabel.SetCaption(LinkInWords(MSComm1)); };
 
   Drive1.GotFocus = [this] { Drive1.Refresh(); };  // a medium may have come or gone
   Drive1.Click = [this] { DriveChanged(); };
@@ -31,6 +47,7 @@ MainForm::MainForm() : MSComm1(*Machine().port) {
   Dir1.Change = [this] { DirChanged(); };
   File1.Click = [this] { FileClicked(); };
   File1.PathChange = [this] { File1.Refresh(); };
+  Text105.Change = [this] { ShowPath(); };
   Text105.LostFocus = [this] { CompleteFileName(); };
   NewButton.Click = [this] { New(); };
   OpenButton.Click = [this] { Open(); };
@@ -68,8 +85,7 @@ void MainForm::Load() {
   OpenLink(MSComm1);
   if (!configData->Modem() && LinkOpen) ProbeCoder();
   ShowFolder();
-  Text105.SetText(configData->File());
-  MatchFile();
+  ShowFile();
   EnableServices();
   AddressSent = false;
   globals_.CreateDataClasses();
@@ -104,7 +120,8 @@ void MainForm::New() {
   ShowWait();
   configData->GetIniFile();
   globals_.LoadForNew();
-  ShowFolder();  // Save writes into the record's folder: the panel must say which one
+  ShowFolder();  // Save must not write over the file that was open
+  ShowFile();
   HideWait();
   EditGroupsButton.SetEnabled(false);
   FocusBack();
@@ -122,6 +139,7 @@ void MainForm::Open() {
   if (LinkOpen) ProbeCoder();
   globals_.LoadForOpen();
   EnableServices();
+  ShowFile();
   HideWait();
   FocusBack();
 }
@@ -129,13 +147,14 @@ void MainForm::Open() {
 void MainForm::Save() {
   window.SetEnabled(false);
   ShowWait();
+  configData->SetFile(Text105.Text());
   {
     const ProfileStore::Series series(*Machine().profiles);
-    configData->SetFile(Text105.Text());
     globals_.Store();
   }
-  File1.Refresh();
-  MatchFile();
+  if (!Machine().profiles->Read(SavePath(), "Language", "Default").empty())
+    saved_ = Saved{SavePath(), Machine().clock->Now()};
+  ShowFile();
   HideWait();
   FocusBack();
 }
@@ -161,6 +180,7 @@ void MainForm::DirChanged() {
   File1.SetPath(Dir1.Path());
   MatchFile();
   configData->SetPath(Dir1.Path());
+  ShowPath();
 }
 
 void MainForm::FileClicked() {
@@ -168,8 +188,11 @@ void MainForm::FileClicked() {
   Text105.SetText(configData->File());
 }
 
-void MainForm::CompleteFileName() {
-  if (!Text105.Text().ends_with(kExtension)) Text105.SetText(Text105.Text() + kExtension);
+void MainForm::CompleteFileName() { Text105.SetText(WithExtension(Text105.Text(), kExtension)); }
+
+std::string MainForm::SavePath() const {
+  const std::string& folder = configData->Path();
+  return folder + (folder == "/" ? "" : "/") + WithExtension(Text105.Text(), kExtension);
 }
 
 void MainForm::ShowFolder() {
@@ -188,10 +211,20 @@ void MainForm::ShowFolder() {
   }
 }
 
-void MainForm::MatchFile() {
-  for (int i = 0; i < File1.Count(); ++i) {
-    if (File1.Entry(i) == configData->File()) File1.SetIndex(i);
-  }
+void MainForm::ShowFile() {
+  Text105.SetText(configData->File());
+  File1.Refresh();
+  MatchFile();
+  ShowPath();
+}
+
+// Leaves `Text105` alone: a name that was typed goes along into another folder.
+void MainForm::MatchFile() { File1.Match(configData->File()); }
+
+void MainForm::ShowPath() {
+  const std::string path = SavePath();
+  const bool saved = saved_ && saved_->path == path;
+  PathLabel.SetCaption(saved ? path + "  (saved " + TimeOfDay(saved_->when) + ")" : path);
 }
 
 void MainForm::EnableServices() {

@@ -2,11 +2,14 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
+#include <string>
 #include <utility>
 
 #include "app/globals.h"
 #include "busy/brand_marks.h"
 #include "link/rs232c_form.h"
+#include "platform/clock.h"
 #include "platform/serial_port.h"
 #include "screen/button.h"
 #include "screen/control.h"
@@ -44,6 +47,9 @@ class MainForm {
   DirList Dir1{window, "Dir1"};
   FileList File1{window, "File1", kExtension};
   TextBox Text105{window, "Text105", TextBox::Content::kFileName};
+  /// The file that Save writes, in the file system's own bytes, and when it last did.
+  Label PathLabel{window, "PathLabel"};
+  Label LinkLabel{window, "LinkLabel"};  ///< what is known of the link
   Button NewButton{window, "NewButton"};
   Button OpenButton{window, "OpenButton"};
   Button SaveButton{window, "SaveButton"};
@@ -73,6 +79,7 @@ class MainForm {
   void DirChanged();
   void FileClicked();
   void CompleteFileName();
+  [[nodiscard]] std::string SavePath() const;
 
   // Opens a working screen, which is created the first time and lives as long as this one.
   template <class Form, class MainMenu>
@@ -82,13 +89,21 @@ class MainForm {
   }
 
   void ShowFolder();
+  void ShowFile();
   void MatchFile();
+  void ShowPath();
   void EnableServices();
   void ShowWait();
   void HideWait();
   void FocusBack();
 
+  struct Saved {
+    std::string path;
+    DateTime when;
+  };
+
   Globals globals_;
+  std::optional<Saved> saved_;  // the last one that reached the disk
   std::unique_ptr<RS232CForm> rs232c_;
   std::unique_ptr<TaPtyMsForm> ta_pty_ms_;
   std::unique_ptr<CtTpDiPiForm> ct_tp_di_pi_;

@@ -7,6 +7,7 @@
 
 #include "config/conversions.h"
 #include "config/ini_management.h"
+#include "platform/folders.h"
 #include "platform/platform.h"
 
 namespace corvalis {
@@ -217,7 +218,7 @@ void ConfigData::SetPsnPageEnable(bool /*enable*/) { psn_pages_enable_ = PsnPage
 
 void ConfigData::GetIniFile() {
   const Platform& machine = Machine();
-  drive_ = machine.program_folder.substr(0, 3);
+  drive_ = PlaceOf(machine.program_folder);
   path_ = machine.program_folder;
   file_ = machine.program_name + ".rds";
   date_value_ = machine.clock->Now();

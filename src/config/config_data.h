@@ -80,7 +80,10 @@ class ConfigData {
   [[nodiscard]] std::int16_t Baudrate() const { return baudrate_; }
   void SetBaudrate(std::int16_t baudrate) { baudrate_ = baudrate; }
   [[nodiscard]] const std::string& Parity() const { return parity_; }
-  void SetParity(const std::string& parity) { parity_ = parity.substr(0, 1); }
+  /// Always one letter: keeps the first of `parity`, or what it was if that is empty.
+  void SetParity(const std::string& parity) {
+    if (!parity.empty()) parity_ = parity.front();
+  }
   [[nodiscard]] std::int16_t StopBit() const { return stop_bit_; }
   void SetStopBit(std::int16_t stop_bit) { stop_bit_ = stop_bit; }
 

@@ -1,6 +1,10 @@
 #include "config/language_data.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include "config/config_data.h"
+#include "config/windows_1252.h"
 #include "platform/platform.h"
 
 namespace corvalis {
@@ -20,11 +24,22 @@ constexpr Source kSources[] = {
 #undef CORVALIS_TEXT
 };
 
-std::string FileName() { return configData->Path() + "/" + configData->LanguageFileName(); }
+// Where the texts are, as the record says; empty if nowhere. The record may come from anywhere, so
+// it names a file of its own folder and no other: this program writes into it.
+std::string FileName() {
+  const std::string& name = configData->LanguageFileName();
+  if (name.find('/') != std::string::npos) return {};
+  const std::string path = configData->Path() + "/" + name;
+  // A record of other systems has the name in their code page.
+  std::error_code error;
+  const std::string in_utf8 = configData->Path() + "/" + Utf8From1252(name);
+  return !std::filesystem::exists(path, error) && std::filesystem::exists(in_utf8, error) ? in_utf8
+                                                                                          : path;
+}
 
-std::string LoadText(const Source& source) {
+std::string LoadText(const Source& source, const std::string& file) {
+  if (file.empty()) return source.preset;
   ProfileStore& profiles = *Machine().profiles;
-  const std::string file = FileName();
   std::string text = profiles.Read(file, source.section, source.key);
   if (text.empty()) {
     text = source.preset;
@@ -42,7 +57,8 @@ LanguageData::LanguageData() { InitLanguage(); }
 
 void LanguageData::InitLanguage() {
   const ProfileStore::Series series(*Machine().profiles);
-  for (std::size_t i = 0; i < kTextCount; ++i) texts_[i] = LoadText(kSources[i]);
+  const std::string file = FileName();
+  for (std::size_t i = 0; i < kTextCount; ++i) texts_[i] = LoadText(kSources[i], file);
 }
 
 }  // namespace corvalis

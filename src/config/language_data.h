@@ -10,7 +10,9 @@ namespace corvalis {
 ///
 /// They come from the language file that the station record names, in the folder that the record
 /// has at that moment. A text that the file lacks is the built-in English one, which is then
-/// written into the file: a missing file grows into a full template for translators.
+/// written into the file: a missing file grows into a full template for translators. A record that
+/// names a file outside the folder ("/" in the name) gets the built-in texts, and nothing is
+/// written.
 class LanguageData {
  public:
   /// Loads all texts, as `InitLanguage` does. The station record must exist.

@@ -2,21 +2,13 @@
 
 #include <QKeyEvent>
 #include <algorithm>
-#include <array>
 
+#include "config/windows_1252.h"
 #include "screen/keys.h"
 
 namespace corvalis::desktop {
 
 namespace {
-
-constexpr int kFirstSpecial = 0x80;
-
-/// Bytes 0x80 to 0x9F, from the published mapping of the code page to Unicode.
-constexpr std::array<char16_t, 32> kSpecial = {
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
-    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 constexpr char16_t kEscapedByte = 0xDC00;  // plus the byte, 0x80 to 0xFF
 constexpr int kControlMask = 0x1F;
@@ -24,10 +16,10 @@ constexpr int kControlMask = 0x1F;
 /// The byte of a character; -1 if the code page lacks it.
 int ByteOf(QChar character) {
   const char16_t code = character.unicode();
-  const auto* special = std::find(kSpecial.begin(), kSpecial.end(), code);
-  if (special != kSpecial.end())
-    return kFirstSpecial + static_cast<int>(special - kSpecial.begin());
-  const bool same = code < kFirstSpecial || (code > 0x9F && code <= 0xFF);
+  const auto* special = std::find(kSpecial1252.begin(), kSpecial1252.end(), code);
+  if (special != kSpecial1252.end())
+    return kFirstSpecial1252 + static_cast<int>(special - kSpecial1252.begin());
+  const bool same = code < kFirstSpecial1252 || (code > 0x9F && code <= 0xFF);
   return same ? code : -1;
 }
 
@@ -48,9 +40,9 @@ bool IsEscapedByte(QChar character) {
 QString FromBytes(const std::string& bytes) {
   QString text = QString::fromLatin1(bytes.data(), static_cast<qsizetype>(bytes.size()));
   for (QChar& character : text) {
-    const auto special = static_cast<std::size_t>(character.unicode() - kFirstSpecial);
-    if (character.unicode() >= kFirstSpecial && special < kSpecial.size()) {
-      character = QChar(kSpecial[special]);
+    const auto special = static_cast<std::size_t>(character.unicode() - kFirstSpecial1252);
+    if (character.unicode() >= kFirstSpecial1252 && special < kSpecial1252.size()) {
+      character = QChar(kSpecial1252[special]);
     }
   }
   return text;

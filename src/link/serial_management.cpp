@@ -16,6 +16,8 @@ bool AddressSent = false;
 bool EscPressed = false;
 bool AutoSettingActive = false;
 bool CommandTableBuilt = false;
+bool OneWayPort = false;
+std::optional<bool> CoderAnswered;
 
 namespace {
 
@@ -52,7 +54,8 @@ PortError SetUpPort(SerialPort& control, std::int16_t number, const std::string&
   if ((error = control.SetSettings(settings))) return error;
   if ((error = control.SetInputLen(0))) return error;
   if ((error = control.SetInputMode(kInputModeBinary))) return error;
-  if ((error = control.SetRThreshold(configData->Satellite() ? 0 : 1))) return error;
+  OneWayPort = configData->Satellite();
+  if ((error = control.SetRThreshold(OneWayPort ? 0 : 1))) return error;
   return control.SetRTSEnable(true);
 }
 
@@ -109,6 +112,7 @@ std::string PortSettings(std::int16_t baudrate, const std::string& parity, std::
 bool SerialOpen(SerialPort& control, std::int16_t number, const std::string& settings,
                 bool show_errors) {
   ReleaseLink();
+  CoderAnswered.reset();
   queue.emplace();
   port = &control;
   const PortError error = SetUpPort(control, number, settings);
@@ -254,6 +258,7 @@ void CheckFrame(std::span<const std::uint8_t> frame) {
 void SendEnq() {
   std::array<std::uint8_t, 1> frame{kEnq};
   TransferFrame(frame);
+  if (!configData->Satellite()) CoderAnswered = LinkError == kLinkOk;
   if (LinkError != kLinkOk && !AutoSettingActive) ReportLinkError("ENQ");
   AddressSent = false;
 }

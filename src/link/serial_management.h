@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -22,6 +23,10 @@ extern bool AddressSent;        ///< an Address frame was accepted since the las
 extern bool EscPressed;         ///< the operator asks to abort; cleared when that is done
 extern bool AutoSettingActive;  ///< a port scan runs: no boxes
 extern bool CommandTableBuilt;
+extern bool OneWayPort;  ///< the port was opened without receive events
+/// Whether the Coder answered the last ENQ on the port as it was opened; empty if none was sent
+/// since, or if no answer could come.
+extern std::optional<bool> CoderAnswered;
 
 /// The text that the port takes as its settings, from the station record: "9600,N,8,1".
 [[nodiscard]] std::string PortSettings();

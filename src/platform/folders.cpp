@@ -73,6 +73,25 @@ std::vector<std::string> ListPlaces() {
   return places;
 }
 
+int PlaceThatHolds(const std::vector<std::string>& places, const std::string& folder) {
+  int best = -1;
+  std::size_t length = 0;
+  for (std::size_t i = 0; i < places.size(); ++i) {
+    const std::string& place = places[i];
+    const bool holds = place == "/" || folder == place || folder.starts_with(place + "/");
+    if (!holds || place.size() <= length) continue;
+    best = static_cast<int>(i);
+    length = place.size();
+  }
+  return best;
+}
+
+std::string PlaceOf(const std::string& folder) {
+  const std::vector<std::string> places = ListPlaces();
+  const int place = PlaceThatHolds(places, folder);
+  return place < 0 ? std::string() : places[static_cast<std::size_t>(place)];
+}
+
 std::string TidyPath(const std::string& folder) {
   std::string tidy = fs::path(folder).lexically_normal().string();
   while (tidy.size() > 1 && tidy.back() == '/') tidy.pop_back();

@@ -23,6 +23,11 @@ namespace corvalis {
 /// that is mounted under /media, /run/media and /mnt.
 [[nodiscard]] std::vector<std::string> ListPlaces();
 
+/// The entry of `places`, a list of folders, that is `folder` or holds it most closely; -1 if none.
+[[nodiscard]] int PlaceThatHolds(const std::vector<std::string>& places, const std::string& folder);
+/// The one of `ListPlaces`.
+[[nodiscard]] std::string PlaceOf(const std::string& folder);
+
 /// `folder` with every "." and ".." resolved and without a "/" at its end (the root excepted).
 [[nodiscard]] std::string TidyPath(const std::string& folder);
 

@@ -7,14 +7,6 @@
 
 namespace corvalis {
 
-namespace {
-
-bool Holds(const std::string& place, const std::string& folder) {
-  return place == "/" || folder == place || folder.rfind(place + "/", 0) == 0;
-}
-
-}  // namespace
-
 void DriveList::Refresh() {
   const std::string chosen = Drive();
   Fill(ListPlaces());
@@ -25,12 +17,8 @@ void DriveList::Refresh() {
 std::string DriveList::Drive() const { return Index() == kNone ? std::string() : Entry(Index()); }
 
 bool DriveList::SetDrive(const std::string& folder) {
-  int best = kNone;
-  for (int i = 0; i < Count(); ++i) {
-    if (Holds(Entry(i), folder) && (best == kNone || Entry(i).size() > Entry(best).size()))
-      best = i;
-  }
-  if (best == kNone) return false;
+  const int best = PlaceThatHolds(Entries(), folder);
+  if (best < 0) return false;
   SetIndex(best);
   return true;
 }
@@ -85,8 +73,12 @@ void FileList::SetPath(const std::string& folder) {
 void FileList::Refresh() {
   const std::string chosen = FileName();
   Fill(ListFiles(path_, extension_).value_or(std::vector<std::string>{}));
-  const auto again = std::find(Entries().begin(), Entries().end(), chosen);
-  if (again != Entries().end()) SelectSilently(static_cast<int>(again - Entries().begin()));
+  Match(chosen);
+}
+
+void FileList::Match(const std::string& name) {
+  const auto entry = std::find(Entries().begin(), Entries().end(), name);
+  SelectSilently(entry == Entries().end() ? kNone : static_cast<int>(entry - Entries().begin()));
 }
 
 std::string FileList::FileName() const { return Index() == kNone ? std::string() : Entry(Index()); }

@@ -57,6 +57,9 @@ class FileList : public ListBox {
   void SetPath(const std::string& folder);
   /// Reads the folder anew. The selection stays on the file it was on, silently.
   void Refresh();
+  /// Selects the file of that name, or none if it is not in the list. Raises nothing: that is no
+  /// choice of the operator's.
+  void Match(const std::string& name);
   /// The selected file's name; empty if none is selected.
   [[nodiscard]] std::string FileName() const;
 

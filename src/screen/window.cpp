@@ -27,6 +27,7 @@ void Window::SetEnabled(bool enabled) {
   if (enabled_ == enabled) return;
   enabled_ = enabled;
   Redraw();
+  if (enabled && Resumed) Resumed();
 }
 
 void Window::Show(Window* owner) {

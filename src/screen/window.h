@@ -75,6 +75,9 @@ class Window {
   std::function<void(bool& cancel)> QueryUnload;
   std::function<void()> Unloading;
 
+  /// The window can be used again after it was disabled.
+  std::function<void()> Resumed;
+
   /// The control that has the window's focus; null if none.
   [[nodiscard]] Control* Focus() const { return focus_; }
   /// The operator moves the focus to `to` (null: out of the window). The control left raises

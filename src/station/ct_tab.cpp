@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 #include <optional>
+#include <utility>
 
 #include "config/conversions.h"
 #include "config/language_data.h"
@@ -35,6 +36,9 @@ CtTab::CtTab(Window& owner) : window(owner) {
 
   VScroll6.StepUp = [this] { StepOffset(+1); };
   VScroll6.StepDown = [this] { StepOffset(-1); };
+  Text9.Change = [this] { offset_edited_ = true; };
+  // A key that puts the same digit there changes nothing, but it is the operator's all the same.
+  Text9.KeyPress = [this](int& key) { offset_edited_ = offset_edited_ || key >= ' '; };
   Text9.LostFocus = [this] { TakeOffset(); };
 
   Text7.Change = [this] {
@@ -92,19 +96,19 @@ void CtTab::StepTime(int hours, int minutes) {
 void CtTab::StepOffset(int step) {
   if (Text9.HasFocus()) TakeOffset();  // a step from the keyboard does not leave the box
   const int offset = configData->CtOffset();
-  if (step > 0 ? offset >= kMaxOffset : offset <= -kMaxOffset) return;
-  configData->SetCtOffset(static_cast<std::int16_t>(offset + step));
+  if (step > 0 ? offset < kMaxOffset : offset > -kMaxOffset) {
+    configData->SetCtOffset(static_cast<std::int16_t>(offset + step));
+  }
   ShowOffset(SignedHours(configData->CtOffset()));
 }
 
 void CtTab::TakeOffset() {
   // A text that nobody typed is no new offset: half hours on show would become whole ones.
-  if (Text9.Text() == settled_offset_) return;
+  if (!std::exchange(offset_edited_, false)) return;
   if (const std::optional<double> hours = ParseNumber(Text9.Text())) {
     const double half_hours = 2 * std::round(*hours);
     if (std::abs(half_hours) <= std::numeric_limits<std::int16_t>::max()) {
       configData->SetCtOffset(static_cast<std::int16_t>(half_hours));
-      settled_offset_ = Text9.Text();
       return;
     }
   }
@@ -135,8 +139,8 @@ void CtTab::ShowDate() {
 void CtTab::ShowTime() { Text1.SetText(Digits(hour_, 2) + ":" + Digits(minute_, 2)); }
 
 void CtTab::ShowOffset(const std::string& text) {
-  settled_offset_ = text;
   Text9.SetText(text);
+  offset_edited_ = false;
 }
 
 void CtTab::Refresh() {

@@ -65,10 +65,9 @@ class CtTab {
   void Read();
   void Send();
 
-  int hour_ = 0;    // 0 to 23
-  int minute_ = 0;  // 0 to 59
-  std::string
-      settled_offset_;  // what `Text9` said when it and the record were last brought together
+  int hour_ = 0;                // 0 to 23
+  int minute_ = 0;              // 0 to 59
+  bool offset_edited_ = false;  // a hand has edited `Text9` since it was shown or taken
 };
 
 }  // namespace corvalis

@@ -173,8 +173,9 @@ void PiEccLicTab::ChooseLanguage() {
 void PiEccLicTab::StepProgramNum(int step) {
   // A file may bring a number beyond either limit: a step back towards the range is taken.
   const int number = configData->ProgramNum();
-  if (step > 0 ? number >= kMaxProgramNum : number < 1) return;
-  configData->SetProgramNum(static_cast<std::int16_t>(number + step));
+  if (step > 0 ? number < kMaxProgramNum : number >= 1) {
+    configData->SetProgramNum(static_cast<std::int16_t>(number + step));
+  }
   ShowProgramNum();
   ShowPi();
 }
@@ -228,7 +229,12 @@ void PiEccLicTab::FillCountryList() {
 
 void PiEccLicTab::ShowCountry() {
   const int key = CountryKey(configData->Country(), configData->Ecc());
-  CountryCombo.SetIndexOrNone(CountriesByName().LineOfKey(key));
+  const int line = CountriesByName().LineOfKey(key);
+  if (line == CountryCombo.Index()) {
+    ChooseCountry();  // its row holds also for an ECC that no row has
+  } else {
+    CountryCombo.SetIndexOrNone(line);
+  }
 }
 
 void PiEccLicTab::ShowCoverage() { CoverageCombo.SetIndexOrNone(configData->Coverage()); }

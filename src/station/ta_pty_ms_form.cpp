@@ -68,6 +68,8 @@ void TaPtyMsForm::StorePty() {
 
 // A PTY beyond the last type, which a file may bring, is not sent either: the list shows none for
 // it.
+// Neither a typed text, which is line -1, nor a number beyond 31 from a file is a programme type:
+// the Coder gets neither.
 void TaPtyMsForm::SendPtyLive() {
   if (!IsProgrammeType(configData->Pty())) {
     Machine().dialogs->Show({.text = "Select a programme type from the list first.",

@@ -154,6 +154,83 @@ TEST_F(MainFormTest, NewGoesBackToTheDefaultFileAndLeavesTheLink) {
   EXPECT_TRUE(port.written.empty());
 }
 
+TEST_F(MainFormTest, ATypedNameGoesAlongIntoAnotherFolder) {
+  Run("");
+  form->Text105.SetText("night");
+  EXPECT_EQ(form->PathLabel.Caption(), machine.program_folder + "/night.rds");
+  const std::string elsewhere = folder + "/elsewhere";
+  std::filesystem::create_directory(elsewhere);
+  WriteFile(elsewhere + "/corvalis.rds", "[PI]\nCountry=1\n");  // the record's name, not its file
+  form->Dir1.SetPath(elsewhere);
+  EXPECT_EQ(form->File1.FileName(), "corvalis.rds");
+  EXPECT_EQ(form->Text105.Text(), "night");
+  EXPECT_EQ(form->PathLabel.Caption(), elsewhere + "/night.rds");
+  form->window.MoveFocus(&form->Text105);
+  form->SaveButton.Press();
+  EXPECT_EQ(form->File1.FileName(), "night.rds");
+  EXPECT_EQ(form->PathLabel.Caption(), elsewhere + "/night.rds  (saved 12:00:00)");
+  EXPECT_EQ(ReadFile(elsewhere + "/corvalis.rds"), "[PI]\nCountry=1\n");
+}
+
+TEST_F(MainFormTest, SaveAfterNewLeavesTheStationThatWasOpen) {
+  Run("[PI]\nCountry=7\n");
+  WriteFile(machine.program_folder + "/a.rds", "[PI]\nCountry=1\n");
+  OpenFile("a.rds");
+  EXPECT_EQ(form->File1.FileName(), "a.rds");
+  form->NewButton.Press();
+  EXPECT_EQ(form->Text105.Text(), "corvalis.rds");
+  EXPECT_EQ(form->File1.FileName(), "corvalis.rds");
+  form->SaveButton.Press();
+  EXPECT_EQ(ReadFile(machine.program_folder + "/a.rds"), "[PI]\nCountry=1\n");
+}
+
+TEST_F(MainFormTest, LinkInWords) {
+  const auto words = [this] { return form->LinkLabel.Caption(); };
+  Run(kLocal);
+  EXPECT_EQ(words(), "Local, COM 1, 9600,N,8,2: the Coder answered, no address sent");
+  form->CtTpDiPiButton.Press();
+  AddressSent = true;
+  form->OpenedCtTpDiPi()->window.Close();
+  EXPECT_EQ(words(), "Local, COM 1, 9600,N,8,2: the Coder answered, address sent");
+  const std::string opens_anew = "; OPEN or SETUP opens it anew";
+  const std::tuple<const char*, const char*, std::string> cases[] = {
+      // Open on this file; and after New, on the default one.
+      {"", "Satellite, COM 1, 9600,N,8,2: no address sent",
+       "COM 1 is open for a one-way path" + opens_anew},
+      {"Satellite=Off\nSerialPort=2\n",
+       "Local, COM 2, 9600,N,8,2: the Coder answered, no address sent",
+       "COM 2 is open, not COM 1" + opens_anew},
+      {"Satellite=Off\nBaudrate=1200\n",
+       "Local, COM 1, 1200,N,8,2: the Coder answered, no address sent",
+       "COM 1 is open with 1200,N,8,2, not 9600,N,8,2" + opens_anew}};
+  for (const auto& [file, after_open, after_new] : cases) {
+    WriteFile(machine.program_folder + "/other.rds", std::string("[Serial Setup]\n") + file);
+    OpenFile("other.rds");
+    EXPECT_EQ(words(), after_open);
+    form->NewButton.Press();
+    EXPECT_EQ(words(), after_new);
+  }
+  port.answer = [](const Bytes&) { return Bytes{}; };
+  OpenFile("corvalis.rds");
+  EXPECT_EQ(words(), "Local, COM 1, 9600,N,8,2: the Coder did not answer, no address sent");
+  Run(kModem);
+  EXPECT_EQ(words(), "Modem, COM 1, 9600,N,8,2: no address sent");
+  port.missing[1] = "no such port";
+  OpenFile("corvalis.rds");
+  EXPECT_EQ(words(), "Modem: COM 1 is not open");
+}
+
+TEST_F(MainFormTest, FileOperationsRunOnADisabledMenu) {
+  Run(kLocal);
+  for (Button* button : {&form->NewButton, &form->OpenButton, &form->SaveButton}) {
+    bool enabled = true;
+    time.After(0, [&] { enabled = form->window.Enabled(); });
+    button->Press();
+    EXPECT_FALSE(enabled) << button->Name();
+    EXPECT_TRUE(form->window.Enabled());
+  }
+}
+
 TEST_F(MainFormTest, FilePanelFollowsTheFolder) {
   Run("");
   std::filesystem::create_directories(folder + "/program/sub");
@@ -178,6 +255,7 @@ TEST_F(MainFormTest, FolderThatCantBeWrittenLosesAndShowsNothing) {
   form->SaveButton.Press();
   EXPECT_TRUE(dialogs.boxes.empty());
   EXPECT_TRUE(form->window.Enabled());
+  EXPECT_EQ(form->PathLabel.Caption(), folder + "/not there/corvalis.rds");  // and no time
 }
 
 TEST_F(MainFormTest, OpenBringsTheLanguageOfItsFileFromItsFolder) {

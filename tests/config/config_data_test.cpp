@@ -8,6 +8,7 @@
 #include <random>
 #include <sstream>
 
+#include "platform/folders.h"
 #include "support/test_machine.h"
 
 namespace corvalis::test {
@@ -47,6 +48,7 @@ TEST_F(ConfigDataTest, DefaultsWithoutAFile) {
             std::tuple(false, false, true, 0, 0));
   EXPECT_EQ(std::tuple(c.PresetPassword(), c.PresetNewPassword()), std::tuple("?????", "?????"));
   EXPECT_EQ(c.FullFileName(), ProgramFile());
+  EXPECT_EQ(c.Drive(), PlaceOf(machine.program_folder));
   EXPECT_FALSE(std::filesystem::exists(ProgramFile()));
 }
 
@@ -123,6 +125,9 @@ TEST_F(ConfigDataTest, RulesBetweenFields) {
   EXPECT_FALSE(configData->PsnPlanEnable());
   EXPECT_FALSE(configData->Modem());
   EXPECT_EQ(configData->Parity(), "e");
+  configData->SetParity("odd");
+  configData->SetParity("");
+  EXPECT_EQ(configData->Parity(), "o");
 }
 
 TEST_F(ConfigDataTest, Languages) {

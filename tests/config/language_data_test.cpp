@@ -131,6 +131,29 @@ TEST_F(LanguageTest, BytesOfTheFileStayAsTheyAre) {
   }
 }
 
+TEST_F(LanguageTest, NameOfTheFileByTheRecord) {
+  const std::string other = folder + "/outside.ini";
+  const std::string windows =
+      "Fran\xE7"
+      "ais\x80.ini";
+  const std::string utf8 =
+      "Fran\xC3\xA7"
+      "ais\xE2\x82\xAC.ini";
+  WriteFile(other, "[MAIN]\nSaveKeyMsg=OUTSIDE\n");
+  WriteFile(machine.program_folder + "/" + utf8, "[MAIN]\nSaveKeyMsg=ENREGISTRER\n");
+  const std::pair<std::string, const char*> cases[] = {
+      {"../outside.ini", "SAVE"}, {other, "SAVE"}, {windows, "ENREGISTRER"}};
+  for (const auto& [name, save] : cases) {
+    WriteFile(ProgramFile(), "[Language]\nName0=X\nFileName0=" + name + "\n");
+    record.GetIni();
+    EXPECT_EQ(LanguageData().MainSaveKey(), save);
+  }
+  EXPECT_EQ(ReadFile(other), "[MAIN]\nSaveKeyMsg=OUTSIDE\n");
+  // A file of those very bytes comes first.
+  WriteFile(machine.program_folder + "/" + windows, "[MAIN]\nSaveKeyMsg=ECRIRE\n");
+  EXPECT_EQ(LanguageData().MainSaveKey(), "ECRIRE");
+}
+
 TEST_F(LanguageTest, GermanFileIsComplete) {
   std::vector<Text> german = Parse(ReadFile(CORVALIS_TEST_DATA "/../../examples/German.ini"));
   std::vector<Text> english = Defaults();

@@ -70,10 +70,11 @@ TEST_F(CtTabTest, HourAndMinuteWrapAndAPickedDateTakesThem) {
 TEST_F(CtTabTest, OffsetStepsBetweenItsLimits) {
   OpenScreen(kLocal);
   const std::tuple<std::int16_t, int, int, const char*> cases[] = {
-      {24, +1, 24, "+12.0"}, {-23, -2, -24, "-12.0"}, {0, -1, -1, "-00.5"}};
+      {200, +1, 200, "+100.0"}, {-23, -2, -24, "-12.0"}, {0, -1, -1, "-00.5"}};
   for (const auto& [before, step, after, shown] : cases) {
     configData->SetCtOffset(before);
     form->Load();
+    Tab().Text9.SetText("");
     Step(Tab().VScroll6, step);
     EXPECT_EQ(configData->CtOffset(), after);
     EXPECT_EQ(Tab().Text9.Text(), shown) << before;
@@ -86,6 +87,16 @@ TEST_F(CtTabTest, TypedOffsetIsInWholeHoursAndWithoutLimit) {
   form->window.MoveFocus(&Tab().Text9);
   form->window.MoveFocus(&Tab().Command2);
   EXPECT_EQ(configData->CtOffset(), 3);  // nobody has typed the "+01.5" that stood there
+  form->window.MoveFocus(&Tab().Text9);
+  Tab().Text9.SelectAll();
+  Tab().Text9.Type("x");
+  form->window.MoveFocus(&Tab().Command2);
+  EXPECT_EQ(Tab().Text9.Text(), "03");  // half hours
+  form->window.MoveFocus(&Tab().Text9);
+  Tab().Text9.Select(1, 1);
+  Tab().Text9.Type("3");
+  form->window.MoveFocus(&Tab().Command2);
+  EXPECT_EQ(configData->CtOffset(), 6);  // the same text, but from a hand: hours
   const std::tuple<std::int16_t, const char*, int, const char*> cases[] = {
       {2, "5", 10, "5"}, {2, "+1.6", 4, "+1.6"}, {2, "100", 200, "100"},
       {3, "x", 3, "03"}, {2, "40000", 2, "02"},  // beyond what the record can hold
@@ -110,7 +121,8 @@ TEST_F(CtTabTest, PsnNumbersAreRepairedAtEveryChange) {
       EXPECT_EQ(box.Text(), own) << bad;
     }
   }
-  Tab().Text7.Edit("42", 2);
+  Tab().Text7.SelectAll();
+  Tab().Text7.Type("942");  // the 9 is taken, and the next digit begins another number
   Tab().Text8.Edit("0", 1);
   EXPECT_EQ(configData->DatePsn(), 42);
   EXPECT_EQ(configData->HourPsn(), 0);

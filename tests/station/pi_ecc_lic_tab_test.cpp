@@ -113,6 +113,9 @@ TEST_F(PiTabTest, TypedPiGivesItsParts) {
   EXPECT_EQ(Tab().IDNumberText.Text(), "001");  // stays until a step or a read moves it
   Step(Tab().VScroll3, +1);
   EXPECT_EQ(Tab().IDNumberText.Text(), "206");
+  EXPECT_TRUE(EnterPi("5000"));
+  Step(Tab().VScroll3, -1);
+  EXPECT_EQ(Tab().IDNumberText.Text(), "000");  // at the limit
 }
 
 TEST_F(PiTabTest, BadPiIsRefusedAndStaysSelected) {
@@ -174,6 +177,15 @@ TEST_F(PiTabTest, ReadShowsWhatTheCoderHolds) {
   EXPECT_EQ(configData->Ecc(), 0xD1);
   EXPECT_EQ(Selected(Tab().CountryCombo), "Ascension Island");
   EXPECT_EQ(Tab().EccText.Text(), "F1");  // 0xD1 or 0xE0, until the list sets it again
+
+  Hold(0x19, "B5");  // no country has it: the line's row holds, from whatever line
+  for (const char* pi : {"6000", "A27F"}) {
+    EXPECT_TRUE(EnterPi(pi));
+    for (int times = 0; times < 2; ++times) {
+      Tab().ReadEccCommand.Press();
+      EXPECT_EQ(configData->Ecc(), 0xA0) << pi;
+    }
+  }
 
   for (const auto& [digits, code] : {std::pair("30", 0x30), {"80", 0x80}, {"FF", 0xFF}}) {
     Hold(0x1A, digits);  // a code without a name

@@ -1,5 +1,10 @@
 #include "desktop/views/main_view.h"
 
+#include <QLabel>
+#include <QResizeEvent>
+
+#include "desktop/text.h"
+#include "desktop/widgets/binding.h"
 #include "desktop/widgets/brand_header.h"
 #include "desktop/widgets/button_widget.h"
 #include "desktop/widgets/drop_down_widget.h"
@@ -11,6 +16,38 @@
 namespace corvalis::desktop {
 
 namespace {
+
+/// A quiet line that says how things stand: as much of it as there is room for, the whole in its
+/// tip.
+class StateLine : public QLabel {
+ public:
+  StateLine(Label& label, TextBox::Content content, QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+    setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+    QPalette quiet = palette();
+    quiet.setColor(QPalette::WindowText, QColor(colours::kQuietText));
+    setPalette(quiet);
+    Bind(*this, label, [this, &label, content] {
+      whole_ = FromContent(label.Caption(), content);
+      setAccessibleName(whole_);
+      Elide();
+    });
+  }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QLabel::resizeEvent(event);
+    Elide();
+  }
+
+ private:
+  void Elide() {
+    setText(fontMetrics().elidedText(whole_, Qt::ElideMiddle, width()));
+    setToolTip(text() == whole_ ? QString() : whole_);
+  }
+
+  QString whole_;
+};
 
 QWidget* Screens(MainForm& form, QWidget* parent) {
   // What an operator touches on the air first, then what prepares a station, then the link.
@@ -36,6 +73,7 @@ QWidget* FilePanel(MainForm& form, QWidget* parent) {
   lists->addWidget(new FileListWidget(form.File1, panel), 1);
   column->addLayout(lists, 1);
   column->addWidget(new TextBoxWidget(form.Text105, 0, panel));
+  column->addWidget(new StateLine(form.PathLabel, TextBox::Content::kFileName, panel));
   column->addWidget(ButtonRow({&form.NewButton, &form.OpenButton, &form.SaveButton}, panel));
   return panel;
 }
@@ -50,6 +88,7 @@ MainView::MainView(MainForm& form) : WindowView(form.window) {
   halves->addWidget(Screens(form, this));
   halves->addWidget(FilePanel(form, this), 1);
   column->addLayout(halves, 1);
+  column->addWidget(new StateLine(form.LinkLabel, TextBox::Content::kWindows1252, this));
   resize(sizeHint().expandedTo({860, 520}));
 }
 

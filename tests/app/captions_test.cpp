@@ -1,0 +1,162 @@
+// Every caption and tip of every screen comes from its own text of the language file.
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <sstream>
+
+#include "app/main_form.h"
+#include "busy/serial_communication_form.h"
+#include "busy/wait_form.h"
+#include "link/serial_management.h"
+#include "support/test_machine.h"
+
+namespace corvalis::test {
+namespace {
+
+class CaptionsTest : public MachineTest {
+ protected:
+  // A language file in which each text says which one it is.
+  CaptionsTest() {
+    std::string file;
+#define CORVALIS_TEXT(section, key, getter, preset) Add(file, section, key);
+#include "config/language_texts.inc"
+#undef CORVALIS_TEXT
+    WriteFile(machine.program_folder + "/Language.ini", file);
+    form = std::make_unique<MainForm>();
+    form->Load();
+  }
+  ~CaptionsTest() override { form.reset(); }
+
+  void Add(std::string& file, const std::string& section, const std::string& key) {
+    std::set<std::string>& keys = keys_[section];
+    if (keys.empty()) file += "[" + section + "]\r\n";
+    file += key + "=" + Unique(section, key) + "\r\n";
+    keys.insert(key);
+  }
+  static std::string Unique(const std::string& section, const std::string& key) {
+    return section + " " + key;
+  }
+
+  /// `rows`: the name of a control, the key of its caption and the key of its tip; "-" for none.
+  /// All texts of the section must have a row. Captions that are in no language are not told.
+  void Check(const Window& window, const std::string& section, const std::string& rows) {
+    std::set<std::string> missing = keys_.at(section);
+    std::istringstream in(rows);
+    for (std::string name, caption, tip; in >> name >> caption >> tip;) {
+      const Control* control = window.Find(name);
+      ASSERT_NE(control, nullptr) << name;
+      if (caption != "-") {
+        EXPECT_EQ(control->Caption(), Unique(section, caption)) << name;
+      }
+      EXPECT_EQ(control->ToolTip(), tip == "-" ? "" : Unique(section, tip)) << name;
+      missing.erase(caption);
+      missing.erase(tip);
+    }
+    EXPECT_EQ(missing, std::set<std::string>{}) << section;
+  }
+
+  std::unique_ptr<MainForm> form;
+
+ private:
+  std::map<std::string, std::set<std::string>> keys_;
+};
+
+TEST_F(CaptionsTest, MainMenuAndBusyScreens) {
+  Check(form->window, "MAIN", R"(
+    RS232CButton SetupKeyMsg SetupKeyTip       ConnectionButton ConnectionKeyMsg ConnectionKeyTip
+    TaPtyMsButton TAKeyMsg TAKeyTip            EditGroupsButton GroupKeyMsg GroupKeyTip
+    CtTpDiPiButton ClockKeyMsg ClockKeyTip     PsnRtPinAfButton PSNKeyMsg PSNKeyTip
+    EonLiButton EONKeyMsg EONKeyTip            TdcIhButton TDCKeyMsg TDCKeyTip
+    NewButton NewKeyMsg NewKeyTip              OpenButton OpenKeyMsg OpenKeyTip
+    SaveButton SaveKeyMsg SaveKeyTip           Text105 - FileNameBoxTip
+    Drive1 - DriverBoxTip                      Dir1 - DirListBoxTip
+    File1 - FileListBoxTip)");
+  const SerialCommunicationForm transfer([] {});
+  EXPECT_EQ(transfer.Command1.Caption(), "MESSAGE EscKeyMsg");
+  EXPECT_EQ(transfer.Command1.ToolTip(), "MESSAGE EscKeyTip");
+  EXPECT_EQ(TheWaitForm().WaitMessage.Caption(), "MESSAGE WaitKeyMsg");
+}
+
+TEST_F(CaptionsTest, Setup) {
+  RS232CForm screen({form->window, port, [] {}, [] {}});
+  screen.Load();
+  Check(screen.window, "SETUP", R"(
+    RdsOptionLabel RDSOptionTxtMsg RDSOptionKeyTip  RdsOptionCombo - RDSOptionKeyTip
+    BurstLabel BurstTxtMsg BurstKeyTipMsg           Combo1 - BurstKeyTipMsg
+    SerialLabel SerialPortTxtMsg SerialPortKeyTip   SerialCombo - SerialPortKeyTip
+    BaudrateLabel BaudrateTxtMsg BaudrateKeyTip     BaudrateCombo - BaudrateKeyTip
+    ParityLabel ParityTxtMsg ParityKeyTip           ParityCombo - ParityKeyTip
+    StopBitLabel StopBitTxtMsg StopBitKeyTip        StopBitCombo - StopBitKeyTip
+    LanguageLabel LanguageKeyMsg LanguageKeyTip     LanguageCombo - LanguageKeyTip
+    Command31 AutosettingKeyMsg AutosettingKeyTip)");
+}
+
+TEST_F(CaptionsTest, OnAirScreen) {
+  TaPtyMsForm screen(form->window);
+  screen.Load();
+  Check(screen.window, "TA-PTY-MS", R"(
+    TaLabel - TrafficAnnouncementKeyTip   Command2 TrafficAnnouncementKeyMsg TrafficAnnouncementKeyTip
+    PtyLabel - ProgramTypeComboTip        Command1 ProgramTypeKeyMsg ProgramTypeKeyTip
+    MsLabel - MusicSpeechKeyTip           Command6 MusicSpeechKeyMsg MusicSpeechKeyTip
+    Combo1 - ProgramTypeComboTip          Command8 ReadKeyMsg ReadKeyTip
+    Check1 MusicKeyMsg -                  Check2 SpeechKeyMsg -
+    Check3 ONKeyMsg -                     Check4 OFFKeyMsg -)");
+}
+
+TEST_F(CaptionsTest, GroupSequence) {
+  EditGroupsForm screen(form->window);
+  screen.Load();
+  std::string rows = R"(
+    Command1 SendAllKeyMsg SendAllKeyTip            Command11 SendOneKeyMsg SendOneKeyTip
+    Command12 SendAllBurstKeyMsg SendAllBurstKeyTip Command13 ReadAllKeyMsg ReadAllKeyTip
+    Command2 ReadOneKeyMsg ReadOneKeyTip)";
+  for (int group = 0; group < kGroups; ++group) {
+    const std::string number = std::to_string(group);
+    for (const char* control : {"Check1", "Text1", "VScroll2"}) {
+      rows.append(" ").append(control).append("(" + number + ") - TimeKey" + number + "Tip");
+    }
+  }
+  Check(screen.window, "EDIT GROUP", rows);
+}
+
+TEST_F(CaptionsTest, IdentityScreen) {
+  CtTpDiPiForm screen(form->window);
+  screen.Load();
+  // The tabs have controls of one name, but never of the same text.
+  Check(screen.window, "CLOCK TIME", R"(
+    HourMinLabel HourMinKeyMsg HourMinKeyTip      Text1 - HourMinKeyTip
+    VScroll2 - HourMinKeyTip                      VScroll1 - HourMinKeyTip
+    CtOffsetLabel CTOffSetKeyMsg CTOffSetKeyTip   Text9 - CTOffSetKeyTip
+    VScroll6 - CTOffSetKeyTip
+    DatePsnLabel DatePSNKeyMsg DatePSNKeyTip      Text7 - DatePSNKeyTip
+    HourPsnLabel HourPSNKeyMsg HourPSNKeyTip      Text8 - HourPSNKeyTip
+    Command1 ReadKeyMsg ReadKeyTip                Command2 SendKeyMsg SendKeyTip)");
+  Check(screen.window, "TP-DI", R"(
+    Check1 TrafficProgramKeyMsg TrafficProgramKeyTip
+    Check10 NoTrafficProgramKeyMsg NoTrafficProgramKeyTip
+    Check2 MonoKeyMsg MonoKeyTip                        Check3 StereoKeyMsg StereoKeyTip
+    Check4 ArtificialHeadKeyMsg ArtificialHeadKeyTip
+    Check5 NoArtificialHeadKeyMsg NoArtificialHeadKeyTip
+    Check6 CompressedKeyMsg CompressedKeyTip            Check7 NoCompressedKeyMsg NoCompressedKeyTip
+    Check8 StaticPTYKeyMsg StaticPTYKeyTip              Check9 DynamicPTYKeyMsg DynamicPTYKeyTip
+    Command3 ReadKeyMsg ReadKeyTip                      Command4 SendKeyMsg SendKeyTip
+    Command5 SendBurstKeyMsg SendBurstKeyTip)");
+  Check(screen.window, "PI-ECC-LIC", R"(
+    CountryLabel CountryKeyMsg CountryKeyTip            CountryCombo - CountryKeyTip
+    CoverageLabel CoverageKeyMsg CoverageKeyTip         CoverageCombo - CoverageKeyTip
+    IDNumberLabel IDNumberKeyMsg IDNumberKeyTip         IDNumberText - IDNumberKeyTip
+    VScroll3 - IDNumberKeyTip
+    PiLabel - PIKeyTip      PiText - PIKeyTip           EccLabel - ECCKeyTip   EccText - ECCKeyTip
+    LicLabel - LicKeyTip    LicCombo - LicKeyTip
+    CountryListLabel CountryListKeyTip CountryListKeyTip CountryList - CountryListKeyTip
+    ReadPiCommand ReadPIKeyMsg ReadPIKeyTip             SendPiCommand SendPIKeyMsg SendPIKeyTip
+    SendPiBurstCommand SendPIBurstKeyMsg SendPIBurstKeyTip
+    ReadEccCommand ReadECCKeyMsg ReadECCKeyTip          SendEccCommand SendECCKeyMsg SendECCKeyTip
+    SendEccBurstCommand SendECCBurstKeyMsg SendECCBurstKeyTip
+    ReadLicCommand ReadLICKeyMsg ReadLICKeyTip          SendLicCommand SendLICKeyMsg SendLICKeyTip
+    SendLicBurstCommand SendLICBurstKeyMsg SendLICBurstKeyTip)");
+}
+
+}  // namespace
+}  // namespace corvalis::test
