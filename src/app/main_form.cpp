@@ -148,12 +148,9 @@ void MainForm::Save() {
   window.SetEnabled(false);
   ShowWait();
   configData->SetFile(Text105.Text());
-  {
-    const ProfileStore::Series series(*Machine().profiles);
-    globals_.Store();
-  }
-  if (!Machine().profiles->Read(SavePath(), "Language", "Default").empty())
-    saved_ = Saved{SavePath(), Machine().clock->Now()};
+  ProfileStore::Series series(*Machine().profiles);
+  globals_.Store();
+  if (series.Finish()) saved_ = Saved{SavePath(), Machine().clock->Now()};
   ShowFile();
   HideWait();
   FocusBack();
