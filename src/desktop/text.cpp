@@ -114,6 +114,15 @@ std::string ToContent(const QString& text, TextBox::Content content) {
   return content == TextBox::Content::kFileName ? ToFileName(text) : ToBytes(text);
 }
 
+QString OneLine(const QString& clip) {
+  QString line;
+  for (const QChar character : clip) {
+    if (character == u'\r' || character == u'\n') break;
+    if (character.unicode() >= u' ') line += character;
+  }
+  return line;
+}
+
 int KeyCode(const QKeyEvent& event) {
   const Qt::KeyboardModifiers modifiers = event.modifiers();
   if (modifiers & (Qt::AltModifier | Qt::MetaModifier)) return kKeyCancelled;

@@ -30,6 +30,9 @@ namespace corvalis::desktop {
 /// The way back.
 [[nodiscard]] std::string ToContent(const QString& text, TextBox::Content content);
 
+/// What a box of one line takes of a text: its first line, without control characters.
+[[nodiscard]] QString OneLine(const QString& clip);
+
 /// The key as a form gets it (see screen/keys.h): a character of Windows-1252, or the control
 /// character of back space, Enter, ESC and Ctrl with a letter. `kKeyCancelled` for every other key
 /// (arrows, Tab, Delete, what is struck together with Alt), and for a character that the code page

@@ -19,6 +19,10 @@ Grid::Grid(Window& window, std::string name, std::vector<GridColumn> columns)
   editor_.KeyPress = [this](int& key) {
     if (KeyPress) KeyPress(column_, key);
   };
+  // What is typed is seen, though the wheel had turned it away.
+  editor_.Change = [this] {
+    if (opened_) ShowRow();
+  };
 }
 
 bool Grid::Exists(int row, int column) const {
@@ -30,14 +34,23 @@ bool Grid::MoveTo(int row, int column) {
   if (row == row_ && column == column_) return true;
   if (!LeaveCell() || (row != row_ && !LeaveRow())) return false;
   if (!Exists(row, column)) return false;  // what a rule has written may have changed the data
+  GoTo(row, column);
+  return true;
+}
+
+void Grid::GoTo(int row, int column) {
+  if (row == row_ && column == column_) return;
   row_ = row;
   column_ = column;
+  ShowRow();
+  Redraw();
+  if (Moved) Moved();
+}
+
+void Grid::ShowRow() {
   if (row_ < first_row_) SetFirstRow(row_);
   if (rows_in_view_ > 0 && row_ >= first_row_ + rows_in_view_)
     SetFirstRow(row_ - rows_in_view_ + 1);
-  Redraw();
-  if (Moved) Moved();
-  return true;
 }
 
 std::string Grid::Shown(int row, int column) const {
@@ -66,8 +79,8 @@ void Grid::Drop() {
 
 void Grid::Refresh() {
   Drop();
-  row_ = std::clamp(row_, 0, std::max(Rows() - 1, 0));
   SetFirstRow(first_row_);
+  GoTo(std::clamp(row_, 0, std::max(Rows() - 1, 0)), column_);
   Redraw();
 }
 
@@ -77,14 +90,14 @@ void Grid::RefreshRow(int row) {
 }
 
 void Grid::Restart() {
-  row_ = 0;
-  column_ = 0;
+  Drop();
   SetFirstRow(0);
-  Refresh();
+  GoTo(0, 0);
+  Redraw();
 }
 
 void Grid::SetFirstRow(int row) {
-  row = std::clamp(row, 0, std::max(Rows() - 1, 0));
+  row = std::clamp(row, 0, std::max(Rows() - std::max(rows_in_view_, 1), 0));
   if (row == first_row_) return;
   first_row_ = row;
   Redraw();
@@ -133,6 +146,14 @@ void Grid::OpenCell() {
   }
 }
 
+void Grid::Clear() {
+  if (TakesEvents() && !opened_ && Open(kNoKey)) editor_.Edit("", 0);
+}
+
+void Grid::Paste(const std::string& text) {
+  if (TakesEvents() && !opened_ && Open(kKeyPaste)) editor_.Paste(text);
+}
+
 void Grid::Enter() {
   if (!TakesEvents() || Row() == kNoRow) return;
   if (row_ + 1 < Rows()) {
@@ -148,7 +169,8 @@ bool Grid::Tab(bool forward) {
   const int step = forward ? 1 : -1;
   for (int at = row_ * columns + column_ + step; at >= 0 && at < Rows() * columns; at += step) {
     if (ColumnAt(at % columns).kind != GridColumn::Kind::kShown) {
-      return MoveTo(at / columns, at % columns);
+      MoveTo(at / columns, at % columns);
+      return true;
     }
   }
   return false;
@@ -173,6 +195,7 @@ bool Grid::Open(int key) {
   editor_.SetText(Shown(row_, column_));
   editor_.SelectAll();
   opened_ = true;
+  ShowRow();
   Redraw();
   return true;
 }
@@ -191,6 +214,7 @@ bool Grid::LeaveCell() {
     leaving_ = true;
     leave = CellLeft(column_, text);
     leaving_ = false;
+    if (!opened_) return true;  // the rule has refreshed the grid
   }
   if (leave == Leave::kStay) return false;
   if (leave == Leave::kTake) edits_[column_] = text;

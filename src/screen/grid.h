@@ -101,6 +101,7 @@ class Grid : public Control {
   [[nodiscard]] bool OnScreen(int row) const {
     return row >= first_row_ && row < first_row_ + rows_in_view_;
   }
+  /// A row that is too near to the end of the grid comes into view as far as it goes.
   void SetFirstRow(int row);
   void SetView(int first_row, int rows_in_view);
   /// Makes a row that is on the screen the current one, unless edits of another row are held.
@@ -122,8 +123,12 @@ class Grid : public Control {
   void OpenCell();
   /// Enter: the row below; in the last row the row is left all the same.
   void Enter();
+  /// Delete: opens the current cell, and empties it.
+  void Clear();
+  /// Ctrl+V: opens the current cell by the key `kKeyPaste`, and pastes over all of its text.
+  void Paste(const std::string& text);
   /// Tab: the next, or the previous, cell that can be edited or pressed. False at the end of the
-  /// grid, which is then to be left, or if a rule stays.
+  /// grid, which is then to be left.
   bool Tab(bool forward);
   /// ESC: closes the open cell as it was, else drops the edits of the row. False if there is
   /// nothing to drop.
@@ -139,6 +144,8 @@ class Grid : public Control {
   bool LeaveCell();
   bool LeaveRow();
   void Drop();
+  void GoTo(int row, int column);
+  void ShowRow();
 
   std::vector<GridColumn> columns_;
   TextBox editor_;

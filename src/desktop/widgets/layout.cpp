@@ -97,4 +97,14 @@ QWidget* ButtonColumn(std::initializer_list<Button*> buttons, QWidget* parent) {
   return group;
 }
 
+void ListPage(QWidget* page, QWidget* grid, std::initializer_list<Button*> buttons,
+              std::initializer_list<QWidget*> above, std::initializer_list<QWidget*> below) {
+  QVBoxLayout* column = Column(page);
+  column->setSpacing(kGap);
+  for (QWidget* part : above) column->addWidget(part);
+  column->addWidget(grid, 1);
+  for (QWidget* part : below) column->addWidget(part);
+  column->addWidget(ButtonRow(buttons, page));
+}
+
 }  // namespace corvalis::desktop

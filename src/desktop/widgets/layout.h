@@ -41,4 +41,10 @@ void AddLine(QGridLayout& fields, QWidget* line);
 /// The same from top to bottom, over the whole width.
 [[nodiscard]] QWidget* ButtonColumn(std::initializer_list<Button*> buttons, QWidget* parent);
 
+/// Lays `page` out for a list: what selects it, if anything, the grid, which takes the room that is
+/// left, what belongs to its rows, and the buttons.
+void ListPage(QWidget* page, QWidget* grid, std::initializer_list<Button*> buttons,
+              std::initializer_list<QWidget*> above = {},
+              std::initializer_list<QWidget*> below = {});
+
 }  // namespace corvalis::desktop

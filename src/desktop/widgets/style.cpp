@@ -204,7 +204,7 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
         FieldLook look = LookOf(*option);
         const auto* text = qobject_cast<const QPlainTextEdit*>(widget);
         look.display_only = text != nullptr && text->isReadOnly();
-        look.focus = widget->hasFocus();
+        look.focus = widget->hasFocus() || widget->isAncestorOf(QApplication::focusWidget());
         DrawField(*painter, option->rect, look);
         return;
       }
@@ -245,6 +245,12 @@ void Style::drawControl(ControlElement element, const QStyleOption* option, QPai
       DrawBar(*painter, *bar);
       return;
     }
+  }
+  if (element == CE_HeaderSection || element == CE_HeaderEmptyArea) {
+    painter->fillRect(option->rect, QColor(colours::kWindow));
+    painter->setPen(QColor(colours::kFaintBorder));
+    painter->drawLine(option->rect.bottomLeft(), option->rect.bottomRight());
+    return;
   }
   QProxyStyle::drawControl(element, option, painter, widget);
 }

@@ -21,16 +21,6 @@ namespace {
 
 constexpr int kLeastColumns = 6;  // of a box that is as wide as the layout lets it
 
-/// What a box of one line takes of a text: its first line, without control characters.
-QString OneLine(const QString& clip) {
-  QString line;
-  for (const QChar character : clip) {
-    if (character == u'\r' || character == u'\n') break;
-    if (character.unicode() >= u' ') line += character;
-  }
-  return line;
-}
-
 /// True for the keys with which a box is edited or copied from without a character.
 bool IsEditCommand(QKeyEvent& event) {
   const QKeySequence::StandardKey commands[] = {QKeySequence::Copy, QKeySequence::Cut,
