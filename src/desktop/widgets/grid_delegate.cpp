@@ -2,7 +2,7 @@
 
 #include <QFontDatabase>
 #include <QPainter>
-#include <QPainterPath>
+#include <QPixmapCache>
 #include <algorithm>
 #include <cmath>
 
@@ -57,26 +57,46 @@ int GridDelegate::ColumnWidth(int column) const {
   return static_cast<int>(std::ceil(std::max(text + (button ? kNear : 0), heading))) + kApart;
 }
 
-void GridDelegate::DrawButton(QPainter& painter, const QStyleOptionViewItem& option,
-                              const QString& text) const {
-  const bool enabled = option.state.testFlag(QStyle::State_Enabled);
-  QRgb ground = IsOn(text) ? colours::kOnGround : colours::kField;
-  QRgb border = IsOn(text) ? colours::kOn : colours::kBorder;
-  QRgb ink = IsOn(text) ? colours::kOn : colours::kText;
-  if (option.state.testFlag(QStyle::State_MouseOver)) ground = colours::kHover;
+// A grid of many switches is scrolled by drawing them again and again, so each look is drawn once.
+QPixmap GridDelegate::ButtonLook(QSize size, double scale, QStyle::State state,
+                                 const QString& word) const {
+  const bool enabled = state.testFlag(QStyle::State_Enabled);
+  const bool hover = state.testFlag(QStyle::State_MouseOver);
+  const QString key = QStringLiteral("grid %1x%2 %3 %4 %5 %6 %7")
+                          .arg(size.width())
+                          .arg(size.height())
+                          .arg(scale)
+                          .arg(enabled)
+                          .arg(hover)
+                          .arg(font_.key(), word);
+  QPixmap look;
+  if (QPixmapCache::find(key, &look)) return look;
+
+  QRgb ground = IsOn(word) ? colours::kOnGround : colours::kField;
+  QRgb border = IsOn(word) ? colours::kOn : colours::kBorder;
+  QRgb ink = IsOn(word) ? colours::kOn : colours::kText;
+  if (hover) ground = colours::kHover;
   if (!enabled) {
     ground = colours::kWindow;
     border = colours::kFaintBorder;
     ink = colours::kDisabledText;
   }
+  look = QPixmap(size * scale);
+  look.setDevicePixelRatio(scale);
+  look.fill(Qt::transparent);
+  QPainter painter(&look);
   painter.setRenderHint(QPainter::Antialiasing);
   painter.setPen(QPen(QColor(border), 1));
   painter.setBrush(QColor(ground));
-  painter.drawRoundedRect(QRectF(option.rect).adjusted(4.5, 3.5, -5.5, -4.5), kButtonCorner,
+  const QRect cell(QPoint(0, 0), size);
+  painter.drawRoundedRect(QRectF(cell).adjusted(4.5, 3.5, -5.5, -4.5), kButtonCorner,
                           kButtonCorner);
-  painter.setFont(IsOn(text) ? HeadingFont() : font_);
+  painter.setFont(IsOn(word) ? HeadingFont() : font_);
   painter.setPen(QColor(ink));
-  painter.drawText(option.rect.adjusted(0, 0, -1, -1), Qt::AlignCenter, text);
+  painter.drawText(cell.adjusted(0, 0, -1, -1), Qt::AlignCenter, word);
+  painter.end();
+  QPixmapCache::insert(key, look);
+  return look;
 }
 
 // Each place where it stands, and a quiet dot for a blank.
@@ -117,8 +137,10 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
 
   const QRect inner = option.rect.adjusted(kNear, 0, -kFrame, -1);
   if (column.kind == GridColumn::Kind::kButton) {
-    DrawButton(*painter, option, text);
-  } else {
+    const double scale = painter->device()->devicePixelRatioF();
+    const QPixmap look = ButtonLook(option.rect.size(), scale, option.state, text);
+    painter->drawPixmap(option.rect.topLeft(), look);
+  } else if (!current || !grid_.Opened()) {
     const bool quiet = column.kind == GridColumn::Kind::kShown && !in_row;
     QRgb ink = quiet ? colours::kQuietText : colours::kText;
     if (!enabled) ink = colours::kDisabledText;
@@ -149,6 +171,10 @@ QWidget* GridDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&
   auto* editor = new TextBoxWidget(grid_.Editor(), column.width, parent);
   editor->setFrame(false);
   editor->setFont(FontOf(column));
+  editor->setBackgroundRole(QPalette::Base);
+  editor->setAutoFillBackground(true);
+  // The text stays where the cell had it.
+  editor->setTextMargins(kTight, 0, 0, kTight / 2);
   editor->setAccessibleName(FromBytes(column.heading));
   return editor;
 }

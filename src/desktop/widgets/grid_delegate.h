@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QKeyEvent>
+#include <QPixmap>
 #include <QStyledItemDelegate>
 #include <functional>
 
@@ -40,7 +41,8 @@ class GridDelegate : public QStyledItemDelegate {
  private:
   [[nodiscard]] const GridColumn& ColumnOf(int column) const;
   [[nodiscard]] const QFont& FontOf(const GridColumn& column) const;
-  void DrawButton(QPainter& painter, const QStyleOptionViewItem& option, const QString& text) const;
+  [[nodiscard]] QPixmap ButtonLook(QSize size, double scale, QStyle::State state,
+                                   const QString& word) const;
   void DrawPlaces(QPainter& painter, const QRect& rect, const QString& text) const;
 
   Grid& grid_;

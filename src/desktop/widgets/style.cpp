@@ -363,6 +363,8 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_LayoutRightMargin:
     case PM_LayoutBottomMargin:
       return kGap;
+    case PM_HeaderMargin:
+      return kNear;
     case PM_FocusFrameHMargin:
       return kTight;
     case PM_IndicatorWidth:
