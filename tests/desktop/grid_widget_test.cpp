@@ -6,10 +6,12 @@
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
+#include <QPointer>
 #include <QScrollBar>
 #include <QTest>
 #include <QWheelEvent>
 #include <functional>
+#include <memory>
 
 #include "desktop/text.h"
 #include "desktop/widgets/button_widget.h"
@@ -154,6 +156,8 @@ TEST_F(GridWidgetTest, TabPassesThroughAndOutOnBothSides) {
   EXPECT_EQ(QApplication::focusWidget(), button);
   Key(Qt::Key_Tab);
   EXPECT_EQ(At(), "0,1 7[]");
+  Key(Qt::Key_Tab, Qt::ControlModifier);  // from any cell
+  EXPECT_EQ(QApplication::focusWidget(), View::last->box);
 }
 
 TEST_F(GridWidgetTest, EachPressCounts) {
@@ -299,6 +303,23 @@ TEST_F(GridWidgetTest, EscClosesTheCellBeforeTheWindow) {
   EXPECT_TRUE(takes_esc());  // the row
   EXPECT_EQ(form_.grid.Shown(0, 3), "Off");
   EXPECT_FALSE(takes_esc());
+}
+
+TEST(GridWidget, AFormMayEndBeforeItsTable) {
+  QtScreenHost host;
+  host.Register<test::GridForm, View>();
+  auto form = std::make_unique<test::GridForm>();
+  form->window.Show();
+  EXPECT_TRUE(QTest::qWaitForWindowActive(View::last));
+  form->grid.MoveTo(1, 2);
+  form->grid.Type("a");
+  form->items.resize(500);
+  form->grid.Refresh();
+  const QPointer<QWidget> view = View::last;
+  form.reset();  // with a layout of the table still to be done
+  QCoreApplication::processEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(view, nullptr);
 }
 
 }  // namespace

@@ -179,6 +179,11 @@ void GridWidget::initViewItemOption(QStyleOptionViewItem* option) const {
   option->state.setFlag(QStyle::State_HasFocus, Active());
 }
 
+// A window that has been left outlives its grid for a moment, and is silent from then on.
+void GridWidget::timerEvent(QTimerEvent* event) {
+  if (!signalsBlocked()) QTableView::timerEvent(event);
+}
+
 bool GridWidget::event(QEvent* event) {
   // ESC belongs to the grid as long as there is something to drop, whatever waits for it.
   if (event->type() == QEvent::ShortcutOverride &&
@@ -222,8 +227,7 @@ bool GridWidget::MovedByKey(const QKeyEvent& event) {
   switch (event.key()) {
     case Qt::Key_Tab:
     case Qt::Key_Backtab:
-      if (event.modifiers() & ~Qt::ShiftModifier) return false;
-      LeaveByTab(event.key() == Qt::Key_Tab && event.modifiers() == Qt::NoModifier);
+      Tab(event);
       return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
@@ -253,8 +257,11 @@ bool GridWidget::MovedByKey(const QKeyEvent& event) {
   return true;
 }
 
-void GridWidget::LeaveByTab(bool forward) {
-  if (grid_.Tab(forward)) return;
+// With Ctrl it goes on to the next control from any cell.
+void GridWidget::Tab(const QKeyEvent& event) {
+  const Qt::KeyboardModifiers modifiers = event.modifiers();
+  const bool forward = event.key() == Qt::Key_Tab && !modifiers.testFlag(Qt::ShiftModifier);
+  if (!modifiers.testFlag(Qt::ControlModifier) && grid_.Tab(forward)) return;
   const QScopedValueRollback<bool> guard(passing_, true);
   // The open cell comes behind the table in the order of Tab.
   if (!forward) setFocus(Qt::OtherFocusReason);

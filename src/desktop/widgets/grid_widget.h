@@ -26,6 +26,7 @@ class GridWidget : public QTableView {
 
  protected:
   bool event(QEvent* event) override;
+  void timerEvent(QTimerEvent* event) override;
   void changeEvent(QEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void updateGeometries() override;
@@ -59,7 +60,7 @@ class GridWidget : public QTableView {
   /// The keys that move, in the open cell too; true if the key was one.
   bool MovedByKey(const QKeyEvent& event);
   bool MovedAlongRow(const QKeyEvent& event);
-  void LeaveByTab(bool forward);
+  void Tab(const QKeyEvent& event);
   void Strike(const QString& characters);
 
   Grid& grid_;

@@ -22,9 +22,10 @@ inline constexpr QRgb kDisabledText = 0xff8b97a3;
 inline constexpr QRgb kAccent = 0xff0a67a6;
 inline constexpr QRgb kHover = 0xffe8f1f8;
 inline constexpr QRgb kPressed = 0xffcfe2f0;
-inline constexpr QRgb kOnAir = 0xffc62828;  ///< what the whole audience hears now
-inline constexpr QRgb kOn = 0xff1f7a45;     ///< what is switched on
-inline constexpr QRgb kOff = 0xffb27d77;    ///< what is switched off: red, but no alarm
+inline constexpr QRgb kOnAir = 0xffc62828;     ///< what the whole audience hears now
+inline constexpr QRgb kOn = 0xff1f7a45;        ///< what is switched on
+inline constexpr QRgb kOnGround = 0xffdff1e6;  ///< under it, where many switches stand side by side
+inline constexpr QRgb kOff = 0xffb27d77;       ///< what is switched off: red, but no alarm
 }  // namespace colours
 
 /// A length that grows with the program's font, so that whoever needs larger letters gets room for
