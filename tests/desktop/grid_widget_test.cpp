@@ -300,6 +300,9 @@ TEST_F(GridWidgetTest, EscClosesTheCellBeforeTheWindow) {
   Keys("a");
   EXPECT_TRUE(takes_esc());  // the cell
   EXPECT_EQ(At(), "0,2");
+  QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, {}, QString(), true);
+  QCoreApplication::sendEvent(QApplication::focusWidget(), &held);
+  EXPECT_EQ(form_.grid.Shown(0, 3), "ON");
   EXPECT_TRUE(takes_esc());  // the row
   EXPECT_EQ(form_.grid.Shown(0, 3), "Off");
   EXPECT_FALSE(takes_esc());

@@ -234,7 +234,8 @@ bool GridWidget::MovedByKey(const QKeyEvent& event) {
       grid_.Enter();
       return true;
     case Qt::Key_Escape:
-      return grid_.Escape();
+      // Held down, it drops the cell alone, and not the row and the window after it.
+      return event.isAutoRepeat() || grid_.Escape();
     case Qt::Key_F2:
       grid_.OpenCell();
       return true;
