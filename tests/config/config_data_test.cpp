@@ -150,14 +150,6 @@ TEST_F(ConfigDataTest, Languages) {
   }
 }
 
-TEST_F(ConfigDataTest, PiOfTheSetupIsReadAndNeverWritten) {
-  Load("[RDS Setup]\r\nPI=5\r\n");
-  EXPECT_EQ(configData->Pi(), 5);
-  configData->SetPi(77);
-  configData->SetIni();
-  EXPECT_EQ(profiles.Read(ProgramFile(), "RDS Setup", "PI"), "5");
-}
-
 TEST_F(ConfigDataTest, BrandByExactComparison) {
   const std::pair<const char*, bool (ConfigData::*)() const> brands[] = {
       {"VARN", &ConfigData::Varn},   {"KOR", &ConfigData::KOR},   {"ZEL", &ConfigData::ZEL},

@@ -69,18 +69,6 @@ TEST_F(LanguageTest, MissingFileIsWrittenWhole) {
   EXPECT_EQ(Got(texts), Defaults());
   const std::string file = ReadFile(machine.program_folder + "/Language.ini");
   EXPECT_EQ(Parse(file), Defaults());
-  const std::pair<const char*, int> sections[] = {
-      {"MAIN", 26},        {"SETUP", 16},      {"CONNECTION", 52}, {"TA-PTY-MS", 13},
-      {"EDIT GROUP", 42},  {"CLOCK TIME", 12}, {"PI-ECC-LIC", 28}, {"TP-DI", 26},
-      {"PSN", 20},         {"RT", 10},         {"PIN", 10},        {"AF Method A", 32},
-      {"AF METHOD B", 29}, {"PTYN", 14},       {"PSN PLAN", 10},   {"EON", 23},
-      {"LI", 10},          {"TA EON", 10},     {"TDC", 10},        {"IH", 51},
-      {"TMC System", 12},  {"TMC", 10},        {"MESSAGE", 3}};
-  const std::vector<Text> written = Parse(file);
-  std::size_t next = 0;
-  for (const auto& [section, count] : sections) {
-    for (int i = 0; i < count; ++i) EXPECT_EQ(written.at(next++).section, section);
-  }
 
   const LanguageData again;
   EXPECT_EQ(Got(again), Defaults());
