@@ -114,6 +114,52 @@ std::string Digits(int value, int width) {
   return text += digits;
 }
 
+namespace {
+
+// A number of at least one digit and at most so many, without a sign.
+std::optional<int> DigitsOnly(std::string_view text, std::size_t most) {
+  const auto is_digit = [](char c) { return c >= '0' && c <= '9'; };
+  if (text.empty() || text.size() > most || !std::all_of(text.begin(), text.end(), is_digit)) {
+    return std::nullopt;
+  }
+  return ParseDecimal<std::int32_t>(text);
+}
+
+}  // namespace
+
+std::optional<std::chrono::minutes> ParseTime(std::string_view text) {
+  const std::size_t colon = text.find(':');
+  if (colon == std::string_view::npos) return std::nullopt;
+  const auto hour = DigitsOnly(text.substr(0, colon), 2);
+  const auto minute = DigitsOnly(text.substr(colon + 1), 2);
+  if (!hour || !minute || *hour > 23 || *minute > 59) return std::nullopt;
+  return std::chrono::hours(*hour) + std::chrono::minutes(*minute);
+}
+
+std::string TimeText(std::chrono::minutes time_of_day) {
+  const auto minutes = static_cast<int>(time_of_day.count());
+  return Digits(minutes / 60, 2) + ":" + Digits(minutes % 60, 2);
+}
+
+std::optional<std::chrono::year_month_day> ParseDate(std::string_view text) {
+  constexpr std::string_view kSeparators = "-/.";
+  const std::size_t first = text.find_first_of(kSeparators);
+  if (first == std::string_view::npos) return std::nullopt;
+  const std::size_t second = text.find_first_of(kSeparators, first + 1);
+  if (second == std::string_view::npos) return std::nullopt;
+  const std::string_view year_digits = text.substr(second + 1);
+  const auto day = DigitsOnly(text.substr(0, first), 2);
+  const auto month = DigitsOnly(text.substr(first + 1, second - first - 1), 2);
+  auto year = DigitsOnly(year_digits, 4);
+  if (!day || !month || !year || year_digits.size() == 3) return std::nullopt;
+  if (year_digits.size() < 3) year = *year + (*year < 30 ? 2000 : 1900);
+  const std::chrono::year_month_day date{std::chrono::year(*year),
+                                         std::chrono::month(static_cast<unsigned>(*month)),
+                                         std::chrono::day(static_cast<unsigned>(*day))};
+  if (!date.ok()) return std::nullopt;
+  return date;
+}
+
 std::string SignedHours(int half_hours) {
   const int size = std::abs(half_hours);
   return (half_hours < 0 ? "-" : "+") + Digits(size / 2, 2) + (size % 2 == 0 ? ".0" : ".5");

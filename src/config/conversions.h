@@ -57,6 +57,15 @@ extern template std::optional<std::int32_t> ParseDecimal(std::string_view text);
 /// formats "0", "00" and "000" of the screens.
 [[nodiscard]] std::string Digits(int value, int width);
 
+/// The time of the day that a text is, "9:05" or "09:05"; nullopt for anything else.
+[[nodiscard]] std::optional<std::chrono::minutes> ParseTime(std::string_view text);
+/// The format "hh:mm", for 0:00 to 23:59.
+[[nodiscard]] std::string TimeText(std::chrono::minutes time_of_day);
+/// The date that a text is: day, month and year with "-", "/" or "." between them, a year of four
+/// digits or of two, of which 00 to 29 are 2000 to 2029 and 30 to 99 are 1930 to 1999; nullopt for
+/// anything else.
+[[nodiscard]] std::optional<std::chrono::year_month_day> ParseDate(std::string_view text);
+
 /// Half hours as hours with a sign and one decimal: the format "+00.0;-00.0", so 3 is "+01.5".
 [[nodiscard]] std::string SignedHours(int half_hours);
 

@@ -1,6 +1,9 @@
 #pragma once
 
+#include "programme/pin_tab.h"
+#include "programme/psn_plan_tab.h"
 #include "programme/psn_tab.h"
+#include "programme/rt_tab.h"
 #include "screen/tabs.h"
 #include "screen/window.h"
 
@@ -23,6 +26,9 @@ class PsnRtPinAfForm {
   Tabs SSTab1{
       window, "SSTab1", {"PSN", "PSN PLAN", "RT", "PIN", "AF Method A", "AF Method B", "PTYN"}};
   PsnTab psn{window};
+  PsnPlanTab plan{window};
+  RtTab rt{window};
+  PinTab pin{window};
 
  private:
   Window& main_menu_;

@@ -19,9 +19,10 @@ Grid::Grid(Window& window, std::string name, std::vector<GridColumn> columns)
   editor_.KeyPress = [this](int& key) {
     if (KeyPress) KeyPress(column_, key);
   };
-  // What is typed is seen, though the wheel had turned it away.
   editor_.Change = [this] {
-    if (opened_) ShowRow();
+    if (!opened_) return;
+    ShowRow();  // what is typed is seen, though the wheel had turned it away
+    if (Edited) Edited();
   };
 }
 
@@ -73,8 +74,8 @@ void Grid::DropEdit(int column) {
 }
 
 void Grid::Drop() {
-  opened_ = false;
   edits_.clear();
+  if (opened_) CloseCell();
 }
 
 void Grid::Refresh() {
@@ -141,9 +142,10 @@ void Grid::Type(const std::string& keys) {
 }
 
 void Grid::OpenCell() {
-  if (TakesEvents() && !opened_ && Open(kNoKey)) {
-    editor_.Select(static_cast<int>(editor_.Text().size()), 0);
-  }
+  if (!TakesEvents() || opened_ || !Open(kNoKey)) return;
+  const std::string& text = editor_.Text();
+  const std::size_t end = text.find_last_not_of(' ') + 1;
+  editor_.Select(static_cast<int>(end), static_cast<int>(text.size() - end));
 }
 
 void Grid::Clear() {
@@ -197,12 +199,14 @@ bool Grid::Open(int key) {
   opened_ = true;
   ShowRow();
   Redraw();
+  if (Edited) Edited();
   return true;
 }
 
 void Grid::CloseCell() {
   opened_ = false;
   Redraw();
+  if (Edited) Edited();
 }
 
 bool Grid::LeaveCell() {

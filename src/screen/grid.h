@@ -61,6 +61,8 @@ class Grid : public Control {
   std::function<bool(int row)> RowLeft;
   /// The button of a cell of the current row is pressed.
   std::function<void(int column)> ButtonClick;
+  /// The text of the open cell has changed, or a cell has been opened or closed.
+  std::function<void()> Edited;
   /// Another cell has become the current one.
   std::function<void()> Moved;
   /// Another row has become the first one in view.
@@ -119,7 +121,8 @@ class Grid : public Control {
   /// button; in an open cell, types.
   void TypeKey(int key);
   void Type(const std::string& keys);
-  /// F2: opens the current cell, with the caret at the end.
+  /// F2: opens the current cell with the caret at the end of what is to be seen; the blanks behind
+  /// it are selected, so that typing goes on there.
   void OpenCell();
   /// Enter: the row below; in the last row the row is left all the same.
   void Enter();

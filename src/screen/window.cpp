@@ -82,8 +82,10 @@ bool Window::MoveFocus(Control* to) {
   Control* left = focus_;
   if (left != nullptr) {
     leaving_ = true;
+    focus_target_ = to;
     asked_back_ = nullptr;
     if (left->LostFocus) left->LostFocus();
+    focus_target_ = nullptr;
     leaving_ = false;
     Control* back = std::exchange(asked_back_, nullptr);
     if (back != nullptr && back->TakesEvents()) {

@@ -85,6 +85,9 @@ class Window {
   /// true if `to` has the focus in the end.
   bool MoveFocus(Control* to);
 
+  /// While a lost-focus rule runs: where the focus is going; null for out of the window.
+  [[nodiscard]] Control* FocusTarget() const { return focus_target_; }
+
   [[nodiscard]] const std::vector<Control*>& Controls() const { return controls_; }
   /// The control of that name, as "PiText" or "Text39(0)"; null if there is none.
   [[nodiscard]] Control* Find(const std::string& name) const;
@@ -111,6 +114,7 @@ class Window {
   bool modal_ = false;
   std::vector<Control*> controls_;
   Control* focus_ = nullptr;
+  Control* focus_target_ = nullptr;
   bool leaving_ = false;           // a lost-focus rule is running
   Control* asked_back_ = nullptr;  // what that rule asked for
 };

@@ -7,7 +7,7 @@
 #include "link/station_commands.h"
 #include "link/transfer.h"
 #include "platform/platform.h"
-#include "station/programme_types.h"
+#include "config/programme_types.h"
 
 namespace corvalis {
 
