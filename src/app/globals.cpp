@@ -3,6 +3,10 @@
 #include "app/single_instance.h"
 #include "config/config_data.h"
 #include "config/language_data.h"
+#include "programme/pin_data.h"
+#include "programme/psn_data.h"
+#include "programme/psn_page_data.h"
+#include "programme/rt_data.h"
 #include "station/groups_data.h"
 
 namespace corvalis {
@@ -10,9 +14,11 @@ namespace corvalis {
 namespace {
 
 // A class that joins gets its place in each of these orders, which differ.
-using OfCreation = SingleInstances<groupsData>;  // and of release
-using OfOpen = SingleInstances<groupsData>;
-using OfNew = SingleInstances<groupsData, groupsData>;  // the group sequence has two places
+using OfCreation =
+    SingleInstances<psnData, psnPageData, rtData, pinData, groupsData>;  // and of release
+using OfOpen = SingleInstances<psnData, psnPageData, rtData, pinData, groupsData>;
+// The group sequence has two places here.
+using OfNew = SingleInstances<psnData, psnPageData, rtData, pinData, groupsData, groupsData>;
 
 }  // namespace
 
@@ -36,9 +42,25 @@ void Globals::LoadForOpen() { OfOpen::GetIni(); }
 
 void Globals::LoadForNew() { OfNew::GetIni(); }
 
-// None of the classes that ask the Coder for a size has joined yet.
-void Globals::LoadLimits() {}
+void Globals::LoadLimits() {
+  pinData->GetIni();
+  if (configData->PsnPagesEnable()) {
+    psnPageData->GetIni();
+  } else {
+    psnData->GetIni();
+  }
+  rtData->GetIni();
+}
 
-void Globals::Store() { SingleInstances<configData, groupsData>::SetIni(); }
+void Globals::Store() {
+  configData->SetIni();
+  // The two share a section, and only one of them is written.
+  if (configData->PsnPagesEnable()) {
+    psnPageData->SetIni();
+  } else {
+    psnData->SetIni();
+  }
+  SingleInstances<rtData, pinData, groupsData>::SetIni();
+}
 
 }  // namespace corvalis

@@ -11,6 +11,7 @@
 #include "link/rs232c_form.h"
 #include "platform/clock.h"
 #include "platform/serial_port.h"
+#include "programme/psn_rt_pin_af_form.h"
 #include "screen/button.h"
 #include "screen/control.h"
 #include "screen/file_lists.h"
@@ -66,6 +67,7 @@ class MainForm {
 
   /// The screen, once it has been opened; null before.
   [[nodiscard]] CtTpDiPiForm* OpenedCtTpDiPi() const { return ct_tp_di_pi_.get(); }
+  [[nodiscard]] PsnRtPinAfForm* OpenedPsnRtPinAf() const { return psn_rt_pin_af_.get(); }
 
  private:
   static constexpr const char* kExtension = ".rds";
@@ -107,6 +109,7 @@ class MainForm {
   std::unique_ptr<RS232CForm> rs232c_;
   std::unique_ptr<TaPtyMsForm> ta_pty_ms_;
   std::unique_ptr<CtTpDiPiForm> ct_tp_di_pi_;
+  std::unique_ptr<PsnRtPinAfForm> psn_rt_pin_af_;
   std::unique_ptr<EditGroupsForm> edit_groups_;
 };
 
