@@ -57,10 +57,14 @@ std::vector<std::string> CoderProcess::Memory() {
 
 std::vector<std::string> CoderProcess::Arrived(std::size_t at_least) {
   std::vector<std::string> lines;
-  while (lines.size() < at_least) lines.push_back(ReadLine());
+  // The sizes of the lists are asked whenever these load.
+  const auto add = [&lines](std::string line) {
+    if (line.find(" count read -> ") == std::string::npos) lines.push_back(std::move(line));
+  };
+  while (lines.size() < at_least) add(ReadLine());
   // What lies on the line is taken before the question is.
   kill(static_cast<pid_t>(process_.processId()), SIGUSR1);
-  for (std::string& line : LinesUntil("memory")) lines.push_back(std::move(line));
+  for (std::string& line : LinesUntil("memory")) add(std::move(line));
   memory_ = LinesUntil("end of memory");
   return lines;
 }

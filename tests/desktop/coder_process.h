@@ -24,8 +24,9 @@ class CoderProcess {
   /// What the Coder holds, a line for each item ("PI 00: 35 32 30 31  \"5201\""), the Coder ID
   /// first. For a program started with `--dump`.
   std::vector<std::string> Memory();
-  /// What it has printed since the last look, up to now. `at_least` so many lines are waited for,
-  /// where nothing else tells that they must have come. For a program started with `--dump`.
+  /// What it has printed since the last look, up to now, but for the answered counts. `at_least` so
+  /// many lines are waited for, where nothing else tells that they must have come. For a program
+  /// started with `--dump`.
   std::vector<std::string> Arrived(std::size_t at_least = 0);
 
  private:

@@ -22,6 +22,7 @@ using Lines = std::vector<std::string>;
 /// The windows, by their names.
 inline const QString kMain = QStringLiteral("MainForm");
 inline const QString kStation = QStringLiteral("CtTpDiPiForm");
+inline const QString kTexts = QStringLiteral("PsnRtPinAfForm");
 inline const QString kOnAir = QStringLiteral("TaPtyMsForm");
 inline const QString kGroups = QStringLiteral("EditGroupsForm");
 inline const QString kSetup = QStringLiteral("RS232CForm");
@@ -31,6 +32,9 @@ inline const QString kWait = QStringLiteral("WaitForm");
 /// A file for a two-way line at port 1 that any `corvalis-coder` understands.
 inline constexpr const char* kLocalFile =
     "[Serial Setup]\nSatellite=Off\nSerialPort=1\nBaudrate=9600\nParity=N\nStopBit=2\n";
+
+/// Frames that a Coder on a two-way line answers while the program starts: the ENQ and the counts.
+inline constexpr int kAnswersOfStart = 7;
 
 /// The program in folders of its own, with an operator's hand on its real windows and a simulated
 /// Coder at its real port.

@@ -132,10 +132,11 @@ TEST_F(WindowsTransferTest, EscEndsAWaitAndNothingElseDoes) {
 }
 
 TEST_F(WindowsTransferTest, AFaultOfTheLineIsSaidOnceAndEndsTheTransfer) {
+  const QString next = QString::number(kAnswersOfStart + 1);
   const std::tuple<QStringList, const char*, Lines> cases[] = {
       {{}, "SendPiCommand", {"PI: [RDS] before send address  "}},
-      {{"--open", "--garble", "2"}, "SendPiCommand", {"PI:   [ TX ] not acknowledge   "}},
-      {{"--open", "--garble", "2"}, "ReadPiCommand", {"PI: [ RX ] checksum was wrong  "}},
+      {{"--open", "--garble", next}, "SendPiCommand", {"PI:   [ TX ] not acknowledge   "}},
+      {{"--open", "--garble", next}, "ReadPiCommand", {"PI: [ RX ] checksum was wrong  "}},
       {{"--open", "--late", "30", "--pace"}, "ReadPiCommand", {}}};
   // The box stands over everything, and its own ESC is no abort of the next transfer.
   during_box = [] { ExpectNotToClose({kTransfer, kStation, kMain}); };
@@ -151,7 +152,8 @@ TEST_F(WindowsTransferTest, AFaultOfTheLineIsSaidOnceAndEndsTheTransfer) {
 }
 
 TEST_F(WindowsTransferTest, ALineThatIsPulledOutIsFoundAgain) {
-  StartWithCoder({"--open", "--unplug-after", "2", "--replug-after", "0"});
+  StartWithCoder(
+      {"--open", "--unplug-after", QString::number(kAnswersOfStart + 1), "--replug-after", "0"});
   OpenIdentity();
   during_transfer = [&] {
     coder->WaitForLine("unplugged");
