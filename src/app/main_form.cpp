@@ -60,6 +60,7 @@ MainForm::MainForm() : MSComm1(*Machine().port) {
                                              .reload_limits = [this] { globals_.LoadLimits(); }});
   };
   TaPtyMsButton.Click = [this] { OpenScreen(ta_pty_ms_, window); };
+  PsnRtPinAfButton.Click = [this] { OpenScreen(psn_rt_pin_af_, window); };
   CtTpDiPiButton.Click = [this] { OpenScreen(ct_tp_di_pi_, window); };
   EditGroupsButton.Click = [this] { OpenScreen(edit_groups_, window); };
   // A screen that isn't there yet can't be opened.

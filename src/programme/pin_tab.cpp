@@ -156,6 +156,7 @@ void PinTab::SetTypeRules() {
 
 // The list is over the type's cell exactly while that is the current one.
 void PinTab::FollowCell() {
+  Combo1.SetVisible(false);  // it comes up anew where the cell is
   const bool here = DBGrid4.Column() == kType && DBGrid4.Row() != Grid::kNoRow;
   if (here) {
     following_ = true;

@@ -19,7 +19,7 @@ TEST_F(WindowsMenuTest, StartsOnItsFileWithTheScreensThatThereAre) {
   EXPECT_EQ(hand.Shown(kMain, "Text105"), "corvalis.rds");
   const std::pair<const char*, QString> screens[] = {
       {"TaPtyMsButton", kOnAir}, {"CtTpDiPiButton", kStation}, {"EditGroupsButton", kGroups},
-      {"RS232CButton", kSetup},  {"ConnectionButton", {}},     {"PsnRtPinAfButton", {}},
+      {"RS232CButton", kSetup},  {"ConnectionButton", {}},     {"PsnRtPinAfButton", kTexts},
       {"EonLiButton", {}},       {"TdcIhButton", {}}};
   for (const auto& [button, screen] : screens) {
     ASSERT_EQ(Usable(kMain, button), !screen.isEmpty()) << button;

@@ -4,6 +4,7 @@
 #include "desktop/views/ct_tp_di_pi_view.h"
 #include "desktop/views/edit_groups_view.h"
 #include "desktop/views/main_view.h"
+#include "desktop/views/psn_rt_pin_af_view.h"
 #include "desktop/views/rs232c_view.h"
 #include "desktop/views/ta_pty_ms_view.h"
 
@@ -17,6 +18,7 @@ void RegisterViews(QtScreenHost& host) {
   host.Register<TaPtyMsForm, TaPtyMsView>();
   host.Register<EditGroupsForm, EditGroupsView>();
   host.Register<CtTpDiPiForm, CtTpDiPiView>();
+  host.Register<PsnRtPinAfForm, PsnRtPinAfView>();
 }
 
 }  // namespace corvalis::desktop

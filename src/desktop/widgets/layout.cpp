@@ -1,5 +1,7 @@
 #include "desktop/widgets/layout.h"
 
+#include <QLabel>
+
 #include "desktop/widgets/button_widget.h"
 #include "desktop/widgets/label_widget.h"
 #include "desktop/widgets/spinner_widget.h"
@@ -88,6 +90,18 @@ QWidget* ButtonRow(std::initializer_list<Button*> buttons, QWidget* parent) {
   for (Button* button : buttons) row->addWidget(new ButtonWidget(*button, group));
   row->addStretch();
   return group;
+}
+
+QWidget* SelectedRow(Label& row, QWidget* parent) {
+  auto* part = new QWidget(parent);
+  QHBoxLayout* line = Row(part);
+  auto* word = new QLabel(QStringLiteral("Row"), part);
+  auto* name = new LabelWidget(row, part);
+  name->setFont(Bold(name->font()));
+  line->addWidget(word);
+  line->addWidget(name);
+  line->addStretch();
+  return part;
 }
 
 QWidget* ButtonColumn(std::initializer_list<Button*> buttons, QWidget* parent) {

@@ -36,6 +36,9 @@ void AddLine(QGridLayout& fields, QWidget* line);
 /// The same for a code that stands on its own and is read digit by digit.
 [[nodiscard]] QLineEdit* CodeBox(TextBox& box, int columns, QWidget* parent);
 
+/// Names the row of a list that its buttons for one row are about.
+[[nodiscard]] QWidget* SelectedRow(Label& row, QWidget* parent);
+
 /// A row of buttons of equal width, from the left. Hidden ones take no room.
 [[nodiscard]] QWidget* ButtonRow(std::initializer_list<Button*> buttons, QWidget* parent);
 /// The same from top to bottom, over the whole width.

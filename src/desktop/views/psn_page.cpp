@@ -1,0 +1,65 @@
+#include "desktop/views/psn_page.h"
+
+#include <QGroupBox>
+
+#include "desktop/widgets/grid_widget.h"
+#include "desktop/widgets/label_widget.h"
+#include "desktop/widgets/layout.h"
+#include "desktop/widgets/spinner_widget.h"
+#include "desktop/widgets/style.h"
+#include "desktop/widgets/text_box_widget.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+constexpr int kRowDigits = 3;
+
+QWidget* Pages(PsnTab& tab, QWidget* parent) {
+  auto* part = new QWidget(parent);
+  QVBoxLayout* column = Column(part);
+  auto* page = new QWidget(part);
+  QHBoxLayout* row = Row(page);
+  auto* number = new SpinField(tab.PageNumberText, tab.PageNumberScroll, kRowDigits, page);
+  auto* label = new LabelWidget(tab.Text10, page);
+  label->setBuddy(number);
+  row->addWidget(label);
+  row->addWidget(number);
+  row->addStretch();
+  column->addWidget(page);
+  column->addWidget(ButtonColumn(
+      {&tab.ReadPsnActiveButton, &tab.SendPsnActiveButton, &tab.SendPsnActiveBurstButton}, part));
+  return part;
+}
+
+QWidget* ScrollText(PsnTab& tab, QWidget* parent) {
+  auto* group = new QGroupBox(QStringLiteral("Scrolling text"), parent);
+  QGridLayout* fields = Fields(group);
+  AddField(*fields, tab.ScrollTextLabel, new TextBoxWidget(tab.Text11, 0, group));
+  AddField(*fields, tab.ScrollFromLabel, FixedBox(tab.Text12, kRowDigits, group));
+  AddField(*fields, tab.ScrollToLabel, FixedBox(tab.Text13, kRowDigits, group));
+  AddField(*fields, tab.ScrollTimeLabel, FixedBox(tab.Text14, kRowDigits, group));
+  AddLine(*fields, ButtonRow({&tab.Command24}, group));
+  return group;
+}
+
+}  // namespace
+
+PsnPage::PsnPage(PsnTab& tab, QWidget* parent) : QWidget(parent) {
+  auto* list = new QWidget(this);
+  QHBoxLayout* halves = Row(list);
+  halves->setSpacing(kApart);
+  halves->addWidget(new GridWidget(tab.DBGrid1, list, QStringLiteral("PSN")), 1);
+  auto* side = new QWidget(list);
+  QVBoxLayout* column = Column(side);
+  column->setSpacing(kApart);
+  column->addWidget(Pages(tab, side));
+  column->addWidget(ScrollText(tab, side));
+  column->addStretch();
+  halves->addWidget(side);
+  ListPage(this, list,
+           {&tab.Command19, &tab.Command20, &tab.Command17, &tab.Command16, &tab.Command18}, {},
+           {SelectedRow(tab.PsnSelectedLabel, this)});
+}
+
+}  // namespace corvalis::desktop

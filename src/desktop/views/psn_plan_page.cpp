@@ -1,0 +1,15 @@
+#include "desktop/views/psn_plan_page.h"
+
+#include "desktop/widgets/grid_widget.h"
+#include "desktop/widgets/layout.h"
+
+namespace corvalis::desktop {
+
+PsnPlanPage::PsnPlanPage(PsnPlanTab& tab, QWidget* parent) : QWidget(parent) {
+  ListPage(this, new GridWidget(tab.PsnPlanDBGrid, this, QStringLiteral("PSN plan")),
+           {&tab.ReadPlanCommand, &tab.ReadAllPlanCommand, &tab.SendPlanCommand,
+            &tab.SendAllPlanCommand, &tab.SendBurstPlanCommand},
+           {}, {SelectedRow(tab.PlanSelectedLabel, this)});
+}
+
+}  // namespace corvalis::desktop

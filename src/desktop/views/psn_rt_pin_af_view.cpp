@@ -1,0 +1,21 @@
+#include "desktop/views/psn_rt_pin_af_view.h"
+
+#include "desktop/views/pin_page.h"
+#include "desktop/views/psn_page.h"
+#include "desktop/views/psn_plan_page.h"
+#include "desktop/views/rt_page.h"
+#include "desktop/widgets/layout.h"
+#include "desktop/widgets/tabs_widget.h"
+
+namespace corvalis::desktop {
+
+PsnRtPinAfView::PsnRtPinAfView(PsnRtPinAfForm& form) : WindowView(form.window) {
+  auto* tabs = new TabsWidget(form.SSTab1, this);
+  tabs->AddPage(new PsnPage(form.psn, tabs));
+  tabs->AddPage(new PsnPlanPage(form.plan, tabs));
+  tabs->AddPage(new RtPage(form.rt, tabs));
+  tabs->AddPage(new PinPage(form.pin, tabs));
+  WindowColumn(this)->addWidget(tabs);
+}
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,19 @@
+#include "desktop/views/rt_page.h"
+
+#include "desktop/widgets/grid_widget.h"
+#include "desktop/widgets/label_widget.h"
+#include "desktop/widgets/layout.h"
+
+namespace corvalis::desktop {
+
+RtPage::RtPage(RtTab& tab, QWidget* parent) : QWidget(parent) {
+  QWidget* below = SelectedRow(tab.RtSelectedLabel, this);
+  auto* count = new LabelWidget(tab.RtCountLabel, below);
+  count->setAccessibleName(QStringLiteral("Characters"));
+  static_cast<QHBoxLayout*>(below->layout())->addWidget(count);
+  ListPage(this, new GridWidget(tab.DBGrid3, this, QStringLiteral("RT")),
+           {&tab.Command9, &tab.Command22, &tab.Command14, &tab.Command21, &tab.Command10}, {},
+           {below});
+}
+
+}  // namespace corvalis::desktop
