@@ -4,10 +4,10 @@
 
 #include "config/config_data.h"
 #include "config/language_data.h"
+#include "config/programme_types.h"
 #include "link/station_commands.h"
 #include "link/transfer.h"
 #include "platform/platform.h"
-#include "config/programme_types.h"
 
 namespace corvalis {
 

@@ -120,6 +120,35 @@ TEST_F(CaptionsTest, GroupSequence) {
   Check(screen.window, "EDIT GROUP", rows);
 }
 
+TEST_F(CaptionsTest, NamesAndTexts) {
+  PsnRtPinAfForm screen(form->window);
+  screen.Load();
+  Check(screen.window, "PSN", R"(
+    Text10 PageKeyMsg PageKeyTip                 PageNumberText - PageKeyTip
+    PageNumberScroll - PageKeyTip                Command24 ScrollTextMsg ScrollTextTip
+    Text11 - ScrollTextTip
+    Command19 ReadOneKeyMsg ReadOneKeyTip        Command20 ReadAllKeyMsg ReadAllKeyTip
+    Command17 SendOneListKeyMsg SendOneListKeyTip
+    Command16 SendAllListKeyMsg SendAllListKeyTip
+    Command18 SendAllBurstKeyMsg SendAllBurstKeyTip
+    ReadPsnActiveButton ReadActiveKeyMsg ReadActiveKeyTip
+    SendPsnActiveButton SendActiveKeyMsg SendActiveKeyTip
+    SendPsnActiveBurstButton SendActiveBurstKeyMsg SendActiveBurstKeyTip)");
+  Check(screen.window, "PSN PLAN", R"(
+    ReadPlanCommand ReadOneKeyMsg ReadOneKeyTip  ReadAllPlanCommand ReadAllKeyMsg ReadAllKeyTip
+    SendPlanCommand SendOneListKeyMsg SendOneListKeyTip
+    SendAllPlanCommand SendAllListKeyMsg SendAllListKeyTip
+    SendBurstPlanCommand SendAllBurstKeyMsg SendAllBurstKeyTip)");
+  Check(screen.window, "RT", R"(
+    Command9 ReadKeyMsg ReadKeyTip               Command22 ReadAllKeyMsg ReadAllKeyTip
+    Command14 SendOneKeyMsg SendOneKeyTip        Command21 SendAllKeyMsg SendAllKeyTip
+    Command10 SendAllBurstKeyMsg SendAllBurstKeyTip)");
+  Check(screen.window, "PIN", R"(
+    Command6 ReadKeyMsg ReadKeyTip               Command23 ReadAllKeyMsg ReadAllKeyTip
+    Command8 SendOneKeyMsg SendOneKeyTip         Command15 SendAllKeyMsg SendAllKeyTip
+    Command7 SendAllBurstKeyMsg SendAllBurstKeyTip)");
+}
+
 TEST_F(CaptionsTest, IdentityScreen) {
   CtTpDiPiForm screen(form->window);
   screen.Load();

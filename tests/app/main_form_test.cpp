@@ -150,7 +150,7 @@ TEST_F(MainFormTest, OpenLoadsTheFileAndOpensThePortAnew) {
   form->OpenButton.Press();
   EXPECT_EQ(configData->Country(), 0xA);
   EXPECT_EQ(port.CommPort(), 3);
-  EXPECT_EQ(Codes(), kEnqAndCounts);  // here a modem makes no exception
+  EXPECT_EQ(Codes(), std::vector<int>{kEnqFrame});  // here a modem makes no exception
   EXPECT_TRUE(LinkOpen);
 }
 

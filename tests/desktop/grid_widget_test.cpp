@@ -115,7 +115,7 @@ TEST_F(GridWidgetTest, KeysOpenTypeAndMove) {
       {[this] { Key(Qt::Key_Home); }, "0,1 []75"},
       {[this] { Key(Qt::Key_Return); }, "1,1"},
       {[this] { Key(Qt::Key_Right); }, "1,2"},
-      {[this] { Key(Qt::Key_F2); }, "1,2 ABC     []"},
+      {[this] { Key(Qt::Key_F2); }, "1,2 ABC[     ]"},
       {[this] { Key(Qt::Key_Escape); }, "1,2"},
       {[this] { Key(Qt::Key_Backspace); }, "1,2 []"},
       {[this] { Keys("New"); }, "1,2 New[]"},
