@@ -58,6 +58,8 @@ class Window {
   /// Shows the window in front of `owner` and keeps `owner` disabled until this one is unloaded;
   /// then `owner` is enabled and gets the focus.
   void ShowModal(Window& owner);
+  /// True while the window keeps its owner disabled, as working screens do.
+  [[nodiscard]] bool Modal() const { return modal_; }
   void Hide();
   [[nodiscard]] Window* OwnerWindow() const { return owner_; }
 

@@ -11,6 +11,7 @@
 
 #include "config/config_data.h"
 #include "desktop/running_program.h"
+#include "desktop/widgets/mnemonics.h"
 
 namespace corvalis::test {
 namespace {
@@ -154,6 +155,7 @@ TEST_F(WindowsAccessTest, EveryTextHasRoomInLettersOfAnySize) {
       if (box != nullptr && box->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed) {
         text = box->text();
       }
+      text = desktop::PlainCaption(text);
       if (text.isEmpty()) return;
       EXPECT_GE(widget.height(), letters.height());
       EXPECT_GE(widget.width(), letters.horizontalAdvance(text));

@@ -1,13 +1,20 @@
 // The operator's hands: keys that are held, clicks in haste, windows closed in a bad moment.
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QTabBar>
 #include <QTest>
 #include <QTimer>
 #include <QWindow>
+#include <set>
 
 #include "desktop/running_program.h"
 #include "desktop/widgets/held_keys.h"
+#include "desktop/widgets/mnemonics.h"
 #include "link/serial_management.h"
 
 namespace corvalis::test {
@@ -121,6 +128,100 @@ TEST_F(WindowsHandsTest, ASecondPressOnTheCloseBoxFindsTheWindowStillThere) {
     EXPECT_GT(presses, 0) << closing.toStdString();
     EXPECT_EQ(OnScreen(closing), nullptr);
   }
+}
+
+TEST_F(WindowsHandsTest, EscClosesAWorkingScreenAndNothingElse) {
+  StartWithCoder({"--open"}, std::string(kLocalFile) + "[RDS Setup]\nGroups Enable=On\n");
+  static_cast<void>(hand.Window(kMain));
+  Press(Qt::Key_Escape);
+  EXPECT_NE(OnScreen(kMain), nullptr);
+  const std::pair<const char*, QString> screens[] = {{"TaPtyMsButton", kOnAir},
+                                                     {"CtTpDiPiButton", kStation},
+                                                     {"EditGroupsButton", kGroups},
+                                                     {"RS232CButton", kSetup}};
+  for (const auto& [button, screen] : screens) {
+    hand.Click(kMain, button);
+    static_cast<void>(hand.Window(screen));
+    if (auto* list = OnScreen(screen)->findChild<QComboBox*>(); list->isVisible()) {
+      list->showPopup();
+      QTest::keyClick(list->view(), Qt::Key_Escape);
+      QApplication::processEvents();
+      EXPECT_FALSE(list->view()->isVisible());
+    }
+    ASSERT_NE(OnScreen(screen), nullptr) << button;
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, {}, {}, true);
+    QApplication::sendEvent(QApplication::focusWidget(), &held);  // from the transfer before
+    QApplication::processEvents();
+    ASSERT_NE(OnScreen(screen), nullptr) << button;
+    Press(Qt::Key_Escape);
+    QApplication::processEvents();
+    EXPECT_EQ(OnScreen(screen), nullptr) << button;
+  }
+}
+
+TEST_F(WindowsHandsTest, EachButtonAndTabHasAMnemonicOfItsOwn) {
+  StartWithCoder({"--open"});
+  const auto expect_own = [](const QString& window) {
+    std::set<QString> given;
+    const auto take = [&](const QString& text) {
+      const QString key = QKeySequence::mnemonic(text).toString();
+      EXPECT_TRUE(!key.isEmpty() && given.insert(key).second)
+          << window.toStdString() << ": " << text.toStdString();
+    };
+    for (const auto* bar : OnScreen(window)->findChildren<QTabBar*>()) {
+      for (int tab = 0; tab < bar->count(); ++tab) take(bar->tabText(tab));
+    }
+    for (const auto* button : OnScreen(window)->findChildren<QPushButton*>()) {
+      if (button->isVisible()) take(button->text());
+    }
+    for (const auto* label : OnScreen(window)->findChildren<QLabel*>()) {
+      if (label->isVisible() && label->buddy() != nullptr) take(label->text());
+    }
+  };
+  expect_own(kMain);
+  hand.Click(kMain, "RS232CButton");
+  expect_own(kSetup);
+  hand.Close(kSetup);
+  OpenIdentity();
+  for (const int tab : {0, 1, 2}) {
+    hand.TurnToTab(kStation, tab);
+    expect_own(kStation);
+  }
+}
+
+TEST_F(WindowsHandsTest, AMnemonicPressesMovesAndTurns) {
+  StartWithCoder({"--open"});
+  OpenIdentity();
+  const auto strike = [](const QString& text) {
+    const QKeySequence key = QKeySequence::mnemonic(text);
+    ASSERT_FALSE(key.isEmpty()) << text.toStdString();
+    QTest::keyClick(QApplication::focusWidget(), key[0].key(), Qt::AltModifier);
+  };
+  static_cast<void>(coder->Arrived());
+  strike(dynamic_cast<QPushButton&>(hand.Control(kStation, "SendEccCommand")).text());
+  EXPECT_EQ(coder->Arrived().size(), 1U);
+  strike(dynamic_cast<QLabel&>(hand.Control(kStation, "CoverageLabel")).text());
+  EXPECT_EQ(Focus(), "CoverageCombo");
+  auto& bar = dynamic_cast<QTabBar&>(hand.Control(kStation, "SSTab1"));
+  strike(bar.tabText(1));
+  EXPECT_EQ(bar.currentIndex(), 1);
+}
+
+TEST(MnemonicsTest, ACaptionShowsAsItStandsAndEveryOneThatCanGetsALetter) {
+  QWidget window;
+  const char* captions[] = {"A", "AB", "ABC", "R&D", "3A", "3B"};
+  std::vector<QPushButton*> buttons;
+  for (const char* caption : captions) {
+    buttons.push_back(new QPushButton(&window));
+    desktop::ShowCaption(*buttons.back(), caption);
+  }
+  desktop::GiveMnemonics(window);
+  QStringList shown;
+  for (const QPushButton* button : buttons) {
+    shown << button->text();
+    EXPECT_EQ(desktop::PlainCaption(button->text()), captions[shown.size() - 1]);
+  }
+  EXPECT_EQ(shown, QStringList({"&A", "A&B", "AB&C", "&R&&D", "&3A", "3B"}));
 }
 
 }  // namespace

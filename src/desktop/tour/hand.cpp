@@ -14,6 +14,8 @@
 #include <QTest>
 #include <stdexcept>
 
+#include "desktop/widgets/mnemonics.h"
+
 namespace corvalis::desktop {
 
 namespace {
@@ -117,9 +119,11 @@ QString Hand::Shown(const QString& window, const QString& control) const {
   if (auto* line = qobject_cast<QLineEdit*>(&widget)) return line->text();
   if (auto* drop_down = qobject_cast<QComboBox*>(&widget)) return drop_down->currentText();
   if (auto* memo = qobject_cast<QPlainTextEdit*>(&widget)) return memo->toPlainText();
-  if (auto* button = qobject_cast<QAbstractButton*>(&widget)) return button->text();
-  if (auto* label = qobject_cast<QLabel*>(&widget)) return label->text();
-  if (auto* group = qobject_cast<QGroupBox*>(&widget)) return group->title();
+  if (auto* button = qobject_cast<QAbstractButton*>(&widget)) return PlainCaption(button->text());
+  if (auto* label = qobject_cast<QLabel*>(&widget)) {
+    return label->buddy() == nullptr ? label->text() : PlainCaption(label->text());
+  }
+  if (auto* group = qobject_cast<QGroupBox*>(&widget)) return PlainCaption(group->title());
   Fail(control + " shows no text.");
 }
 

@@ -5,6 +5,7 @@
 
 #include "desktop/text.h"
 #include "desktop/widgets/binding.h"
+#include "desktop/widgets/mnemonics.h"
 #include "screen/keys.h"
 
 namespace corvalis::desktop {
@@ -13,8 +14,8 @@ ButtonWidget::ButtonWidget(Button& button, QWidget* parent) : QPushButton(parent
   setAutoDefault(false);
   Bind(*this, button, [this] {
     const QString caption = FromBytes(button_.Caption());
-    if (text() == caption) return;
-    setText(caption);
+    if (PlainCaption(text()) == caption) return;
+    ShowCaption(*this, caption);
     for (QWidget* sibling : parentWidget()->findChildren<QPushButton*>()) sibling->updateGeometry();
   });
   connect(this, &QPushButton::clicked, this, [this] { button_.Press(); });

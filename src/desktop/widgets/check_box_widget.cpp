@@ -4,6 +4,7 @@
 
 #include "desktop/text.h"
 #include "desktop/widgets/binding.h"
+#include "desktop/widgets/mnemonics.h"
 #include "desktop/widgets/style.h"
 
 namespace corvalis::desktop {
@@ -30,8 +31,7 @@ CheckBoxWidget::CheckBoxWidget(CheckBox& box, QWidget* parent) : QCheckBox(paren
 }
 
 void CheckBoxWidget::Draw() {
-  const QString caption = FromBytes(box_.Caption());
-  if (text() != caption) setText(caption);
+  ShowCaption(*this, FromBytes(box_.Caption()));
   setChecked(box_.Checked());
   QPalette colours = parentWidget()->palette();
   Colour(colours, box_.ColourTone());

@@ -2,6 +2,7 @@
 
 #include "desktop/text.h"
 #include "desktop/widgets/binding.h"
+#include "desktop/widgets/mnemonics.h"
 #include "desktop/widgets/style.h"
 
 namespace corvalis::desktop {
@@ -23,7 +24,7 @@ LabelWidget::LabelWidget(Label& label, QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
   Bind(*this, label, [this, &label] {
     const QString caption = FromBytes(label.Caption());
-    if (text() != caption) setText(caption);
+    ShowCaption(*this, caption);
     if (caption.isEmpty()) hide();
     Call(caption);
   });
@@ -32,7 +33,7 @@ LabelWidget::LabelWidget(Label& label, QWidget* parent) : QLabel(parent) {
 LabelledGroup::LabelledGroup(Label& label, QWidget* parent) : QGroupBox(parent) {
   Bind(*this, label, [this, &label] {
     const QString caption = FromBytes(label.Caption());
-    setTitle(caption);
+    ShowCaption(*this, caption);
     Call(caption);
   });
 }

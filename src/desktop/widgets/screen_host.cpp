@@ -7,6 +7,7 @@
 #include <QWindow>
 
 #include "desktop/widgets/front_window.h"
+#include "desktop/widgets/mnemonics.h"
 
 namespace corvalis::desktop {
 
@@ -95,6 +96,20 @@ bool QtScreenHost::KeyHandled(QWindow& window, QKeyEvent& event) {
   return true;
 }
 
+bool QtScreenHost::KeyOfWindow(WindowView& view, const QWidget& focus, QKeyEvent& event) {
+  const bool press = event.type() == QEvent::KeyPress;
+  const bool acts = press && !event.isAutoRepeat();
+  if (event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier) {
+    if (!press || !view.ClosesOnEscape(focus)) return false;
+    if (acts) view.close();
+    return true;
+  }
+  if (focus.window() != &view || !IsMnemonic(view, event)) return false;
+  event.accept();  // before the toolkit's own shortcuts, which know no key that is held
+  if (acts) PressMnemonic(view, event);
+  return true;
+}
+
 bool QtScreenHost::eventFilter(QObject* receiver, QEvent* event) {
   if (receiver->isWindowType() && Swallowed(*static_cast<QWindow*>(receiver), *event)) return true;
   switch (event->type()) {
@@ -115,8 +130,13 @@ bool QtScreenHost::eventFilter(QObject* receiver, QEvent* event) {
     case QEvent::DragEnter:
     case QEvent::DragMove:
     case QEvent::Drop: {
-      const WindowView* view = ViewUnder(receiver);
-      return view != nullptr && !view->TakesInput();
+      WindowView* view = ViewUnder(receiver);
+      if (view == nullptr) return false;
+      if (!view->TakesInput()) return true;
+      const bool key =
+          event->type() == QEvent::KeyPress || event->type() == QEvent::ShortcutOverride;
+      return key && receiver->isWidgetType() &&
+             KeyOfWindow(*view, *static_cast<QWidget*>(receiver), *static_cast<QKeyEvent*>(event));
     }
     case QEvent::WindowActivate:
       if (auto* view = dynamic_cast<WindowView*>(receiver)) view->HandOver();

@@ -19,7 +19,7 @@ namespace corvalis::desktop {
 /// with what stands in front of it; a key held down counts as struck once, whatever window it comes
 /// to (each repetition is marked as one, `QKeyEvent::isAutoRepeat`, so a control that a key presses
 /// asks for no more than that); the second press of a double click goes to no window that the first
-/// one has opened.
+/// one has opened; ESC closes a working screen; mnemonics are served.
 class QtScreenHost : public QObject, public ScreenHost {
  public:
   QtScreenHost();
@@ -42,6 +42,8 @@ class QtScreenHost : public QObject, public ScreenHost {
   // What comes from the window system. True where that is the end of it.
   [[nodiscard]] bool Swallowed(QWindow& window, QEvent& event);
   [[nodiscard]] bool KeyHandled(QWindow& window, QKeyEvent& event);
+  // A key that means the same whatever control has the keyboard.
+  [[nodiscard]] static bool KeyOfWindow(WindowView& view, const QWidget& focus, QKeyEvent& event);
 
   std::unordered_map<std::type_index, std::function<WindowView*(Window&)>> makers_;
   std::unordered_map<Window*, WindowView*> views_;

@@ -9,6 +9,7 @@
 
 #include "desktop/text.h"
 #include "desktop/widgets/binding.h"
+#include "desktop/widgets/mnemonics.h"
 #include "desktop/widgets/style.h"
 
 namespace corvalis::desktop {
@@ -17,7 +18,8 @@ TabsBar::TabsBar(Tabs& tabs, QWidget* parent) : QTabBar(parent), tabs_(tabs) {
   setFocusPolicy(Qt::StrongFocus);
   setExpanding(false);
   setDrawBase(true);
-  for (int tab = 0; tab < tabs.Count(); ++tab) addTab(FromBytes(tabs.TabCaption(tab)));
+  for (int tab = 0; tab < tabs.Count(); ++tab)
+    addTab(EscapedCaption(FromBytes(tabs.TabCaption(tab))));
   connect(this, &QTabBar::currentChanged, this, [this](int tab) {
     tabs_.Choose(tab);
     Draw();

@@ -1,5 +1,6 @@
 #include "desktop/widgets/window_view.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMouseEvent>
@@ -11,6 +12,7 @@
 #include "desktop/text.h"
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/front_window.h"
+#include "desktop/widgets/mnemonics.h"
 #include "desktop/widgets/style.h"
 #include "screen/control.h"
 #include "screen/timer.h"
@@ -85,6 +87,14 @@ void WindowView::HandOver() {
       Qt::QueuedConnection);
 }
 
+bool WindowView::ClosesOnEscape(const QWidget& focus) const {
+  if (!TakesInput() || !model_->Modal() || focus.window() != this) return false;
+  for (const QWidget* part = focus.parentWidget(); part != nullptr; part = part->parentWidget()) {
+    if (qobject_cast<const QAbstractItemView*>(part) != nullptr) return false;
+  }
+  return true;
+}
+
 void WindowView::Present(QWidget* owner) {
   if (timers_.empty()) {
     for (Control* control : model_->Controls()) {
@@ -107,6 +117,7 @@ void WindowView::Present(QWidget* owner) {
     if (owner != nullptr) PlaceBefore(*owner);
   }
   setWindowTitle(FromBytes(model_->Caption()));
+  GiveMnemonics(*this);
   show();
   raise();
   activateWindow();
@@ -193,6 +204,13 @@ void WindowView::ShowFocus() {
   if (auto* widget = findChild<QWidget*>(FromBytes(focus->Name()))) {
     widget->setFocus(Qt::OtherFocusReason);
   }
+}
+
+bool WindowView::event(QEvent* event) {
+  if (event->type() != MnemonicsEvent()) return QWidget::event(event);
+  QCoreApplication::removePostedEvents(this, MnemonicsEvent());  // one for many captions
+  GiveMnemonics(*this);
+  return true;
 }
 
 // The work of closing lets events run. Were it done within the event, a second press of the close

@@ -30,8 +30,12 @@ class WindowView : public QWidget {
   /// The window has been activated. A disabled one gives the keyboard to what stands in front of
   /// it.
   void HandOver();
+  /// True if ESC, struck while `focus` has the keyboard, closes the window: a working screen, and
+  /// no cell is open in which ESC is for the cell.
+  [[nodiscard]] bool ClosesOnEscape(const QWidget& focus) const;
 
  protected:
+  bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void mousePressEvent(QMouseEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
