@@ -142,18 +142,20 @@ TEST_F(WindowsHandsTest, EscClosesAWorkingScreenAndNothingElse) {
   for (const auto& [button, screen] : screens) {
     hand.Click(kMain, button);
     static_cast<void>(hand.Window(screen));
-    if (auto* list = OnScreen(screen)->findChild<QComboBox*>(); list->isVisible()) {
+    if (auto* list = OnScreen(screen)->findChild<QComboBox*>();
+        list != nullptr && list->isVisible()) {
       list->showPopup();
       QTest::keyClick(list->view(), Qt::Key_Escape);
       QApplication::processEvents();
       EXPECT_FALSE(list->view()->isVisible());
     }
-    ASSERT_NE(OnScreen(screen), nullptr) << button;
-    QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, {}, {}, true);
-    QApplication::sendEvent(QApplication::focusWidget(), &held);  // from the transfer before
+    QWidget& window = hand.Window(screen);
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, {}, {}, true);  // from the transfer before
+    QApplication::sendEvent(window.focusWidget() != nullptr ? window.focusWidget() : &window,
+                            &held);
     QApplication::processEvents();
     ASSERT_NE(OnScreen(screen), nullptr) << button;
-    Press(Qt::Key_Escape);
+    QTest::keyClick(window.windowHandle(), Qt::Key_Escape);
     QApplication::processEvents();
     EXPECT_EQ(OnScreen(screen), nullptr) << button;
   }
