@@ -78,8 +78,8 @@ void ListButtons::ReadAll() {
       if (table.grid != nullptr) place.emplace(*table.grid);
       const bool good = RunItems(
           table.count(), [&](int item) { Read(table, item); }, rules_.pause_read);
-      if (place) place->Restore(rules_.keep_row_0);
       EndRead(table);
+      if (place) place->Restore(rules_.keep_row_0);
       if (!good) break;
     }
     Refresh();
