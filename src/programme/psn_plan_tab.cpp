@@ -132,33 +132,24 @@ void Append(TextBox& cell, const char* separator) {
   cell.Select(static_cast<int>(cell.Text().size()), 0);
 }
 
-// Cancels a key for which the open cell has no room.
-bool Dropped(const TextBox& cell, int& key, std::size_t most) {
-  if (key == kKeyBackspace || cell.SelLength() != 0 || cell.Text().size() < most) return false;
-  key = kKeyCancelled;
-  return true;
-}
-
 bool Continues(const TextBox& cell, int key) {
   return cell.SelLength() == 0 && (IsDigit(key) || key == kKeyBackspace);
 }
 
 }  // namespace
 
-void PsnPlanTab::TypeTime(int& key) {
+void PsnPlanTab::TypeTime(int key) {
   TextBox& cell = PsnPlanDBGrid.Editor();
   const bool hour_stands = cell.Text().size() == 2 && cell.Text().find(':') == std::string::npos;
   if (hour_stands && Continues(cell, key)) Append(cell, ":");
-  Dropped(cell, key, kTimeCharacters);
 }
 
-void PsnPlanTab::TypeDate(int& key) {
+void PsnPlanTab::TypeDate(int key) {
   TextBox& cell = PsnPlanDBGrid.Editor();
   const std::string& text = cell.Text();
   const bool day_stands = text.size() == 2 && text.find('-') == std::string::npos;
   const bool month_stands = text.size() == 5 && text.find('-', 3) == std::string::npos;
   if ((day_stands || month_stands) && Continues(cell, key)) Append(cell, "-");
-  if (Dropped(cell, key, kDateCharacters)) return;
   // A date excludes weekdays.
   for (int day = kMonday; day <= kSunday; ++day) {
     PsnPlanDBGrid.PutEdit(day, std::string(OnOff(false)));

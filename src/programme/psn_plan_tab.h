@@ -36,8 +36,8 @@ class PsnPlanTab {
 
  private:
   void SetTypingRules();
-  void TypeTime(int& key);
-  void TypeDate(int& key);
+  void TypeTime(int key);
+  void TypeDate(int key);
   void TypePage(int& key);
   static Grid::Leave LeaveCell(int column, std::string& text);
   void Toggle(int column);

@@ -135,10 +135,7 @@ void PsnTab::SetScrollRules() {
   Text13.Change = [this] { TakeScrollRow(Text13, ActivePsn::SetScrollTo); };
   Text14.Change = [this] { TakeScrollTime(); };
   for (TextBox* box : {&Text12, &Text13, &Text14}) {
-    // What is no number has not been taken.
-    box->LostFocus = [this, box] {
-      if (!IsWholeNumber(box->Text())) ShowScroll();
-    };
+    box->LostFocus = [this] { ShowScroll(); };  // what is no number of a row has not been taken
   }
   Command24.Click = [this] { ApplyScrollText(); };
 }
