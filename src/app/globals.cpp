@@ -6,6 +6,7 @@
 #include "programme/pin_data.h"
 #include "programme/psn_data.h"
 #include "programme/psn_page_data.h"
+#include "programme/ptyn_data.h"
 #include "programme/rt_data.h"
 #include "station/groups_data.h"
 
@@ -14,8 +15,8 @@ namespace corvalis {
 namespace {
 
 // A class that joins gets its place in each of these orders, which differ.
-using OfCreation =
-    SingleInstances<psnData, psnPageData, rtData, pinData, groupsData>;  // and of release
+// Creation, and release. The names of the types stand in no other order.
+using OfCreation = SingleInstances<psnData, psnPageData, rtData, pinData, groupsData, ptynData>;
 using OfOpen = SingleInstances<psnData, psnPageData, rtData, pinData, groupsData>;
 // The group sequence has two places here.
 using OfNew = SingleInstances<psnData, psnPageData, rtData, pinData, groupsData, groupsData>;

@@ -20,12 +20,15 @@ void PsnRtPinAfForm::Load() {
   plan.InitCaptions();
   rt.InitCaptions();
   pin.InitCaptions();
+  ptyn.InitCaptions();
   psn.Open();
   plan.Open();
   rt.Open();
   pin.Open();
+  ptyn.Open();
   SSTab1.SetTabVisible(kPlan, configData->PsnPlanEnable());
-  for (const int tab : {kAfA, kAfB, kPtyn}) SSTab1.SetTabVisible(tab, false);
+  for (const int tab : {kAfA, kAfB}) SSTab1.SetTabVisible(tab, false);
+  SSTab1.SetTabVisible(kPtyn, configData->PtynEnable());
   SSTab1.SetTab(kPsn);
   window.ShowModal(main_menu_);
 }

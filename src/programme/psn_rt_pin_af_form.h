@@ -3,6 +3,7 @@
 #include "programme/pin_tab.h"
 #include "programme/psn_plan_tab.h"
 #include "programme/psn_tab.h"
+#include "programme/ptyn_tab.h"
 #include "programme/rt_tab.h"
 #include "screen/tabs.h"
 #include "screen/window.h"
@@ -29,6 +30,7 @@ class PsnRtPinAfForm {
   PsnPlanTab plan{window};
   RtTab rt{window};
   PinTab pin{window};
+  PtynTab ptyn{window};
 
  private:
   Window& main_menu_;

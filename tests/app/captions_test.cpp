@@ -147,6 +147,13 @@ TEST_F(CaptionsTest, NamesAndTexts) {
     Command6 ReadKeyMsg ReadKeyTip               Command23 ReadAllKeyMsg ReadAllKeyTip
     Command8 SendOneKeyMsg SendOneKeyTip         Command15 SendAllKeyMsg SendAllKeyTip
     Command7 SendAllBurstKeyMsg SendAllBurstKeyTip)");
+  Check(screen.window, "PTYN", R"(
+    PtyLabel PTYKeyMsg PTYKeyTip                 PtyCombo - PTYKeyTip
+    PtynLabel PTYNameKeyMsg PTYNameKeyTip        PtynText - PTYNameKeyTip
+    ReadPtynCommand ReadOneKeyMsg ReadOneKeyTip  ReadPtynAllCommand ReadAllKeyMsg ReadAllKeyTip
+    SendPtynCommand SendOneKeyMsg SendOneKeyTip
+    SendPtynAllCommand SendAllKeyMsg SendAllKeyTip
+    SendPtynBurstCommand SendAllBurstKeyMsg SendAllBurstKeyTip)");
 }
 
 TEST_F(CaptionsTest, IdentityScreen) {

@@ -3,6 +3,7 @@
 #include "desktop/views/pin_page.h"
 #include "desktop/views/psn_page.h"
 #include "desktop/views/psn_plan_page.h"
+#include "desktop/views/ptyn_page.h"
 #include "desktop/views/rt_page.h"
 #include "desktop/widgets/layout.h"
 #include "desktop/widgets/tabs_widget.h"
@@ -15,6 +16,10 @@ PsnRtPinAfView::PsnRtPinAfView(PsnRtPinAfForm& form) : WindowView(form.window) {
   tabs->AddPage(new PsnPlanPage(form.plan, tabs));
   tabs->AddPage(new RtPage(form.rt, tabs));
   tabs->AddPage(new PinPage(form.pin, tabs));
+  for (int hidden = PsnRtPinAfForm::kAfA; hidden <= PsnRtPinAfForm::kAfB; ++hidden) {
+    tabs->AddPage(new QWidget(tabs));
+  }
+  tabs->AddPage(new PtynPage(form.ptyn, tabs));
   WindowColumn(this)->addWidget(tabs);
 }
 

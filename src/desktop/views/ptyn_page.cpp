@@ -1,0 +1,28 @@
+#include "desktop/views/ptyn_page.h"
+
+#include <QGroupBox>
+
+#include "desktop/widgets/drop_down_widget.h"
+#include "desktop/widgets/layout.h"
+#include "desktop/widgets/style.h"
+#include "link/list_commands.h"
+
+namespace corvalis::desktop {
+
+PtynPage::PtynPage(PtynTab& tab, QWidget* parent) : QWidget(parent) {
+  auto* name = new QGroupBox(this);
+  QGridLayout* fields = Fields(name);
+  AddField(*fields, tab.PtyLabel, new DropDownWidget(tab.PtyCombo, name));
+  QLineEdit* text = CodeBox(tab.PtynText, kPtynCharacters, name);
+  text->setAlignment(Qt::AlignLeft);  // its places count
+  AddField(*fields, tab.PtynLabel, text);
+  AddLine(*fields, ButtonRow({&tab.ReadPtynCommand, &tab.ReadPtynAllCommand, &tab.SendPtynCommand,
+                              &tab.SendPtynAllCommand, &tab.SendPtynBurstCommand},
+                             name));
+  QVBoxLayout* column = Column(this);
+  column->setContentsMargins(0, kApart, 0, 0);
+  column->addWidget(name);
+  column->addStretch();
+}
+
+}  // namespace corvalis::desktop
