@@ -9,6 +9,9 @@
 
 #include "busy/wait_form.h"
 #include "link/serial_management.h"
+#include "programme/psn_data.h"
+#include "programme/psn_page_data.h"
+#include "programme/ptyn_data.h"
 #include "support/test_machine.h"
 
 namespace corvalis::test {
@@ -195,6 +198,25 @@ TEST_F(MainFormTest, SaveAfterNewLeavesTheStationThatWasOpen) {
   EXPECT_EQ(form->File1.FileName(), "corvalis.rds");
   form->SaveButton.Press();
   EXPECT_EQ(ReadFile(machine.program_folder + "/a.rds"), "[PI]\nCountry=1\n");
+}
+
+TEST_F(MainFormTest, SaveWritesTheNamesOrTheirPagesAndLeavesTheNamesOfTheTypes) {
+  for (const bool pages : {false, true}) {
+    const std::string model = pages ? "" : "[RDS Setup]\nPSN Pages Enable=Off\n";
+    Run(model + "[PTYN]\nPtyN00=START\n");
+    const std::string path = machine.program_folder + "/other.rds";
+    WriteFile(path, model + "[PTYN]\nPtyN00=OTHER\n");
+    OpenFile("other.rds");
+    EXPECT_EQ(ptynData->Ptyn(0), "START   ");
+    ptynData->SetPtyn("EDITED", 0);
+    psnData->SetData(0, "LIST");
+    psnPageData->SetData(0, 0, "PAGE");
+    form->SaveButton.Press();
+    EXPECT_EQ(profiles.Read(path, "PTYN", "PtyN00"), "OTHER");
+    EXPECT_EQ(profiles.Read(path, "PSN Pages", "Psn00.00").substr(7, 4), pages ? "PAGE" : "LIST");
+    form->NewButton.Press();
+    EXPECT_EQ(ptynData->Ptyn(0), "EDITED  ");
+  }
 }
 
 TEST_F(MainFormTest, LinkInWords) {

@@ -358,9 +358,13 @@ TEST_F(TypingRulesTest, NamesOfTypes) {
   box.SelectAll();
   box.Paste("123456789012");
   EXPECT_EQ(box.Text() + ptynData->Ptyn(24), "1234567812345678");
+  box.Select(0, 0);
+  box.Type("AB");
+  EXPECT_EQ(box.Text() + ptynData->Ptyn(24), "AB123456AB123456");
+  box.Select(8, 0);
   box.Type("\b\b");
   form->window.Close();
-  EXPECT_EQ(ptynData->Ptyn(24), "123456  ");
+  EXPECT_EQ(ptynData->Ptyn(24), "AB1234  ");
   ptynData->SetPtyn("READ", 24);
   form->Load();
   EXPECT_EQ(tab.PtyCombo.Index(), 24);
