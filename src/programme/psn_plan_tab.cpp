@@ -120,7 +120,7 @@ void PsnPlanTab::SetTypingRules() {
   PsnPlanDBGrid.KeyPress = [this](int column, int& key) {
     if (column == kTime) TypeTime(key);
     if (column == kDate) TypeDate(key);
-    if (column == kPage) TypePage(key);
+    if (column == kPage && key != kKeyBackspace && !IsDigit(key)) key = kKeyCancelled;
   };
 }
 
@@ -154,12 +154,6 @@ void PsnPlanTab::TypeDate(int key) {
   for (int day = kMonday; day <= kSunday; ++day) {
     PsnPlanDBGrid.PutEdit(day, std::string(OnOff(false)));
   }
-}
-
-void PsnPlanTab::TypePage(int& key) {
-  const TextBox& cell = PsnPlanDBGrid.Editor();
-  const bool room = cell.Text().empty() || cell.SelLength() != 0;
-  if (key != kKeyBackspace && !(IsDigit(key) && room)) key = kKeyCancelled;
 }
 
 Grid::Leave PsnPlanTab::LeaveCell(int column, std::string& text) {

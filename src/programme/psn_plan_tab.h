@@ -38,7 +38,6 @@ class PsnPlanTab {
   void SetTypingRules();
   void TypeTime(int key);
   void TypeDate(int key);
-  void TypePage(int& key);
   static Grid::Leave LeaveCell(int column, std::string& text);
   void Toggle(int column);
   bool LeaveRow(int row);

@@ -111,9 +111,9 @@ class ListButtonsTest : public ProgrammeTest {
   void CoderHolds(const std::string& body) const {
     ASSERT_TRUE(the_coder->SetItem(list->code, list->number, coder::Text(body)));
   }
-  void RefuseItem2() {
-    port.answer = [this](const Bytes& f) {
-      return f[2] == 2 ? coder::Refusal(2) : the_coder->Take(f);
+  void Refuse(int item) {
+    port.answer = [this, item](const Bytes& f) {
+      return f[2] == item ? coder::Refusal(2) : the_coder->Take(f);
     };
   }
 
@@ -147,12 +147,16 @@ TEST_F(ListButtonsTest, Reads) {
     EXPECT_NEAR(time_of_press, items * Pause(kReadAll), 0.01);
     EXPECT_EQ(Shown().substr(0, list->typed.size()), list->typed);
 
-    RefuseItem2();
+    Refuse(2);
     CoderHolds(list->kept);
     Press(kReadAll);
     EXPECT_EQ(Items(), FirstItems(3));
     EXPECT_EQ(Shown(), old);  // what was read before stays
-    EXPECT_EQ(Boxes().size(), 1U);
+    Edit();
+    Refuse(1);  // nor does reading the rows before store an edit
+    Press(kReadAll);
+    EXPECT_EQ(Edited(), grid != nullptr);
+    EXPECT_EQ(Boxes().size(), 2U);
     port.answer = nullptr;
   }
 }
@@ -202,7 +206,7 @@ TEST_F(ListButtonsTest, RunsEndAtARefusalAndAtTheOperatorsAbort) {
   for (const List& one : kLists) {
     SCOPED_TRACE(one.name);
     OpenList(one, kLocal);
-    RefuseItem2();
+    Refuse(2);
     Press(kSendAll);
     EXPECT_EQ(Items(), FirstItems(3));
     EXPECT_EQ(Boxes().size(), 1U);
