@@ -136,6 +136,11 @@ std::optional<std::chrono::minutes> ParseTime(std::string_view text) {
   return std::chrono::hours(*hour) + std::chrono::minutes(*minute);
 }
 
+std::string WithColons(std::string text) {
+  std::replace(text.begin(), text.end(), '.', ':');
+  return text;
+}
+
 std::string TimeText(std::chrono::minutes time_of_day) {
   const auto minutes = static_cast<int>(time_of_day.count());
   return Digits(minutes / 60, 2) + ":" + Digits(minutes % 60, 2);

@@ -59,6 +59,8 @@ extern template std::optional<std::int32_t> ParseDecimal(std::string_view text);
 
 /// The time of the day that a text is, "9:05" or "09:05"; nullopt for anything else.
 [[nodiscard]] std::optional<std::chrono::minutes> ParseTime(std::string_view text);
+/// `text` with ":" in the place of ".", which is nearer on a keypad.
+[[nodiscard]] std::string WithColons(std::string text);
 /// The format "hh:mm", for 0:00 to 23:59.
 [[nodiscard]] std::string TimeText(std::chrono::minutes time_of_day);
 /// The date that a text is: day, month and year with "-", "/" or "." between them, a year of four

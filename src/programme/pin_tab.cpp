@@ -53,12 +53,6 @@ std::string PinCell(int row, int column) {
   }
 }
 
-// A "." in a time stands for ":".
-std::string WithColons(std::string text) {
-  std::replace(text.begin(), text.end(), '.', ':');
-  return text;
-}
-
 std::vector<GridColumn> PinColumns() {
   using Kind = GridColumn::Kind;
   return {{.heading = "PIN", .width = 8},

@@ -158,7 +158,7 @@ void PsnPlanTab::TypeDate(int key) {
 
 Grid::Leave PsnPlanTab::LeaveCell(int column, std::string& text) {
   if (column == kTime && (text.size() == 4 || text.size() == 5)) {
-    const auto time = ParseTime(text);
+    const auto time = ParseTime(WithColons(text));
     text = time ? TimeText(*time) : kNoTime;
     return Grid::Leave::kTake;
   }
