@@ -7,13 +7,13 @@
 #include "desktop/widgets/layout.h"
 #include "desktop/widgets/spinner_widget.h"
 #include "desktop/widgets/style.h"
-#include "desktop/widgets/text_box_widget.h"
 
 namespace corvalis::desktop {
 
 namespace {
 
 constexpr int kRowDigits = 3;
+constexpr int kScrollColumns = 24;  // a longer text moves in its box
 
 QWidget* Pages(PsnTab& tab, QWidget* parent) {
   auto* part = new QWidget(parent);
@@ -35,7 +35,7 @@ QWidget* Pages(PsnTab& tab, QWidget* parent) {
 QWidget* ScrollText(PsnTab& tab, QWidget* parent) {
   auto* group = new QGroupBox(QStringLiteral("Scrolling text"), parent);
   QGridLayout* fields = Fields(group);
-  AddField(*fields, tab.ScrollTextLabel, new TextBoxWidget(tab.Text11, 0, group));
+  AddField(*fields, tab.ScrollTextLabel, FixedBox(tab.Text11, kScrollColumns, group));
   AddField(*fields, tab.ScrollFromLabel, FixedBox(tab.Text12, kRowDigits, group));
   AddField(*fields, tab.ScrollToLabel, FixedBox(tab.Text13, kRowDigits, group));
   AddField(*fields, tab.ScrollTimeLabel, FixedBox(tab.Text14, kRowDigits, group));
