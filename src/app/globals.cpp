@@ -3,6 +3,8 @@
 #include "app/single_instance.h"
 #include "config/config_data.h"
 #include "config/language_data.h"
+#include "programme/af_a_data.h"
+#include "programme/af_b_data.h"
 #include "programme/pin_data.h"
 #include "programme/psn_data.h"
 #include "programme/psn_page_data.h"
@@ -16,10 +18,12 @@ namespace {
 
 // A class that joins gets its place in each of these orders, which differ.
 // Creation, and release. The names of the types stand in no other order.
-using OfCreation = SingleInstances<psnData, psnPageData, rtData, pinData, groupsData, ptynData>;
-using OfOpen = SingleInstances<psnData, psnPageData, rtData, pinData, groupsData>;
+using OfCreation = SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData,
+                                   groupsData, ptynData>;
+using OfOpen = SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData, groupsData>;
 // The group sequence has two places here.
-using OfNew = SingleInstances<psnData, psnPageData, rtData, pinData, groupsData, groupsData>;
+using OfNew = SingleInstances<psnData, psnPageData, rtData, pinData, afAData, afBData, groupsData,
+                              groupsData>;
 
 }  // namespace
 
@@ -44,6 +48,7 @@ void Globals::LoadForOpen() { OfOpen::GetIni(); }
 void Globals::LoadForNew() { OfNew::GetIni(); }
 
 void Globals::LoadLimits() {
+  afBData->GetIni();
   pinData->GetIni();
   if (configData->PsnPagesEnable()) {
     psnPageData->GetIni();
@@ -55,6 +60,7 @@ void Globals::LoadLimits() {
 
 void Globals::Store() {
   configData->SetIni();
+  SingleInstances<afAData, afBData>::SetIni();
   // The two share a section, and only one of them is written.
   if (configData->PsnPagesEnable()) {
     psnPageData->SetIni();

@@ -1,6 +1,7 @@
 #include "config/conversions.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
@@ -182,6 +183,30 @@ std::optional<double> ParseNumber(std::string_view text) {
   const auto [stop, error] = std::from_chars(text.data(), end, value, std::chars_format::fixed);
   if (error != std::errc() || stop != end || !std::isfinite(value)) return std::nullopt;
   return value;
+}
+
+std::optional<float> ParseFloat(std::string_view text) {
+  const auto value = ParseNumber(text);
+  if (!value || std::abs(*value) > std::numeric_limits<float>::max()) return std::nullopt;
+  return static_cast<float>(*value);
+}
+
+std::string FixedPoint(float value, int width, int decimals) {
+  std::array<char, 64> buffer{};
+  char* const begin = buffer.data();
+  char* const end = begin + buffer.size();
+  const char* stop = std::to_chars(begin, end, std::abs(value)).ptr;
+  double size = 0;
+  std::from_chars(begin, stop, size);
+  // More than a decimal half is off in binary, and less than the last digit of a float.
+  size += size * 1e-12;
+  stop = std::to_chars(begin, end, size, std::chars_format::fixed, decimals).ptr;
+  std::string text(buffer.data(), static_cast<std::size_t>(stop - begin));
+  const std::size_t whole = std::min(text.find('.'), text.size());
+  const auto wanted = static_cast<std::size_t>(std::max(width, 0));
+  if (whole < wanted) text.insert(0, wanted - whole, '0');
+  const bool zero = text.find_first_not_of("0.") == std::string::npos;
+  return value < 0 && !zero ? "-" + text : text;
 }
 
 std::string_view OnOff(bool on) { return on ? "On" : "Off"; }

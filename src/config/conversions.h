@@ -79,6 +79,15 @@ extern template std::optional<std::int32_t> ParseDecimal(std::string_view text);
 /// for anything else.
 [[nodiscard]] std::optional<double> ParseNumber(std::string_view text);
 
+/// The same for a 32-bit float, which a frequency is: computed in 64 bits and narrowed once;
+/// nullopt also beyond its range.
+[[nodiscard]] std::optional<float> ParseFloat(std::string_view text);
+
+/// The formats "000.0", "000.000" and "000" of frequencies: at least `width` digits before the
+/// point, filled with "0", and exactly `decimals` behind it; no point for 0. It is the shortest
+/// decimal number that stands for `value` that is rounded, halves away from zero.
+[[nodiscard]] std::string FixedPoint(float value, int width, int decimals);
+
 /// How the file writes a switch: "On" or "Off". Read, "on" in any case is true and all else false.
 [[nodiscard]] std::string_view OnOff(bool on);
 [[nodiscard]] bool IsOn(std::string_view text);

@@ -35,6 +35,11 @@ JoinedReader& JoinedReader::Text(std::string& target) {
   return *this;
 }
 
+JoinedReader& JoinedReader::Real(float& target) {
+  target = ParseFloat(Next()).value_or(target);
+  return *this;
+}
+
 JoinedReader& JoinedReader::Switch(bool& target) {
   target = IsOn(Next());
   return *this;

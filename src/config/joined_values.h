@@ -19,6 +19,10 @@ class JoinedWriter {
   JoinedWriter& Add(std::string_view field);
   /// At least `width` decimal digits.
   JoinedWriter& Number(int value, int width) { return Add(Digits(value, width)); }
+  /// A frequency; see `FixedPoint`.
+  JoinedWriter& Real(float value, int width, int decimals) {
+    return Add(FixedPoint(value, width, decimals));
+  }
   JoinedWriter& Switch(bool on) { return Add(OnOff(on)); }
   /// A text that may hold any bytes: those that would end the line of the file become blanks.
   JoinedWriter& Text(std::string_view text);
@@ -49,6 +53,7 @@ class JoinedReader {
     }
     return *this;
   }
+  JoinedReader& Real(float& target);
   /// True for "on" in whatever case.
   JoinedReader& Switch(bool& target);
   /// True for "On" alone.

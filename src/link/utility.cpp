@@ -27,6 +27,13 @@ void RefuseKey(int& key) {
   key = kKeyCancelled;
 }
 
+void WarnNotAllowed(const Window& screen) {
+  Machine().dialogs->Show({.text = "WARNING! Not Allowed.",
+                           .title = screen.Caption(),
+                           .style = BoxStyle::kWarning,
+                           .help_file = {}});
+}
+
 void CommitGridRow(Grid& grid) { grid.Commit(); }
 
 void WarnBeforeAddress() { ShowLinkBox("Before send Address", kCommunicationManagementTitle); }

@@ -4,6 +4,7 @@
 
 #include "config/conversions.h"
 #include "screen/grid.h"
+#include "screen/window.h"
 
 namespace corvalis {
 
@@ -16,6 +17,9 @@ int FrequencyKeyFilter(std::string_view text, int& key, int max_length, int sel_
 
 /// Refuses a struck key: a beep, and `key` becomes 0.
 void RefuseKey(int& key);
+
+/// Tells the operator that what stands in a box of `screen` is none of its values.
+void WarnNotAllowed(const Window& screen);
 
 /// Makes a grid store the row being edited, before its contents are sent. What a rule refuses is
 /// not stored.

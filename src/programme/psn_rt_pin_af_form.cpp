@@ -7,6 +7,12 @@ namespace corvalis {
 
 PsnRtPinAfForm::PsnRtPinAfForm(Window& main_menu) : main_menu_(main_menu) {
   window.SetCaption("PSN - RT - PIN - AF - PTYN");
+  af_a.BringToFront = [this] { SSTab1.SetTab(kAfA); };
+  af_b.BringToFront = [this] { SSTab1.SetTab(kAfB); };
+  window.QueryUnload = [this](bool& cancel) {
+    if (SSTab1.TabVisible(kAfA)) cancel = !af_a.MayClose();
+    if (SSTab1.TabVisible(kAfB)) cancel = !af_b.MayClose();
+  };
   // What is being typed is kept.
   window.Unloading = [this] {
     for (Grid* grid : {&psn.DBGrid1, &plan.PsnPlanDBGrid, &rt.DBGrid3, &pin.DBGrid4}) {
@@ -20,14 +26,19 @@ void PsnRtPinAfForm::Load() {
   plan.InitCaptions();
   rt.InitCaptions();
   pin.InitCaptions();
+  af_a.InitCaptions();
+  af_b.InitCaptions();
   ptyn.InitCaptions();
   psn.Open();
   plan.Open();
   rt.Open();
   pin.Open();
+  af_a.Open();
+  af_b.Open();
   ptyn.Open();
   SSTab1.SetTabVisible(kPlan, configData->PsnPlanEnable());
-  for (const int tab : {kAfA, kAfB}) SSTab1.SetTabVisible(tab, false);
+  SSTab1.SetTabVisible(kAfA, configData->AfMethodA());
+  SSTab1.SetTabVisible(kAfB, !configData->AfMethodA());
   SSTab1.SetTabVisible(kPtyn, configData->PtynEnable());
   SSTab1.SetTab(kPsn);
   window.ShowModal(main_menu_);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "programme/af_a_tab.h"
+#include "programme/af_b_tab.h"
 #include "programme/pin_tab.h"
 #include "programme/psn_plan_tab.h"
 #include "programme/psn_tab.h"
@@ -30,6 +32,8 @@ class PsnRtPinAfForm {
   PsnPlanTab plan{window};
   RtTab rt{window};
   PinTab pin{window};
+  AfATab af_a{window};
+  AfBTab af_b{window};
   PtynTab ptyn{window};
 
  private:

@@ -49,6 +49,8 @@ void TextBox::Edit(const std::string& text, int caret) {
   if (!TakesEvents() || locked_) return;
   if (text_ != text) {
     text_ = text;
+    sel_start_ = caret;
+    sel_length_ = 0;
     if (Change) Change();
     // A form that has put another text there has put the caret too.
     if (text_ != text) return Redraw();
