@@ -199,7 +199,8 @@ std::string FixedPoint(float value, int width, int decimals) {
   double size = 0;
   std::from_chars(begin, stop, size);
   // More than a decimal half is off in binary, and less than the last digit of a float.
-  size += size * 1e-12;
+  constexpr double kNoHalves = 1e7;
+  size += std::min(size, kNoHalves) * 1e-12;
   stop = std::to_chars(begin, end, size, std::chars_format::fixed, decimals).ptr;
   std::string text(buffer.data(), static_cast<std::size_t>(stop - begin));
   const std::size_t whole = std::min(text.find('.'), text.size());

@@ -19,7 +19,9 @@ namespace {
 
 // The sizes of the lists as they are asked at start and on Open.
 constexpr int kEnqFrame = 0;
-const std::vector<int> kEnqAndCounts{kEnqFrame, 0x14, 0x1E, 0x20, 0x14, 0x0A, 0x0B};
+const std::vector<int> kEnqAndCounts{kEnqFrame, 0x0C, 0x14, 0x1E, 0x20, 0x14, 0x0A, 0x0B};
+// New has another order.
+const std::vector<int> kCountsOfNew{0x14, 0x1E, 0x20, 0x14, 0x0A, 0x0B, 0x0C};
 
 class MainFormTest : public MachineTest {
  protected:
@@ -167,7 +169,7 @@ TEST_F(MainFormTest, NewGoesBackToTheDefaultFileAndLeavesTheLink) {
   EXPECT_EQ(configData->Country(), 7);
   EXPECT_EQ(configData->FullFileName(), ProgramFile());
   EXPECT_EQ(form->Dir1.Path(), machine.program_folder);  // where Save would write now
-  EXPECT_EQ(Codes(), std::vector<int>(kEnqAndCounts.begin() + 1, kEnqAndCounts.end()));
+  EXPECT_EQ(Codes(), kCountsOfNew);
 }
 
 TEST_F(MainFormTest, ATypedNameGoesAlongIntoAnotherFolder) {

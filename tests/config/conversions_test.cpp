@@ -33,6 +33,24 @@ TEST(Conversions, BitsAndHex) {
   for (const auto& [hex, width, bits] : to_bits) EXPECT_EQ(HexToBits(hex, width), bits) << hex;
 }
 
+TEST(Conversions, FixedPoint) {
+  const std::tuple<float, int, int, const char*> cases[] = {
+      {87.6F, 3, 3, "087.600"},   {107.975F, 3, 3, "107.975"},
+      {0.F, 3, 3, "000.000"},     {107.9F, 3, 1, "107.9"},
+      {87.45F, 3, 1, "087.5"},    {87.44F, 3, 1, "087.4"},
+      {99.95F, 3, 1, "100.0"},    {160.5F, 3, 0, "161"},
+      {1602.F, 3, 0, "1602"},     {-0.04F, 3, 1, "000.0"},
+      {-3.25F, 3, 1, "-003.3"},   {1e20F, 1, 1, "100000000000000000000.0"},
+      {100.125F, 1, 3, "100.125"}};
+  for (const auto& [value, width, decimals, text] : cases) {
+    EXPECT_EQ(FixedPoint(value, width, decimals), text);
+  }
+  EXPECT_EQ(ParseFloat("107.975"), 107.975F);
+  for (const std::string& none : {std::string(), std::string("x"), std::string(40, '9')}) {
+    EXPECT_FALSE(ParseFloat(none)) << none;
+  }
+}
+
 TEST(Conversions, PinCode) {
   using std::chrono::minutes;
   EXPECT_EQ(PinCode(0, minutes(0)), "0000");

@@ -34,7 +34,7 @@ inline constexpr const char* kLocalFile =
     "[Serial Setup]\nSatellite=Off\nSerialPort=1\nBaudrate=9600\nParity=N\nStopBit=2\n";
 
 /// Frames that a Coder on a two-way line answers while the program starts: the ENQ and the counts.
-inline constexpr int kAnswersOfStart = 7;
+inline constexpr int kAnswersOfStart = 8;
 
 /// The program in folders of its own, with an operator's hand on its real windows and a simulated
 /// Coder at its real port.

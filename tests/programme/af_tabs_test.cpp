@@ -1,0 +1,372 @@
+// The two AF tabs and their lists, driven through their controls against the Coder in memory.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "app/single_instance.h"
+#include "config/ini_management.h"
+#include "programme/af_a_data.h"
+#include "programme/af_b_data.h"
+#include "programme/pin_data.h"
+#include "programme/psn_data.h"
+#include "programme/psn_page_data.h"
+#include "programme/psn_rt_pin_af_form.h"
+#include "programme/rt_data.h"
+#include "support/station_screen.h"
+
+namespace corvalis::test {
+namespace {
+
+constexpr std::uint8_t kAf = 0x05;
+constexpr std::uint8_t kAfCountCode = 0x0C;
+const std::string kWarning = "WARNING! Not Allowed.";
+const std::string kA = "[AF Method A]\nFreqList=";
+const std::string kMethodB = "[RDS Setup]\nAF Method A=Off\n[AF Method B]\nMaxAfBListNum=3\n";
+const std::string kOneWay = "[Serial Setup]\nSatellite=On\nBurst=3\n";
+
+class AfTabsTest : public StationScreenTest<PsnRtPinAfForm> {
+ protected:
+  using Lists = SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData>;
+  ~AfTabsTest() override { Lists::Release(); }
+  void LoadLists() override { Lists::Create(); }
+
+  [[nodiscard]] TextBox& BoxA(int i) const { return form->af_a.Text39[i]; }
+  [[nodiscard]] TextBox& BoxB(int i) const { return form->af_b.Text2[i]; }
+  /// Types over what stands in a box and leaves it. False if it does not let go.
+  bool Enter(TextBox& box, const std::string& text) {
+    EXPECT_TRUE(form->window.MoveFocus(&box));
+    box.SelectAll();
+    if (text.empty()) box.TypeKey(8);
+    box.Type(text);
+    const bool left = form->window.MoveFocus(nullptr);
+    if (!left) form->window.MoveFocus(nullptr);  // as it was: that passes
+    return left;
+  }
+  /// The first so many boxes.
+  [[nodiscard]] std::string ShownA(int count) const {
+    std::string shown;
+    for (int i = 0; i < count; ++i) shown += BoxA(i).Text() + ' ';
+    return shown;
+  }
+  [[nodiscard]] std::string ShownB(int count) const {
+    std::string shown;
+    for (int i = 0; i < count; ++i) shown += BoxB(i).Text() + ' ';
+    return shown;
+  }
+  [[nodiscard]] int Available() const {
+    return static_cast<int>(std::count_if(form->af_a.Text39.begin(), form->af_a.Text39.end(),
+                                          [](const TextBox& box) { return box.Enabled(); }));
+  }
+  /// The AF lists of the frames that have left; -1 for the question how many there are.
+  std::vector<int> SentLists() {
+    std::vector<int> lists;
+    for (const Bytes& frame : Written()) {
+      lists.push_back(frame.at(1) == kAf ? frame.at(2) : frame.at(1) == kAfCountCode ? -1 : -2);
+    }
+    return lists;
+  }
+  static std::vector<int> UpTo(int last, bool asked) {
+    std::vector<int> lists{0};
+    if (asked) lists.push_back(-1);
+    for (int i = 1; i <= last; ++i) lists.push_back(i);
+    return lists;
+  }
+  void Answer(const Bytes& bytes) {
+    port.line = nullptr;
+    port.answer = [bytes](const Bytes&) { return bytes; };
+  }
+  [[nodiscard]] std::string Shown() const {
+    const auto on = [this](int tab) { return form->SSTab1.TabVisible(tab); };
+    return std::string(on(form->kAfA) ? "A" : "") + (on(form->kAfB) ? "B" : "");
+  }
+};
+
+TEST_F(AfTabsTest, TheTabOfTheMethodShows) {
+  OpenScreen(kLocal);
+  EXPECT_EQ(Shown(), "A");
+  OpenScreen(kLocal + kMethodB);
+  EXPECT_EQ(Shown(), "B");
+}
+
+TEST_F(AfTabsTest, LeavingABoxOfMethodA) {
+  OpenScreen(kLocal);
+  const std::tuple<const char*, const char*, bool> cases[] = {
+      {"87,6", "087.600", true}, {"8762", "087.600", false}, {"107.975", "107.975", true},
+      {"160", "153", true},      {"535", "531", true},       {"100.13", "531", false},
+      {"87.45", "531", false},   {"0", "000.000", true},     {"1602", "1602", true},
+      {"", "1602", false},       {"87.5", "087.500", true}};
+  for (const auto& [typed, shown, taken] : cases) {
+    EXPECT_EQ(Enter(BoxA(1), typed), taken) << typed;
+    EXPECT_EQ(BoxA(1).Text(), shown) << typed;
+    EXPECT_EQ(Boxes(), taken ? no_boxes : std::vector<std::string>{kWarning}) << typed;
+  }
+  const auto& marks = form->af_a.AfABandStrip.Marks();
+  ASSERT_EQ(marks.size(), 1U);
+  EXPECT_EQ(marks[0].text, "87.5");
+
+  dialogs.beeps = 0;
+  form->window.MoveFocus(&BoxA(1));
+  BoxA(1).Select(7, 0);
+  BoxA(1).Type("1.x\b\b2");
+  EXPECT_EQ(BoxA(1).Text(), "087.52");
+  EXPECT_EQ(dialogs.beeps, 3);
+}
+
+TEST_F(AfTabsTest, EachEntryOfTwoBytesCostsABoxAtTheEnd) {
+  OpenScreen(kLocal + kA + "100.000;531;087.525;\n");
+  EXPECT_EQ(ShownA(4), "100.000 531 087.525 000.000 ");
+  EXPECT_EQ(Available(), 23);
+  EXPECT_TRUE(Enter(BoxA(22), "101"));
+  EXPECT_TRUE(Enter(BoxA(3), "153"));  // takes the box of the 101
+  EXPECT_EQ(Available(), 22);
+  EXPECT_EQ(afAData->Freq(22), 0);
+  EXPECT_EQ(BoxA(22).Text(), "000.000");
+  EXPECT_FALSE(Enter(BoxA(21), "153"));  // would have no room
+  EXPECT_EQ(BoxA(21).Text(), "000.000");
+  EXPECT_EQ(Boxes(), std::vector<std::string>{kWarning});
+  EXPECT_TRUE(Enter(BoxA(20), "153"));
+  EXPECT_EQ(Available(), 21);
+  EXPECT_TRUE(form->window.MoveFocus(&BoxA(20)));
+  EXPECT_TRUE(form->window.MoveFocus(nullptr));  // though it could not be entered a second time
+  EXPECT_TRUE(Enter(BoxA(1), "0"));
+  EXPECT_EQ(Available(), 22);
+  EXPECT_EQ(Boxes(), no_boxes);
+}
+
+TEST_F(AfTabsTest, ClosingIsRefusedWhileABoxOfMethodAIsWrong) {
+  OpenScreen(kLocal + kA + "87.5;87.58;\n");
+  EXPECT_EQ(BoxA(1).Text(), "087.580");
+  form->window.Close();
+  EXPECT_EQ(Boxes(), std::vector<std::string>{kWarning});
+  EXPECT_EQ(form->SSTab1.Tab(), form->kAfA);
+  EXPECT_TRUE(BoxA(1).HasFocus());
+  BoxA(1).SelectAll();
+  BoxA(1).Type("99");
+  form->window.MoveFocus(&BoxA(2));
+  BoxA(2).SelectAll();
+  BoxA(2).Type("5");
+  form->window.Close();
+  EXPECT_EQ(Boxes(), std::vector<std::string>{kWarning});  // once
+  EXPECT_TRUE(form->window.Visible());
+  form->window.Close();
+  EXPECT_FALSE(form->window.Visible());
+
+  // Where its tab does not show, nobody could mend it.
+  OpenScreen(kLocal + kMethodB + kA + "87.5;87.58;\n");
+  form->window.Close();
+  EXPECT_EQ(Boxes(), no_boxes);
+  EXPECT_FALSE(form->window.Visible());
+}
+
+TEST_F(AfTabsTest, TheFirstSendOfARunEmptiesAllOtherLists) {
+  OpenScreen(kLocal + kA + "0;100;87.525;99;\n");
+  the_coder->SetItem(kAf, 7, Bytes(52, '0'));
+  const double before = time.Elapsed();
+  double first_frame = 0;
+  port.Wrote = [&] {
+    if (port.written.size() == 3) first_frame = time.Elapsed() - before;
+  };
+  form->af_a.Command11.Press();
+  port.Wrote = {};
+  EXPECT_EQ(SentLists(), UpTo(99, true));
+  EXPECT_LT(first_frame, 0.1);  // no pause before the first, and one behind each
+  EXPECT_NEAR(time.Elapsed() - before, 99 * 0.2, 0.5);
+  EXPECT_EQ(Held(kAf, 7), std::string("CDCDCDCDCDCDCDCDCDCDCDCDCDCDCDCDCDCDCDCDCDCDCDCDCDCD"));
+  EXPECT_EQ(Held(kAf).substr(0, 12), "E47DFD0073CD");  // arranged
+  EXPECT_EQ(ShownA(4), "100.000 087.525 099.000 000.000 ");
+
+  afAData->GetIni();  // another file is opened: not again
+  form->af_a.Command11.Press();
+  EXPECT_EQ(SentLists(), UpTo(0, false));
+  form->af_a.Command13.Press();
+  EXPECT_EQ(ShownA(4), "100.000 087.525 099.000 000.000 ");
+}
+
+TEST_F(AfTabsTest, EmptyingThatFailedIsDoneAgain) {
+  OpenScreen(kLocal + kA + "100;\n");
+  // The list itself is refused, then the count, then the third of the others; then ESC.
+  int refused = 0;
+  int countdown = 0;
+  port.line = nullptr;
+  port.answer = [&](const Bytes& frame) {
+    if (countdown-- == 0) return Hex("15 02 00 02 03 03");
+    time.After(0.01, [this, bytes = the_coder->Take(frame)] { port.Receive(bytes); });
+    return Bytes{};
+  };
+  for (const auto& [frames, at] : std::vector<std::pair<std::vector<int>, int>>{
+           {{0}, 0}, {{0, -1}, 1}, {{0, -1, 1, 2, 3}, 4}}) {
+    countdown = at;
+    form->af_a.Command11.Press();
+    EXPECT_EQ(SentLists(), frames);
+    EXPECT_EQ(Boxes().size(), 1U) << ++refused;
+  }
+  countdown = -1;
+  time.After(1.1, [] { EscPressed = true; });
+  form->af_a.Command11.Press();
+  EXPECT_LT(SentLists().size(), 10U);
+  EXPECT_EQ(Boxes(), no_boxes);
+  form->af_a.Command11.Press();
+  EXPECT_EQ(SentLists(), UpTo(99, true));
+  form->af_a.Command11.Press();
+  EXPECT_EQ(SentLists(), UpTo(0, false));
+}
+
+TEST_F(AfTabsTest, OneWayTheAddressComesBeforeTheArrangingAndAHundredListsAreEmptied) {
+  OpenScreen(kOneWay + kA + "0;100;\n");
+  const AfATab& tab = form->af_a;
+  EXPECT_FALSE(tab.Command13.Visible());
+  EXPECT_TRUE(tab.Command12.Visible());
+  ExpectAddressRule({&form->af_a.Command11, &form->af_a.Command12});
+  EXPECT_EQ(afAData->Freq(0), 0);
+  const double before = time.Elapsed();
+  form->af_a.Command12.Press();
+  std::vector<int> lists = UpTo(99, false);
+  lists.insert(lists.end(), {0, 0});
+  EXPECT_EQ(SentLists(), lists);
+  EXPECT_NEAR(time.Elapsed() - before, 102 * 0.2, 0.5);
+  EXPECT_EQ(ShownA(2), "100.000 000.000 ");
+}
+
+TEST_F(AfTabsTest, AFailedReadShowsTheLowestFrequencyThroughout) {
+  OpenScreen(kLocal + kA + "531;\n");
+  EXPECT_EQ(Available(), 24);
+  Answer(Hex("15 02 00 02 03 03"));
+  form->af_a.Command13.Press();
+  EXPECT_EQ(Boxes().size(), 1U);
+  EXPECT_EQ(BoxA(0).Text() + BoxA(24).Text(), "087.500087.500");
+  EXPECT_EQ(Available(), 25);
+  afAData->SetFreq(3, 0);
+  LinkOpen = false;
+  form->af_a.Command13.Press();
+  EXPECT_EQ(Boxes().size(), 1U);
+  EXPECT_EQ(BoxA(3).Text(), "087.500");
+}
+
+TEST_F(AfTabsTest, TheFileKeepsTheLists) {
+  OpenScreen(kLocal + kA + "87.6;107.975;160.5;1602;50;-3;x;1e3;100.1\n");
+  EXPECT_EQ(ShownA(9), "087.600 107.975 161 1602 050 -003 000.000 000.000 100.100 ");
+  afAData->SetIni();
+  std::string stored = "087.600;107.975;161;1602;";
+  for (const char* rest : {"000.000;", "000.000;", "000.000;", "000.000;", "100.100;"})
+    stored += rest;
+  for (int i = 9; i < kAfEntries; ++i) stored += "000.000;";
+  EXPECT_EQ(ReadIniKey("AF Method A", "FreqList"), stored);
+
+  // The description is read as the thirteenth alternative, and is no description any more.
+  afBData->SetMainFreq(1, 99.5F);
+  afBData->SetListFreq(1, 11, 87.6F);
+  afBData->SetDescr(1, "104.3");
+  afBData->SetDescr(2, "a;b");
+  afBData->SetIni();
+  const std::string zeros = "000.0;000.0;000.0;000.0;000.0;000.0;000.0;000.0;000.0;000.0;000.0;";
+  EXPECT_EQ(ReadIniKey("AF Method B", "List01"), "099.5;" + zeros + "087.6;104.3");
+  EXPECT_EQ(ReadIniKey("AF Method B", "MaxAfBListNum"), "100");
+  afBData->GetIni();
+  EXPECT_EQ(afBData->Descr(1), "");
+  EXPECT_EQ(afBData->ListFreq(1, 12), 104.3F);
+  EXPECT_EQ(afBData->Descr(2), "b");
+  afBData->SetOneRds(1);
+  EXPECT_EQ(Held(kAf, 1).substr(0, 14),
+            "E5780178"
+            "78A8CD");
+}
+
+TEST_F(AfTabsTest, BoxesOfMethodB) {
+  OpenScreen(kOneWay + kMethodB + "List00=100;99;101;\n");
+  EXPECT_EQ(ShownB(4), "100.0 099.0 101.0 000.0 ");
+  const std::tuple<int, const char*, const char*, bool> cases[] = {
+      {1, "1079", "107.9", true},  {1, "107.95", "107.9", true}, {1, "108", "107.9", false},
+      {1, "87.4", "107.9", false}, {1, "87,5", "087.5", true},   {0, "108.0", "100.0", false},
+      {0, "98.7", "098.7", true},  {1, "", "087.5", false},      {2, "0", "000.0", true}};
+  for (const auto& [box, typed, shown, taken] : cases) {
+    EXPECT_EQ(Enter(BoxB(box), typed), taken) << typed;
+    EXPECT_EQ(BoxB(box).Text(), shown) << typed;
+    EXPECT_EQ(Boxes(), taken ? no_boxes : std::vector<std::string>{kWarning}) << typed;
+  }
+  form->window.MoveFocus(&BoxB(1));
+  BoxB(1).SetText("107.9");
+  BoxB(1).Select(3, 2);
+  BoxB(1).Type("9");
+  EXPECT_EQ(BoxB(1).Text(), "107.9");
+  EXPECT_EQ(BoxB(1).SelStart(), 5);
+  BoxB(1).SelectAll();
+  BoxB(1).Type("5");
+  form->window.Close();
+  EXPECT_TRUE(form->window.Visible());
+  EXPECT_EQ(Boxes(), std::vector<std::string>{kWarning});
+
+  const auto& marks = form->af_b.AfBBandStrip.Marks();
+  EXPECT_TRUE(marks.at(0).main);
+  EXPECT_EQ(marks.at(1).text, "87.5");
+  EXPECT_TRUE(Enter(BoxB(0), "0"));  // no main frequency, no alternatives
+  EXPECT_EQ(ShownB(4), "000.0 000.0 000.0 000.0 ");
+  EXPECT_EQ(afBData->ListFreq(0, 0), 0);
+  EXPECT_TRUE(marks.empty());
+}
+
+TEST_F(AfTabsTest, ListsAreFoundByNumberByStepsAndByDescription) {
+  OpenScreen(kOneWay + kMethodB + "List02=100;99;\n");
+  AfBTab& tab = form->af_b;
+  const auto at = [&tab] { return tab.Text1.Text() + "/" + tab.Combo2.Text(); };
+  Step(tab.VScroll1, -1);
+  EXPECT_EQ(at(), "02/");
+  EXPECT_EQ(ShownB(2), "100.0 099.0 ");
+  Step(tab.VScroll1, +1);
+  EXPECT_EQ(at(), "00/");
+  for (const auto& [typed, shown] :
+       std::vector<std::pair<const char*, const char*>>{{"2", "02"}, {"3", "02"}, {"1", "01"}}) {
+    Enter(tab.Text1, typed);
+    EXPECT_EQ(tab.Text1.Text(), shown);
+  }
+  form->window.MoveFocus(&tab.Combo2);
+  tab.Combo2.TypeText("Hill");
+  tab.Combo2.Choose(2);  // the text was list 1's
+  EXPECT_EQ(at(), "02/");
+  tab.Combo2.TypeText("Valley");
+  form->window.MoveFocus(nullptr);
+  EXPECT_EQ(tab.Combo2.Entries(), (std::vector<std::string>{"", "Hill", "Valley"}));
+  EXPECT_EQ(afBData->Descr(2), "Valley");
+  EXPECT_EQ(at(), "02/Valley");
+  Step(tab.VScroll1, -1);
+  EXPECT_EQ(at(), "01/Hill");
+}
+
+TEST_F(AfTabsTest, ButtonsOfMethodBOneWay) {
+  OpenScreen(kOneWay + kMethodB + "List02=100;99;\n");
+  AfBTab& tab = form->af_b;
+  EXPECT_FALSE(tab.Command4.Visible() || tab.Command5.Visible());
+  ExpectAddressRule({&tab.Command2, &tab.Command1, &tab.Command3});
+  const double before = time.Elapsed();
+  tab.Command3.Press();
+  EXPECT_EQ(SentLists(), (std::vector<int>{0, 1, 2, 0, 1, 2, 0, 1, 2, 0, 1, 2}));
+  EXPECT_NEAR(time.Elapsed() - before, 12 * 0.2, 0.2);
+  Step(tab.VScroll1, -1);
+  tab.Command2.Press();
+  EXPECT_EQ(SentLists(), std::vector<int>{2});
+}
+
+TEST_F(AfTabsTest, ButtonsOfMethodBOnATwoWayLink) {
+  OpenScreen(kLocal + kMethodB + "List00=100;99;\n");
+  AfBTab& tab = form->af_b;
+  EXPECT_FALSE(tab.Command3.Visible());
+  EXPECT_EQ(afBData->MaxAfBListNum(), 100);  // the Coder's count
+  tab.Command1.Press();
+  EXPECT_EQ(Written().size(), 100U);
+  Step(tab.VScroll1, 7);
+  Hold(kAf, Held(kAf), 7);
+  tab.Command4.Press();
+  EXPECT_EQ(ShownB(3), "100.0 099.0 000.0 ");
+  tab.Command5.Press();
+  EXPECT_EQ(Written().size(), 101U);
+  EXPECT_EQ(afBData->MainFreq(0), 100);
+  Answer(Hex("15 02 00 02 03 03"));
+  tab.Command5.Press();
+  EXPECT_EQ(Written().size(), 1U);
+  EXPECT_EQ(Boxes().size(), 1U);
+  EXPECT_EQ(afBData->ListFreq(0, 5), 87.5F);
+  EXPECT_EQ(ShownB(3), "100.0 099.0 000.0 ");
+}
+
+}  // namespace
+}  // namespace corvalis::test
