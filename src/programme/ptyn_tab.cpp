@@ -44,7 +44,7 @@ PtynTab::PtynTab(Window& window)
 void PtynTab::FitName() {
   if (PtynText.Text().size() <= kPtynCharacters) return;
   const std::string name = PtynText.Text().substr(0, kPtynCharacters);
-  const int behind = PtynText.SelStart() + 1;  // the character struck: typing goes on there
+  const int behind = PtynText.SelStart();  // the character struck: typing goes on there
   PtynText.SetText(name);
   PtynText.Select(behind, 0);
   ptynData->SetPtyn(name, ptynData->CurrentPtyn());

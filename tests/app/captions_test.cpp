@@ -8,6 +8,7 @@
 #include "app/main_form.h"
 #include "busy/serial_communication_form.h"
 #include "busy/wait_form.h"
+#include "config/conversions.h"
 #include "link/serial_management.h"
 #include "support/test_machine.h"
 
@@ -143,6 +144,25 @@ TEST_F(CaptionsTest, NamesAndTexts) {
     Command9 ReadKeyMsg ReadKeyTip               Command22 ReadAllKeyMsg ReadAllKeyTip
     Command14 SendOneKeyMsg SendOneKeyTip        Command21 SendAllKeyMsg SendAllKeyTip
     Command10 SendAllBurstKeyMsg SendAllBurstKeyTip)");
+  std::string boxes = R"(
+    AlternativeFreqLabel AlternativeFreqMsg -    Command13 ReadKeyMsg ReadKeyTip
+    Command11 SendKeyMsg SendKeyTip              Command12 SendBurstKeyMsg SendBurstKeyTip)";
+  for (int i = 0; i < 25; ++i) {
+    boxes += " Text39(" + std::to_string(i) + ") - AlternativeFreqTip" + Digits(i, 2);
+  }
+  Check(screen.window, "AF Method A", boxes);
+  boxes = R"(
+    ListNrLabel ListNrKeyMsg ListNrKeyTip        Text1 - ListNrKeyTip
+    VScroll1 - ListNrKeyTip                      Combo2 - DescriptionKeyTip
+    DescriptionLabel DescriptionKeyMsg DescriptionKeyTip
+    MainFreqLabel MainFreqKeyMsg FreqTip00       AltFreqLabel AltFreqKeyMsg -
+    Command4 ReadKeyMsg ReadKeyTip               Command5 ReadAllKeyMsg ReadAllKeyTip
+    Command2 SendOneListKeyMsg SendOneListKeyTip Command1 SendAllListKeyMsg SendAllListKeyTip
+    Command3 SendAllBurstKeyMsg SendAllBurstKeyTip)";
+  for (int i = 0; i < 13; ++i) {
+    boxes += " Text2(" + std::to_string(i) + ") - FreqTip" + Digits(i, 2);
+  }
+  Check(screen.window, "AF METHOD B", boxes);
   Check(screen.window, "PIN", R"(
     Command6 ReadKeyMsg ReadKeyTip               Command23 ReadAllKeyMsg ReadAllKeyTip
     Command8 SendOneKeyMsg SendOneKeyTip         Command15 SendAllKeyMsg SendAllKeyTip

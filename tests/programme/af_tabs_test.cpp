@@ -12,6 +12,7 @@
 #include "programme/psn_data.h"
 #include "programme/psn_page_data.h"
 #include "programme/psn_rt_pin_af_form.h"
+#include "programme/ptyn_data.h"
 #include "programme/rt_data.h"
 #include "support/station_screen.h"
 
@@ -27,7 +28,7 @@ const std::string kOneWay = "[Serial Setup]\nSatellite=On\nBurst=3\n";
 
 class AfTabsTest : public StationScreenTest<PsnRtPinAfForm> {
  protected:
-  using Lists = SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData>;
+  using Lists = SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData, ptynData>;
   ~AfTabsTest() override { Lists::Release(); }
   void LoadLists() override { Lists::Create(); }
 

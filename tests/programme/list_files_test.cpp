@@ -148,9 +148,9 @@ TEST_F(ListFilesTest, NumbersOfRowsGrow) {
 TEST_F(ListFilesTest, TheCoderIsAskedForItsSizes) {
   const std::tuple<std::string, Bytes, int> cases[] = {
       {kSatellite, {}, 3},
-      {std::string(kLocal) + "[RDS Setup]\n", Hex("14 1E 20 14 0A 0B"), 5},
-      {std::string(kLocal) + "[RDS Setup]\nPSN Plan Enable=Off\n", Hex("14 1E 14 0A 0B"), 5},
-      {std::string(kLocal) + kNoPages, Hex("14 14 0A 0B"), 5},
+      {std::string(kLocal) + "[RDS Setup]\n", Hex("0C 14 1E 20 14 0A 0B"), 5},
+      {std::string(kLocal) + "[RDS Setup]\nPSN Plan Enable=Off\n", Hex("0C 14 1E 14 0A 0B"), 5},
+      {std::string(kLocal) + kNoPages, Hex("0C 14 14 0A 0B"), 5},
       {"[Serial Setup]\nSatellite=Off\nModem=On\n", {}, 3}};
   for (const auto& [file, asked, rows] : cases) {
     Begin(Sized(file), true);
@@ -168,7 +168,7 @@ TEST_F(ListFilesTest, TheCoderIsAskedForItsSizes) {
   port.answer = [](const Bytes&) { return Hex("15 02 00 07 03 06"); };
   Lists::Create();
   EXPECT_EQ(psnData->MaxPsnNum(), 3);
-  EXPECT_EQ(Boxes().size(), 6U);
+  EXPECT_EQ(Boxes().size(), 7U);
 }
 
 TEST_F(ListFilesTest, YearsTravelInTwoDigits) {

@@ -4,6 +4,8 @@
 #include <vector>
 
 #include "app/single_instance.h"
+#include "programme/af_a_data.h"
+#include "programme/af_b_data.h"
 #include "programme/pin_data.h"
 #include "programme/psn_data.h"
 #include "programme/psn_page_data.h"
@@ -17,7 +19,7 @@ namespace corvalis::test {
 /// The screen of the programme on lists of `sizes`, whoever tells them: the Coder or the file.
 class ProgrammeTest : public StationScreenTest<PsnRtPinAfForm> {
  protected:
-  using Lists = SingleInstances<psnData, psnPageData, rtData, pinData, ptynData>;
+  using Lists = SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData, ptynData>;
 
   ~ProgrammeTest() override {
     form.reset();

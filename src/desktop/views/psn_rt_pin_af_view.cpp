@@ -1,5 +1,7 @@
 #include "desktop/views/psn_rt_pin_af_view.h"
 
+#include "desktop/views/af_a_page.h"
+#include "desktop/views/af_b_page.h"
 #include "desktop/views/pin_page.h"
 #include "desktop/views/psn_page.h"
 #include "desktop/views/psn_plan_page.h"
@@ -16,9 +18,8 @@ PsnRtPinAfView::PsnRtPinAfView(PsnRtPinAfForm& form) : WindowView(form.window) {
   tabs->AddPage(new PsnPlanPage(form.plan, tabs));
   tabs->AddPage(new RtPage(form.rt, tabs));
   tabs->AddPage(new PinPage(form.pin, tabs));
-  for (int hidden = PsnRtPinAfForm::kAfA; hidden <= PsnRtPinAfForm::kAfB; ++hidden) {
-    tabs->AddPage(new QWidget(tabs));
-  }
+  tabs->AddPage(new AfAPage(form.af_a, tabs));
+  tabs->AddPage(new AfBPage(form.af_b, tabs));
   tabs->AddPage(new PtynPage(form.ptyn, tabs));
   WindowColumn(this)->addWidget(tabs);
 }

@@ -1,0 +1,56 @@
+#include "desktop/views/af_b_page.h"
+
+#include "desktop/widgets/band_strip_widget.h"
+#include "desktop/widgets/combo_box_widget.h"
+#include "desktop/widgets/label_widget.h"
+#include "desktop/widgets/layout.h"
+#include "desktop/widgets/spinner_widget.h"
+#include "desktop/widgets/style.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+constexpr int kColumns = 6;
+constexpr int kCharacters = 5;
+constexpr int kNumberDigits = 3;
+
+QWidget* Alternatives(AfBTab& tab, QWidget* parent) {
+  auto* group = new LabelledGroup(tab.AltFreqLabel, parent);
+  auto* grid = new QGridLayout(group);
+  grid->setHorizontalSpacing(kNear);
+  grid->setVerticalSpacing(kNear);
+  for (int i = 1; i < AfBTab::kBoxes; ++i) {
+    const int row = (i - 1) / kColumns;
+    const int column = (i - 1) % kColumns * 3;
+    QLabel* number = QuietText(QString::number(i), group);
+    number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    grid->addWidget(number, row, column);
+    QLineEdit* box = FixedBox(tab.Text2[i], kCharacters, group);
+    box->setAccessibleName(QStringLiteral("Alternative frequency %1").arg(i));
+    grid->addWidget(box, row, column + 1);
+    grid->setColumnStretch(column + 2, 1);
+  }
+  grid->addWidget(new BandStripWidget(tab.AfBBandStrip, group), grid->rowCount(), 0, 1,
+                  3 * kColumns);
+  return group;
+}
+
+}  // namespace
+
+AfBPage::AfBPage(AfBTab& tab, QWidget* parent) : QWidget(parent) {
+  auto* list = new QWidget(this);
+  QVBoxLayout* column = Column(list);
+  column->setSpacing(kApart);
+  auto* head = new QGroupBox(list);
+  QGridLayout* fields = Fields(head);
+  AddField(*fields, tab.ListNrLabel, new SpinField(tab.Text1, tab.VScroll1, kNumberDigits, head));
+  AddField(*fields, tab.DescriptionLabel, new ComboBoxWidget(tab.Combo2, head));
+  AddField(*fields, tab.MainFreqLabel, FixedBox(tab.Text2[0], kCharacters, head));
+  column->addWidget(head);
+  column->addWidget(Alternatives(tab, list));
+  column->addStretch();
+  ListPage(this, list, {&tab.Command4, &tab.Command5, &tab.Command2, &tab.Command1, &tab.Command3});
+}
+
+}  // namespace corvalis::desktop
