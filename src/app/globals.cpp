@@ -18,8 +18,8 @@ namespace {
 
 // A class that joins gets its place in each of these orders, which differ.
 // Creation, and release. The names of the types stand in no other order.
-using OfCreation = SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData,
-                                   groupsData, ptynData>;
+using OfCreation =
+    SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData, groupsData, ptynData>;
 using OfOpen = SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData, groupsData>;
 // The group sequence has two places here.
 using OfNew = SingleInstances<psnData, psnPageData, rtData, pinData, afAData, afBData, groupsData,
