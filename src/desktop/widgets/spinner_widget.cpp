@@ -83,6 +83,7 @@ SpinField::SpinField(TextBox& box, Spinner& spinner, int columns, QWidget* paren
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   box_->installEventFilter(this);
   spinner_->installEventFilter(this);
+  if (box_->isHidden()) hide();
 }
 
 void SpinField::Name(const QString& name) {
@@ -92,6 +93,9 @@ void SpinField::Name(const QString& name) {
 
 bool SpinField::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) update();
+  // The field is there exactly while its box is.
+  if (watched == box_ && event->type() == QEvent::ShowToParent) show();
+  if (watched == box_ && event->type() == QEvent::HideToParent) hide();
   if (watched == box_ && event->type() == QEvent::KeyPress) {
     const int key = static_cast<QKeyEvent*>(event)->key();
     if (key == Qt::Key_Up || key == Qt::Key_Down) {
