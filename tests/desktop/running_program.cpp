@@ -85,7 +85,9 @@ RunningProgram::RunningProgram() : watcher_(std::make_unique<Watcher>(*this)) {
   LinkOpen = AddressSent = EscPressed = AutoSettingActive = false;
 }
 
-RunningProgram::~RunningProgram() {
+RunningProgram::~RunningProgram() { End(); }
+
+void RunningProgram::End() {
   program.reset();
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   coder.reset();
@@ -113,8 +115,7 @@ void RunningProgram::Start(const std::string& default_file) {
 }
 
 void RunningProgram::StartWithCoder(const QStringList& options, const std::string& default_file) {
-  program.reset();
-  coder.reset();
+  End();
   PlugCoder(options);
   Start(default_file);
 }

@@ -93,6 +93,7 @@ class RunningProgram : public testing::Test {
   class Watcher;
   class Ear;
 
+  void End();
   [[nodiscard]] std::string LinkOf(int number) const;
   void TearDown() override { EXPECT_EQ(Boxes(), Lines{}); }
 

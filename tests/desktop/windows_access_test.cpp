@@ -2,12 +2,16 @@
 // every state is in words, and every text has room in letters of any size.
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QApplication>
+#include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabBar>
+#include <set>
+#include <utility>
 
 #include "config/config_data.h"
 #include "desktop/running_program.h"
@@ -16,10 +20,11 @@
 namespace corvalis::test {
 namespace {
 
+// Its last section can be gone on with.
 constexpr const char* kGroupsFile =
     "[Serial Setup]\nSatellite=Off\nSerialPort=1\nBaudrate=9600\nParity=N\nStopBit=2\n"
-    "[RDS Setup]\nGroups Enable=On\nGroups B Enable=On\nTA=On\nMusic=Off\n"
-    "[Groups]\nGroup00A=03;On\nGroup02A=09;On\n";
+    "[Groups]\nGroup00A=03;On\nGroup02A=09;On\n"
+    "[RDS Setup]\nGroups Enable=On\nGroups B Enable=On\nTA=On\nMusic=Off\n";
 
 QString Said(QWidget& widget, QAccessible::Text what) {
   QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(&widget);
@@ -36,27 +41,31 @@ class WindowsAccessTest : public RunningProgram {
  protected:
   ~WindowsAccessTest() override { QApplication::setFont(font_); }
 
-  // Hands each control that is to be seen to `look`, window by window and page by page.
-  void ForEachControl(const std::function<void(QWidget&)>& look) {
+  // Hands each window to `look`, page by page.
+  void ForEachPage(const std::function<void(QWidget&)>& look) {
+    for (const char* method_a : {"On", "Off"}) {
+      SCOPED_TRACE(method_a);
+      StartWithCoder({"--open"}, std::string(kGroupsFile) + "AF Method A=" + method_a + "\n");
+      LookThrough(look);
+    }
+  }
+  void LookThrough(const std::function<void(QWidget&)>& look) {
     const auto look_at = [&look](const QString& name) {
-      QWidget* window = OnScreen(name);
-      ASSERT_NE(window, nullptr) << name.toStdString();
       SCOPED_TRACE(name.toStdString());
-      for (QWidget* widget : window->findChildren<QWidget*>()) {
-        const QString control = widget->objectName();
-        if (control.isEmpty() || control.startsWith(u"qt_") || !widget->isVisible()) continue;
-        SCOPED_TRACE(control.toStdString());
-        look(*widget);
-      }
+      ASSERT_NE(OnScreen(name), nullptr);
+      look(*OnScreen(name));
     };
     look_at(kMain);
     for (const auto& [button, window] : {std::pair(QStringLiteral("TaPtyMsButton"), kOnAir),
+                                         std::pair(QStringLiteral("PsnRtPinAfButton"), kTexts),
                                          std::pair(QStringLiteral("CtTpDiPiButton"), kStation),
                                          std::pair(QStringLiteral("EditGroupsButton"), kGroups),
                                          std::pair(QStringLiteral("RS232CButton"), kSetup)}) {
       hand.Click(kMain, button);
       const auto* tabs = hand.Window(window).findChild<QTabBar*>();
       for (int tab = 0; tab < (tabs == nullptr ? 1 : tabs->count()); ++tab) {
+        SCOPED_TRACE(tab);
+        if (tabs != nullptr && !tabs->isTabVisible(tab)) continue;
         if (tabs != nullptr) hand.TurnToTab(window, tab);
         look_at(window);
       }
@@ -69,12 +78,23 @@ class WindowsAccessTest : public RunningProgram {
     }
   }
 
+  // Hands each control that is to be seen to `look`.
+  void ForEachControl(const std::function<void(QWidget&)>& look) {
+    ForEachPage([&look](const QWidget& window) {
+      for (QWidget* widget : window.findChildren<QWidget*>()) {
+        const QString control = widget->objectName();
+        if (control.isEmpty() || control.startsWith(u"qt_") || !widget->isVisible()) continue;
+        SCOPED_TRACE(control.toStdString());
+        look(*widget);
+      }
+    });
+  }
+
  private:
   const QFont font_ = QApplication::font();
 };
 
 TEST_F(WindowsAccessTest, EveryControlHasAName) {
-  StartWithCoder({"--open"}, kGroupsFile);
   int controls = 0;
   ForEachControl([&controls](QWidget& widget) {
     ++controls;
@@ -131,6 +151,91 @@ TEST_F(WindowsAccessTest, EveryStateIsInWords) {
   EXPECT_TRUE(said.contains(QStringLiteral("2000"))) << said.toStdString();
 }
 
+// The stops of Tab in `window`, from its first.
+std::vector<QWidget*> Stops(const QWidget& window) {
+  std::vector<QWidget*> stops;
+  for (QWidget* next = window.nextInFocusChain(); next != &window;
+       next = next->nextInFocusChain()) {
+    const bool stop = (next->focusPolicy() & Qt::TabFocus) != 0 && next->focusProxy() == nullptr;
+    if (stop && next->isEnabled() && next->isVisibleTo(&window)) stops.push_back(next);
+  }
+  return stops;
+}
+
+TEST_F(WindowsAccessTest, TabGoesThroughEveryWindowAsItReads) {
+  StartWithCoder({"--open"}, kGroupsFile);
+  QStringList menu;
+  for (const QWidget* stop : Stops(hand.Window(kMain))) menu << stop->objectName();
+  EXPECT_EQ(menu.join(u' ').toStdString(),
+            "TaPtyMsButton PsnRtPinAfButton CtTpDiPiButton EditGroupsButton RS232CButton "
+            "Drive1 Dir1 File1 Text105 NewButton OpenButton SaveButton");
+  ForEachPage([](const QWidget& window) {
+    const QWidget* last = nullptr;
+    for (const QWidget* stop : Stops(window)) {
+      const QWidget* before = std::exchange(last, stop);
+      if (before == nullptr || before->isAncestorOf(stop)) continue;
+      const QRect a(before->mapTo(&window, QPoint()), before->size());
+      const QRect b(stop->mapTo(&window, QPoint()), stop->size());
+      const bool one_line = a.top() <= b.bottom() && b.top() <= a.bottom();
+      const bool backwards = b.right() < a.left() && one_line;
+      const bool upwards = b.bottom() < a.top() && b.left() <= a.right();
+      EXPECT_FALSE(backwards || upwards)
+          << before->objectName().toStdString() << ", then " << stop->objectName().toStdString();
+    }
+  });
+}
+
+// True if a mnemonic leads to `stop`: its own, its label's or its group's.
+bool HasMnemonic(const QWidget& window, QWidget& stop) {
+  const auto marked = [](const QString& text) { return !QKeySequence::mnemonic(text).isEmpty(); };
+  if (const auto* button = qobject_cast<QAbstractButton*>(&stop); button != nullptr) {
+    if (marked(button->text())) return true;
+  }
+  if (qobject_cast<QTabBar*>(&stop) != nullptr) return true;
+  for (const auto* label : window.findChildren<QLabel*>()) {
+    const QWidget* buddy = label->buddy();
+    if (buddy == nullptr || !label->isVisible() || !marked(label->text())) continue;
+    if (buddy == &stop || buddy->focusProxy() == &stop) return true;
+  }
+  for (QWidget* part = stop.parentWidget(); part != nullptr; part = part->parentWidget()) {
+    const auto* group = qobject_cast<QGroupBox*>(part);
+    if (group != nullptr && marked(group->title())) return true;
+  }
+  return false;
+}
+
+TEST_F(WindowsAccessTest, EveryStopHasAMnemonicAndEachMnemonicIsUnique) {
+  ForEachPage([](const QWidget& window) {
+    std::set<QString> given;
+    const auto take = [&given](const QString& text) {
+      const QString key = QKeySequence::mnemonic(text).toString();
+      EXPECT_TRUE(key.isEmpty() || given.insert(key).second) << text.toStdString();
+    };
+    for (const auto* widget : window.findChildren<QWidget*>()) {
+      if (!widget->isVisible()) continue;
+      if (const auto* bar = qobject_cast<const QTabBar*>(widget)) {
+        for (int tab = 0; tab < bar->count(); ++tab) {
+          if (!bar->isTabVisible(tab)) continue;
+          EXPECT_FALSE(QKeySequence::mnemonic(bar->tabText(tab)).isEmpty());
+          take(bar->tabText(tab));
+        }
+      } else if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
+        take(button->text());
+      } else if (const auto* label = qobject_cast<const QLabel*>(widget)) {
+        if (label->buddy() != nullptr) take(label->text());
+      } else if (const auto* group = qobject_cast<const QGroupBox*>(widget)) {
+        take(group->title());
+      }
+    }
+    if (window.objectName() == kGroups) return;  // more boxes than letters: they have Tab
+    for (QWidget* stop : Stops(window)) {
+      if (qobject_cast<QAbstractSpinBox*>(stop) != nullptr) continue;  // beside its box
+      EXPECT_TRUE(HasMnemonic(window, *stop))
+          << stop->metaObject()->className() << ' ' << stop->objectName().toStdString();
+    }
+  });
+}
+
 TEST_F(WindowsAccessTest, EveryTextHasRoomInLettersOfAnySize) {
   int line = 0;
   for (const double points : {9.0, 12.0, 18.0}) {
@@ -138,24 +243,27 @@ TEST_F(WindowsAccessTest, EveryTextHasRoomInLettersOfAnySize) {
     QFont font = QApplication::font();
     font.setPointSizeF(points);
     QApplication::setFont(font);
-    StartWithCoder({"--open"}, kGroupsFile);
     ForEachControl([](QWidget& widget) {
       const QFontMetrics letters = widget.fontMetrics();
       EXPECT_GE(letters.height(), QFontMetrics(QApplication::font()).height());
       const QRect& in = widget.parentWidget()->rect();
       EXPECT_TRUE(in.contains(widget.geometry()));
       QString text;
-      if (const auto* button = qobject_cast<QAbstractButton*>(&widget)) text = button->text();
+      if (const auto* button = qobject_cast<QAbstractButton*>(&widget)) {
+        text = desktop::PlainCaption(button->text());
+      }
       // Air above and below the letters, also of large ones.
       if (!text.isEmpty() && qobject_cast<QPushButton*>(&widget) != nullptr) {
         EXPECT_GE(widget.height() * 4, letters.height() * 7);
       }
-      if (const auto* label = qobject_cast<QLabel*>(&widget)) text = label->text();
+      if (const auto* label = qobject_cast<QLabel*>(&widget)) {
+        // Without a field to lead to, a label marks no letter and an "&" stands for itself.
+        text = label->buddy() == nullptr ? label->text() : desktop::PlainCaption(label->text());
+      }
       const auto* box = qobject_cast<QLineEdit*>(&widget);
       if (box != nullptr && box->sizePolicy().horizontalPolicy() == QSizePolicy::Fixed) {
         text = box->text();
       }
-      text = desktop::PlainCaption(text);
       if (text.isEmpty()) return;
       EXPECT_GE(widget.height(), letters.height());
       EXPECT_GE(widget.width(), letters.horizontalAdvance(text));

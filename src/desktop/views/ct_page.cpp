@@ -43,7 +43,10 @@ QWidget* Time(CtTab& tab, QWidget* parent) {
 
 CtPage::CtPage(CtTab& tab, QWidget* parent) : QWidget(parent) {
   auto* date = new QGroupBox(this);
-  (new QVBoxLayout(date))->addWidget(new CalendarWidget(tab.Calendar1, date));
+  auto* calendar = new CalendarWidget(tab.Calendar1, date);
+  auto* day = new QVBoxLayout(date);
+  day->addWidget(Heading(QStringLiteral("Date"), calendar));
+  day->addWidget(calendar, 1);
 
   auto* time = new QGroupBox(this);
   QGridLayout* fields = Fields(time);

@@ -8,6 +8,7 @@
 #include "desktop/widgets/brand_header.h"
 #include "desktop/widgets/button_widget.h"
 #include "desktop/widgets/drop_down_widget.h"
+#include "desktop/widgets/label_widget.h"
 #include "desktop/widgets/layout.h"
 #include "desktop/widgets/open_list_widget.h"
 #include "desktop/widgets/style.h"
@@ -66,13 +67,22 @@ QWidget* FilePanel(MainForm& form, QWidget* parent) {
   auto* panel = new QWidget(parent);
   QVBoxLayout* column = Column(panel);
   auto* drives = new DropDownWidget(form.Drive1, panel, TextBox::Content::kFileName);
+  column->addWidget(Heading(QStringLiteral("Drive"), drives));
   column->addWidget(drives);
-  QHBoxLayout* lists = new QHBoxLayout;
+  auto* folders = new DirListWidget(form.Dir1, panel);
+  auto* files = new FileListWidget(form.File1, panel);
+  auto* lists = new QGridLayout;
   lists->setSpacing(kNear);
-  lists->addWidget(new DirListWidget(form.Dir1, panel), 1);
-  lists->addWidget(new FileListWidget(form.File1, panel), 1);
+  lists->addWidget(Heading(QStringLiteral("Folders"), folders), 0, 0);
+  lists->addWidget(Heading(QStringLiteral("Files"), files), 0, 1);
+  lists->addWidget(folders, 1, 0);
+  lists->addWidget(files, 1, 1);
+  lists->setRowStretch(1, 1);
+  for (const int half : {0, 1}) lists->setColumnStretch(half, 1);
   column->addLayout(lists, 1);
-  column->addWidget(new TextBoxWidget(form.Text105, 0, panel));
+  auto* name = new TextBoxWidget(form.Text105, 0, panel);
+  column->addWidget(Heading(QStringLiteral("File name"), name));
+  column->addWidget(name);
   column->addWidget(new StateLine(form.PathLabel, TextBox::Content::kFileName, panel));
   column->addWidget(ButtonRow({&form.NewButton, &form.OpenButton, &form.SaveButton}, panel));
   return panel;

@@ -62,16 +62,18 @@ PiEccLicPage::PiEccLicPage(PiEccLicTab& tab, QWidget* parent) : QWidget(parent) 
   QVBoxLayout* inside = new QVBoxLayout(countries);
   inside->addWidget(list);
 
-  auto* grid = new QGridLayout(this);
-  grid->setContentsMargins(0, kApart, 0, 0);
-  grid->setSpacing(kApart);
-  grid->addWidget(identity, 0, 0, 1, 2);
-  grid->addWidget(extended, 1, 0);
-  grid->addWidget(language, 1, 1);
-  grid->addWidget(countries, 0, 2, 2, 1);
-  grid->setColumnStretch(1, 1);
-  grid->setColumnStretch(2, 1);
-  grid->setRowStretch(0, 1);
+  auto* codes = new QGridLayout;
+  codes->setSpacing(kApart);
+  codes->addWidget(identity, 0, 0, 1, 2);
+  codes->addWidget(extended, 1, 0);
+  codes->addWidget(language, 1, 1);
+  codes->setColumnStretch(1, 1);
+  codes->setRowStretch(0, 1);
+  QHBoxLayout* halves = Row(this);
+  halves->setContentsMargins(0, kApart, 0, 0);
+  halves->setSpacing(kApart);
+  halves->addLayout(codes, 1);
+  halves->addWidget(countries, 1);
 }
 
 }  // namespace corvalis::desktop

@@ -41,7 +41,7 @@ PinPage::PinPage(PinTab& tab, QWidget* parent) : QWidget(parent) {
   new TypeList(tab, *grid);
   ListPage(this, grid,
            {&tab.Command6, &tab.Command23, &tab.Command8, &tab.Command15, &tab.Command7}, {},
-           {SelectedRow(tab.PinSelectedLabel, this)});
+           {SelectedRow(tab.PinSelectedLabel, grid, this)});
 }
 
 }  // namespace corvalis::desktop

@@ -3,7 +3,6 @@
 #include <QGroupBox>
 
 #include "desktop/widgets/grid_widget.h"
-#include "desktop/widgets/label_widget.h"
 #include "desktop/widgets/layout.h"
 #include "desktop/widgets/spinner_widget.h"
 #include "desktop/widgets/style.h"
@@ -19,13 +18,10 @@ QWidget* Pages(PsnTab& tab, QWidget* parent) {
   auto* part = new QWidget(parent);
   QVBoxLayout* column = Column(part);
   auto* page = new QWidget(part);
-  QHBoxLayout* row = Row(page);
-  auto* number = new SpinField(tab.PageNumberText, tab.PageNumberScroll, kRowDigits, page);
-  auto* label = new LabelWidget(tab.Text10, page);
-  label->setBuddy(number);
-  row->addWidget(label);
-  row->addWidget(number);
-  row->addStretch();
+  QGridLayout* fields = Fields(page);
+  fields->setContentsMargins(0, 0, 0, 0);
+  AddField(*fields, tab.Text10,
+           new SpinField(tab.PageNumberText, tab.PageNumberScroll, kRowDigits, page));
   column->addWidget(page);
   column->addWidget(ButtonColumn(
       {&tab.ReadPsnActiveButton, &tab.SendPsnActiveButton, &tab.SendPsnActiveBurstButton}, part));
@@ -49,7 +45,8 @@ PsnPage::PsnPage(PsnTab& tab, QWidget* parent) : QWidget(parent) {
   auto* list = new QWidget(this);
   QHBoxLayout* halves = Row(list);
   halves->setSpacing(kApart);
-  halves->addWidget(new GridWidget(tab.DBGrid1, list, QStringLiteral("PSN")), 1);
+  auto* grid = new GridWidget(tab.DBGrid1, list, QStringLiteral("PSN"));
+  halves->addWidget(grid, 1);
   auto* side = new QWidget(list);
   QVBoxLayout* column = Column(side);
   column->setSpacing(kApart);
@@ -59,7 +56,7 @@ PsnPage::PsnPage(PsnTab& tab, QWidget* parent) : QWidget(parent) {
   halves->addWidget(side);
   ListPage(this, list,
            {&tab.Command19, &tab.Command20, &tab.Command17, &tab.Command16, &tab.Command18}, {},
-           {SelectedRow(tab.PsnSelectedLabel, this)});
+           {SelectedRow(tab.PsnSelectedLabel, grid, this)});
 }
 
 }  // namespace corvalis::desktop

@@ -6,10 +6,11 @@
 namespace corvalis::desktop {
 
 PsnPlanPage::PsnPlanPage(PsnPlanTab& tab, QWidget* parent) : QWidget(parent) {
-  ListPage(this, new GridWidget(tab.PsnPlanDBGrid, this, QStringLiteral("PSN plan")),
+  auto* grid = new GridWidget(tab.PsnPlanDBGrid, this, QStringLiteral("PSN plan"));
+  ListPage(this, grid,
            {&tab.ReadPlanCommand, &tab.ReadAllPlanCommand, &tab.SendPlanCommand,
             &tab.SendAllPlanCommand, &tab.SendBurstPlanCommand},
-           {}, {SelectedRow(tab.PlanSelectedLabel, this)});
+           {}, {SelectedRow(tab.PlanSelectedLabel, grid, this)});
 }
 
 }  // namespace corvalis::desktop

@@ -38,14 +38,6 @@ LabelledGroup* Lists(const Field& first, std::initializer_list<Field> others, QW
   return group;
 }
 
-// A word that is the same in every language, above the box that it names.
-QLabel* Heading(const QString& word, QWidget* box) {
-  box->setAccessibleName(word);
-  QLabel* heading = QuietText(word, box->parentWidget());
-  heading->setBuddy(box);
-  return heading;
-}
-
 // From top to bottom as a call goes: the number, Hook, what the modem says, Hang up. The dialogue
 // stands between the two buttons also for the keyboard, which moves on to it once Hook is done.
 QWidget* Modem(RS232CForm& form, QWidget* parent) {

@@ -7,11 +7,12 @@
 namespace corvalis::desktop {
 
 RtPage::RtPage(RtTab& tab, QWidget* parent) : QWidget(parent) {
-  QWidget* below = SelectedRow(tab.RtSelectedLabel, this);
+  auto* grid = new GridWidget(tab.DBGrid3, this, QStringLiteral("RT"));
+  QWidget* below = SelectedRow(tab.RtSelectedLabel, grid, this);
   auto* count = new LabelWidget(tab.RtCountLabel, below);
   count->setAccessibleName(QStringLiteral("Characters"));
   static_cast<QHBoxLayout*>(below->layout())->addWidget(count);
-  ListPage(this, new GridWidget(tab.DBGrid3, this, QStringLiteral("RT")),
+  ListPage(this, grid,
            {&tab.Command9, &tab.Command22, &tab.Command14, &tab.Command21, &tab.Command10}, {},
            {below});
 }

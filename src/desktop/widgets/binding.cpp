@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "desktop/text.h"
+#include "desktop/widgets/mnemonics.h"
 #include "screen/control.h"
 #include "screen/window.h"
 
@@ -27,7 +28,7 @@ void Bind(QWidget& widget, Control& control, std::function<void()> draw) {
     const QString tip = PlainTip(FromBytes(control.ToolTip()));
     if (guard->toolTip() != tip) guard->setToolTip(tip);
     guard->setEnabled(control.Enabled());
-    if (guard->isHidden() == control.Visible()) guard->setVisible(control.Visible());
+    ShowOrHide(*guard, control.Visible());
     draw();
   };
   control.Drawn();

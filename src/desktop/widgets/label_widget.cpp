@@ -46,4 +46,11 @@ QLabel* QuietText(const QString& text, QWidget* parent) {
   return label;
 }
 
+QLabel* Heading(const QString& word, QWidget* box) {
+  if (box->accessibleName().isEmpty()) box->setAccessibleName(word);
+  QLabel* heading = QuietText(word, box->parentWidget());
+  heading->setBuddy(box);
+  return heading;
+}
+
 }  // namespace corvalis::desktop

@@ -39,4 +39,7 @@ class LabelledGroup : public QGroupBox, public Naming {
 /// A word or two that explain, beside or above what counts; the same in every language.
 [[nodiscard]] QLabel* QuietText(const QString& text, QWidget* parent);
 
+/// The same beside or above `box`, which it leads to and, if nothing else does, names.
+[[nodiscard]] QLabel* Heading(const QString& word, QWidget* box);
+
 }  // namespace corvalis::desktop

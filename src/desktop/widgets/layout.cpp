@@ -92,10 +92,11 @@ QWidget* ButtonRow(std::initializer_list<Button*> buttons, QWidget* parent) {
   return group;
 }
 
-QWidget* SelectedRow(Label& row, QWidget* parent) {
+QWidget* SelectedRow(Label& row, QWidget* list, QWidget* parent) {
   auto* part = new QWidget(parent);
   QHBoxLayout* line = Row(part);
-  auto* word = new QLabel(QStringLiteral("Row"), part);
+  auto* word = new QLabel(QStringLiteral("Current row"), part);
+  word->setBuddy(list);
   auto* name = new LabelWidget(row, part);
   name->setFont(Bold(name->font()));
   line->addWidget(word);

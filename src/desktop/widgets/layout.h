@@ -36,8 +36,8 @@ void AddLine(QGridLayout& fields, QWidget* line);
 /// The same for a code that stands on its own and is read digit by digit.
 [[nodiscard]] QLineEdit* CodeBox(TextBox& box, int columns, QWidget* parent);
 
-/// Names the row of a list that its buttons for one row are about.
-[[nodiscard]] QWidget* SelectedRow(Label& row, QWidget* parent);
+/// Names the row of `list` that its buttons for one row are about, and leads to the list.
+[[nodiscard]] QWidget* SelectedRow(Label& row, QWidget* list, QWidget* parent);
 
 /// A row of buttons of equal width, from the left. Hidden ones take no room.
 [[nodiscard]] QWidget* ButtonRow(std::initializer_list<Button*> buttons, QWidget* parent);

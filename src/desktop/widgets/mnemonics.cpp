@@ -48,12 +48,23 @@ struct Place {
   }
 };
 
-/// The fields of a group, in their order.
+/// True if a label leads to `field`.
+bool Labelled(const QWidget& field) {
+  const auto labels = field.window()->findChildren<QLabel*>();
+  return std::any_of(labels.begin(), labels.end(), [&field](const QLabel* label) {
+    const QWidget* buddy = label->buddy();
+    return buddy != nullptr && (buddy == &field || buddy->focusProxy() == &field);
+  });
+}
+
+/// The fields of a group that have no caption of their own, in their order.
 std::vector<QWidget*> Fields(const QWidget& group) {
   std::vector<QWidget*> fields;
   for (auto* widget : group.findChildren<QWidget*>()) {
+    if (widget->window() != group.window()) continue;  // a list that drops down
     if ((widget->focusPolicy() & Qt::TabFocus) == 0 || widget->focusProxy() != nullptr) continue;
-    if (widget->isEnabled() && !widget->isHidden()) fields.push_back(widget);
+    if (qobject_cast<QAbstractButton*>(widget) != nullptr || Labelled(*widget)) continue;
+    fields.push_back(widget);
   }
   return fields;
 }
@@ -71,16 +82,19 @@ QString CaptionOf(const QWidget& widget) {
 void Collect(QWidget* widget, std::vector<Place>& places) {
   if (auto* bar = qobject_cast<QTabBar*>(widget)) {
     for (int tab = 0; tab < bar->count(); ++tab) {
+      if (!bar->isTabVisible(tab)) continue;
       places.push_back({Kind::kTab, widget, tab, PlainCaption(bar->tabText(tab))});
     }
     return;
   }
   const QString caption = CaptionOf(*widget);
-  if (caption.isEmpty()) return;
+  // One that no one has shown yet comes up with its window.
+  const bool hidden = widget->isHidden() && widget->testAttribute(Qt::WA_WState_ExplicitShowHide);
+  if (caption.isEmpty() || hidden) return;
   if (const auto* label = qobject_cast<QLabel*>(widget)) {
     if (label->buddy() != nullptr) places.push_back({Kind::kLabel, widget, 0, caption});
   } else if (qobject_cast<QGroupBox*>(widget) != nullptr) {
-    places.push_back({Kind::kGroup, widget, 0, caption});
+    if (!Fields(*widget).empty()) places.push_back({Kind::kGroup, widget, 0, caption});
   } else if (qobject_cast<QAbstractButton*>(widget) != nullptr) {
     const bool box = qobject_cast<QCheckBox*>(widget) != nullptr;
     places.push_back({box ? Kind::kCheckBox : Kind::kButton, widget, 0, caption});
@@ -202,12 +216,23 @@ const Place* Struck(const std::vector<Place>& places, const QKeyEvent& event) {
 }
 
 void MoveInto(const QWidget& group) {
-  const std::vector<QWidget*> fields = Fields(group);
+  std::vector<QWidget*> fields = Fields(group);
+  std::erase_if(fields,
+                [](const QWidget* field) { return !field->isEnabled() || !field->isVisible(); });
   if (fields.empty()) return;
   const auto has = std::find_if(fields.begin(), fields.end(),
                                 [](const QWidget* field) { return field->hasFocus(); });
   const bool last = has == fields.end() || has + 1 == fields.end();
   (last ? fields.front() : *(has + 1))->setFocus(Qt::ShortcutFocusReason);
+}
+
+}  // namespace
+
+namespace {
+
+void AskForMnemonics(const QWidget& widget) {
+  QCoreApplication::postEvent(widget.window(),
+                              new QEvent(static_cast<QEvent::Type>(MnemonicsEvent())));
 }
 
 }  // namespace
@@ -227,8 +252,13 @@ void ShowCaption(QWidget& widget, const QString& caption) {
     const bool group = qobject_cast<QGroupBox*>(&widget) != nullptr;
     widget.setProperty(group ? "title" : "text", EscapedCaption(caption));
   }
-  QCoreApplication::postEvent(widget.window(),
-                              new QEvent(static_cast<QEvent::Type>(MnemonicsEvent())));
+  AskForMnemonics(widget);
+}
+
+void ShowOrHide(QWidget& widget, bool visible) {
+  if (widget.isHidden() != visible) return;
+  widget.setVisible(visible);
+  AskForMnemonics(widget);
 }
 
 QString EscapedCaption(const QString& caption) {

@@ -9,13 +9,16 @@ namespace corvalis::desktop {
 
 /// Mnemonics: Alt with a letter or digit of a caption presses the button, turns to the tab or
 /// moves to the field that the caption belongs to (a label to its buddy, the title of a group to
-/// the group's fields, one after the other). Each window gives them out by itself, from the
-/// captions alone, so they stay where they are as long as the captions do. They are unique among
-/// what can be seen at one time: pages of tabs may use the same letter.
+/// those of its fields that have neither, one after the other). Each window gives them out by
+/// itself, from the captions that are not hidden, so they stay where they are as long as those do.
+/// They are unique among what can be seen at one time: pages of tabs may use the same letter.
 
 /// Shows `caption` on a button, a check box, a label or a group, as it stands, and has the window
 /// give out its mnemonics anew (a `MnemonicsEvent` to it) if the caption is another one.
 void ShowCaption(QWidget& widget, const QString& caption);
+
+/// Shows or hides `widget`, and has the window give out its mnemonics anew.
+void ShowOrHide(QWidget& widget, bool visible);
 
 /// A text that shows `caption` as it stands, without a mnemonic.
 [[nodiscard]] QString EscapedCaption(const QString& caption);

@@ -8,11 +8,13 @@
 #include <QScopedValueRollback>
 #include <QWindow>
 #include <algorithm>
+#include <utility>
 
 #include "desktop/text.h"
 #include "desktop/widgets/binding.h"
 #include "desktop/widgets/front_window.h"
 #include "desktop/widgets/mnemonics.h"
+#include "desktop/widgets/reading_order.h"
 #include "desktop/widgets/style.h"
 #include "screen/control.h"
 #include "screen/timer.h"
@@ -26,6 +28,8 @@ constexpr int kVeilDelayMs = 400;  // what is busy for less does not flicker
 constexpr int kVeilAlpha = 120;
 // A timer that is faster than the eye fires several times in a row, so that a wait stays cheap.
 constexpr int kFrameMs = 40;
+// An ESC that comes so soon after a transfer was meant for the transfer.
+constexpr int kEscapeMs = 1000;
 
 /// Pales a window that takes no input, without a change in the controls themselves.
 class Veil : public QWidget {
@@ -89,6 +93,7 @@ void WindowView::HandOver() {
 
 bool WindowView::ClosesOnEscape(const QWidget& focus) const {
   if (!TakesInput() || !model_->Modal() || focus.window() != this) return false;
+  if (since_busy_.isValid() && !since_busy_.hasExpired(kEscapeMs)) return false;
   for (const QWidget* part = focus.parentWidget(); part != nullptr; part = part->parentWidget()) {
     if (qobject_cast<const QAbstractItemView*>(part) != nullptr) return false;
   }
@@ -112,6 +117,7 @@ void WindowView::Present(QWidget* owner) {
     }
   }
   if (!isVisible()) {
+    SetReadingOrder(*this);
     // A screen that opens anew starts at its first control.
     if (model_->Focus() == nullptr && focusWidget() != nullptr) focusWidget()->clearFocus();
     if (owner != nullptr) PlaceBefore(*owner);
@@ -149,7 +155,9 @@ void WindowView::Draw() {
   if (windowTitle() != title) setWindowTitle(title);
   if (!model_->Visible()) TakeDown();
   RunTimers();
-  if (model_->Enabled()) {
+  const bool was_enabled = std::exchange(enabled_, model_->Enabled());
+  if (enabled_ && !was_enabled) since_busy_.start();
+  if (enabled_) {
     veil_delay_.stop();
     veil_->hide();
   } else if (!veil_delay_.isActive() && veil_->isHidden()) {

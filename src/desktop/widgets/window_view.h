@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QTimer>
 #include <QWidget>
 #include <map>
@@ -30,8 +31,8 @@ class WindowView : public QWidget {
   /// The window has been activated. A disabled one gives the keyboard to what stands in front of
   /// it.
   void HandOver();
-  /// True if ESC, struck while `focus` has the keyboard, closes the window: a working screen, and
-  /// no cell is open in which ESC is for the cell.
+  /// True if ESC, struck while `focus` has the keyboard, closes the window: a working screen that
+  /// has not been busy a moment ago, and no cell is open in which ESC is for the cell.
   [[nodiscard]] bool ClosesOnEscape(const QWidget& focus) const;
 
  protected:
@@ -56,7 +57,9 @@ class WindowView : public QWidget {
   QWidget* veil_;
   QTimer veil_delay_;
   std::map<Timer*, QTimer*> timers_;
-  bool in_model_ = false;  // the model is moving the focus, or closing
+  bool enabled_ = true;
+  QElapsedTimer since_busy_;  // since the window was enabled again
+  bool in_model_ = false;     // the model is moving the focus, or closing
 };
 
 }  // namespace corvalis::desktop
