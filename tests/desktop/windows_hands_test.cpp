@@ -107,6 +107,7 @@ TEST_F(WindowsHandsTest, WhatStandsInFrontOfADisabledWindowHasTheKeyboard) {
   EXPECT_EQ(LinkError, kErrorAborted);
   // Struck twice in haste, it was meant for the transfer alone.
   static_cast<void>(hand.Window(kStation));
+  LetGo(kStation, Qt::Key_Escape);
   Strike(kStation, Qt::Key_Escape);
   QApplication::processEvents();
   EXPECT_NE(OnScreen(kStation), nullptr);
