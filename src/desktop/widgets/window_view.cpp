@@ -6,6 +6,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
+#include <QScreen>
 #include <QWindow>
 #include <algorithm>
 #include <utility>
@@ -134,7 +135,11 @@ void WindowView::PlaceBefore(QWidget& owner) {
                  Qt::WindowCloseButtonHint);
   winId();  // a window of the system must be there to be tied to the owner's
   windowHandle()->setTransientParent(owner.window()->windowHandle());
-  adjustSize();
+  // Not adjustSize(), which takes two thirds of a screen at most and cuts lists off on a small one.
+  ensurePolished();
+  QSize size = sizeHint().boundedTo(screen()->availableSize());
+  if (hasHeightForWidth()) size.setHeight(heightForWidth(size.width()));
+  resize(size);
   move(PlaceOver(owner.frameGeometry()));
 }
 
