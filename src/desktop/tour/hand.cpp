@@ -11,6 +11,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabBar>
+#include <QTableView>
 #include <QTest>
 #include <stdexcept>
 
@@ -39,6 +40,18 @@ void ClickEntry(QAbstractItemView& view, const QString& text) {
     return;
   }
   Fail("The list has no entry " + text + ".");
+}
+
+QTabBar& TabsOf(const QWidget& window) {
+  auto* tabs = window.findChild<QTabBar*>();
+  if (tabs == nullptr) Fail(window.objectName() + " has no tabs.");
+  return *tabs;
+}
+
+QTableView& GridOf(QWidget& widget) {
+  auto* table = qobject_cast<QTableView*>(&widget);
+  if (table == nullptr) Fail(widget.objectName() + " is no grid.");
+  return *table;
 }
 
 }  // namespace
@@ -104,9 +117,39 @@ void Hand::StepDown(const QString& window, const QString& spinner) const {
 }
 
 void Hand::TurnToTab(const QString& window, int tab) const {
-  auto* tabs = Window(window).findChild<QTabBar*>();
-  if (tabs == nullptr) Fail(window + " has no tabs.");
-  QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(tab).center());
+  QTabBar& tabs = TabsOf(Window(window));
+  QTest::mouseClick(&tabs, Qt::LeftButton, {}, tabs.tabRect(tab).center());
+}
+
+void Hand::TurnToTab(const QString& window, const QString& caption) const {
+  const QTabBar& tabs = TabsOf(Window(window));
+  for (int tab = 0; tab < tabs.count(); ++tab) {
+    if (!tabs.isTabVisible(tab) || PlainCaption(tabs.tabText(tab)) != caption) continue;
+    return TurnToTab(window, tab);
+  }
+  Fail(window + " shows no tab " + caption + ".");
+}
+
+void Hand::GoToCell(const QString& window, const QString& grid, int row, int column) const {
+  QTableView& table = GridOf(Control(window, grid));
+  if (!table.hasFocus() && table.isAncestorOf(QApplication::focusWidget())) {
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);  // the open cell is left
+  }
+  table.setFocus(Qt::TabFocusReason);
+  QTest::keyClick(&table, Qt::Key_Home, Qt::ControlModifier);
+  for (int i = 0; i < row; ++i) QTest::keyClick(&table, Qt::Key_Down);
+  for (int i = 0; i < column; ++i) QTest::keyClick(&table, Qt::Key_Right);
+  if (table.currentIndex() != table.model()->index(row, column)) {
+    Fail(grid + " does not go to its cell.");
+  }
+}
+
+void Hand::Strike(const QString& keys) const {
+  for (const QChar key : keys) {
+    QWidget* widget = QApplication::focusWidget();
+    if (widget == nullptr) Fail("The keyboard is nowhere.");
+    QTest::keyClick(widget, key.toLatin1());
+  }
 }
 
 void Hand::Close(const QString& window) const {
@@ -127,10 +170,16 @@ QString Hand::Shown(const QString& window, const QString& control) const {
   Fail(control + " shows no text.");
 }
 
+QString Hand::ShownCell(const QString& window, const QString& grid, int row, int column) const {
+  return GridOf(Control(window, grid)).model()->index(row, column).data().toString();
+}
+
 void Hand::Picture(const QString& window, const QString& file) const {
   QApplication::processEvents();
-  if (QWidget* shown = Visible(window)) shown->grab().save(PathOf(file));
+  if (QWidget* shown = Visible(window)) Picture(*shown, file);
 }
+
+void Hand::Picture(QWidget& shown, const QString& file) const { shown.grab().save(PathOf(file)); }
 
 bool Hand::PictureOnce(const QString& window, const QString& file) const {
   if (QFile::exists(PathOf(file))) return true;

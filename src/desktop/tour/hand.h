@@ -26,13 +26,23 @@ class Hand {
   void StepUp(const QString& window, const QString& spinner) const;
   void StepDown(const QString& window, const QString& spinner) const;
   void TurnToTab(const QString& window, int tab) const;
+  void TurnToTab(const QString& window, const QString& caption) const;
+  /// Makes a cell of a grid the current one, with the keyboard. Rows and columns count from 0.
+  void GoToCell(const QString& window, const QString& grid, int row, int column) const;
+  /// Keys for whatever has the keyboard, one by one.
+  void Strike(const QString& keys) const;
   void Close(const QString& window) const;
 
   /// What a box, a list or a button shows.
   [[nodiscard]] QString Shown(const QString& window, const QString& control) const;
 
+  /// What a cell of a grid shows.
+  [[nodiscard]] QString ShownCell(const QString& window, const QString& grid, int row,
+                                  int column) const;
+
   /// A picture of a window, as `file`.png. The window need not be there: then there is none.
   void Picture(const QString& window, const QString& file) const;
+  void Picture(QWidget& shown, const QString& file) const;
   /// The same for a window that is there for moments only; true once there is a picture.
   bool PictureOnce(const QString& window, const QString& file) const;
 

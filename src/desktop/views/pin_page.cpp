@@ -1,5 +1,8 @@
 #include "desktop/views/pin_page.h"
 
+#include <QKeyEvent>
+#include <algorithm>
+
 #include "desktop/widgets/drop_down_widget.h"
 #include "desktop/widgets/grid_widget.h"
 #include "desktop/widgets/layout.h"
@@ -23,10 +26,25 @@ class TypeList : public DropDownWidget {
     Place();
     DropDownWidget::showEvent(event);
   }
+  void keyPressEvent(QKeyEvent* event) override {
+    // What stands in the cell stays until an entry of the open list is chosen.
+    const auto opening = {Qt::Key_Up, Qt::Key_Down, Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter};
+    if (std::find(opening.begin(), opening.end(), event->key()) != opening.end()) {
+      showPopup();
+    } else {
+      DropDownWidget::keyPressEvent(event);
+    }
+  }
+  /// The table is the only way out; it would take this for its own Tab key and move.
+  bool focusNextPrevChild(bool /*next*/) override {
+    grid_.setFocus(Qt::OtherFocusReason);
+    return true;
+  }
 
  private:
   void Place() {
-    setGeometry(grid_.CellRect(tab_.DBGrid4.Row(), PinTab::kTypeColumn));
+    const QRect cell = grid_.CellRect(tab_.DBGrid4.Row(), PinTab::kTypeColumn);
+    setGeometry(cell.translated(-grid_.viewport()->pos()));
     raise();
   }
 
