@@ -14,24 +14,27 @@ const QString kMemory = QStringLiteral("memory\n");
 const QString kEndOfMemory = QStringLiteral("end of memory\n");
 }  // namespace
 
-CoderEye::CoderEye(QString log, int pid) : log_(std::move(log)), pid_(pid) {}
+CoderEye::CoderEye(QString log, int pid) : path_(std::move(log)), pid_(pid) {}
 
-QString CoderEye::Log() const {
-  QFile file(log_);
-  if (!file.open(QIODevice::ReadOnly)) return {};
-  return QString::fromUtf8(file.readAll());
+const QString& CoderEye::Log() {
+  QFile file(path_);
+  if (file.open(QIODevice::ReadOnly) && file.seek(log_.size())) {
+    log_ += QString::fromLatin1(file.readAll());  // a character for each byte
+  }
+  return log_;
 }
 
 QStringList CoderEye::Arrived() {
-  const QString log = Log();
+  const QString news = Log().mid(told_);
+  told_ += news.lastIndexOf(u'\n') + 1;  // what is being written comes at the next look
   QStringList lines;
   bool memory = false;
-  for (const QString& line : log.mid(read_).split(u'\n', Qt::SkipEmptyParts)) {
+  for (const QString& line :
+       news.left(news.lastIndexOf(u'\n') + 1).split(u'\n', Qt::SkipEmptyParts)) {
     if (line + u'\n' == kMemory) memory = true;
     if (!memory && !line.startsWith(QStringLiteral("ready"))) lines << line;
     if (line + u'\n' == kEndOfMemory) memory = false;
   }
-  read_ = log.size();
   return lines;
 }
 
@@ -43,7 +46,7 @@ QMap<QString, QString> CoderEye::Memory() {
     if (patience.hasExpired()) throw std::runtime_error("The Coder does not show its memory.");
     QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
   }
-  const QString log = Log();
+  const QString& log = Log();
   QMap<QString, QString> items;
   for (const QString& line : log.mid(log.lastIndexOf(u'\n' + kMemory)).split(u'\n')) {
     const qsizetype colon = line.indexOf(QStringLiteral(": "));

@@ -19,11 +19,13 @@ class CoderEye {
   [[nodiscard]] QMap<QString, QString> Memory();
 
  private:
-  [[nodiscard]] QString Log() const;
+  /// All that has been printed so far.
+  const QString& Log();
 
-  QString log_;
+  QString path_;
   int pid_;
-  qsizetype read_ = 0;
+  QString log_;
+  qsizetype told_ = 0;  // of it, by Arrived
 };
 
 }  // namespace corvalis::desktop

@@ -24,7 +24,7 @@ int main(int argc, char** argv) {
   int result = 1;
   QTimer::singleShot(0, [&] {
     result = corvalis::desktop::Tour(words[1], words[2], words[3].toInt()).Run();
-    QApplication::quit();
+    QApplication::exit();  // whatever window still stands
   });
   QApplication::exec();
   return result;

@@ -1,7 +1,8 @@
 #pragma once
 
-#include <QMap>
 #include <QString>
+#include <QStringList>
+#include <vector>
 
 #include "desktop/tour/coder_eye.h"
 #include "desktop/tour/hand.h"
@@ -20,25 +21,50 @@ class Tour {
   int Run();
 
  private:
-  void OpenStation();
-  void Identity();
-  void ClockTime();
-  void TpAndDi();
-  void OnAir();
-  void Groups();
-  void Save();
-  void Setup();
-  void Language();
+  /// What is done, and up to three words for it. A control is one of the window that was entered
+  /// last; "grid row column" is a cell, counted from 0.
+  struct Step {
+    void (Tour::*act)(const Step& step);
+    const char* on = "";
+    const char* with = "";
+    const char* gives = "";
+  };
+  static const std::vector<Step>& Steps();
+
+  void Title(const Step& step);    ///< says what comes
+  void Enter(const Step& step);    ///< presses a button of the main menu; a window comes up
+  void Leave(const Step& step);    ///< closes it
+  void Tab(const Step& step);      ///< turns to a tab, by its caption
+  void Press(const Step& step);    ///< presses a button
+  void Choose(const Step& step);   ///< chooses from a list
+  void Type(const Step& step);     ///< types into a box, or into a cell, which stays open
+  void GoTo(const Step& step);     ///< goes to a cell
+  void Up(const Step& step);       ///< steps up
+  void Down(const Step& step);     ///< steps down
+  void Send(const Step& step);     ///< presses a button; an item of the Coder then holds a text
+  void Read(const Step& step);     ///< presses a button; a control then shows a text
+  void Shows(const Step& step);    ///< a control shows a text
+  void Refused(const Step& step);  ///< presses a button; a box comes up, and nothing is sent
+  void Burst(const Step& step);    ///< presses a button; a line arrives so many times
+  void Picture(const Step& step);  ///< takes a picture
+
+  void SendClock(const Step& step);
+  void MoveLine(const Step& step);
 
   void Say(const QString& text) const;
-  /// Prints what arrived since the last step.
-  void Arrived();
+  /// Prints what arrived since the last look, a long run of like lines by its ends, and tells it.
+  QStringList Arrived();
   /// Holds what the Coder has, or a screen shows, against what it should be.
   void Expect(const QString& what, const QString& is, const QString& should_be);
   void ExpectHeld(const QString& item, const QString& should_be);
+  [[nodiscard]] QString Shown(const QString& control) const;
+  /// Says what boxes came up that nobody expected.
+  void TellBoxes();
 
   Hand hand_;
   CoderEye coder_;
+  QString window_;
+  QStringList boxes_;  ///< that came up, and were answered
   int disagreements_ = 0;
 };
 
