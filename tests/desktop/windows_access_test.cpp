@@ -10,12 +10,15 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTabBar>
+#include <QTableView>
+#include <QTest>
 #include <set>
 #include <utility>
 
 #include "config/config_data.h"
 #include "desktop/running_program.h"
 #include "desktop/widgets/mnemonics.h"
+#include "programme/pin_tab.h"
 
 namespace corvalis::test {
 namespace {
@@ -32,7 +35,7 @@ QString Said(QWidget& widget, QAccessible::Text what) {
   // A list that drops down is called by its label, and its own name is what it shows.
   if (what == QAccessible::Name && spoken->role() == QAccessible::ComboBox) {
     const auto labels = spoken->relations(QAccessible::Label);
-    if (!labels.isEmpty()) return labels.first().first->text(what);
+    return labels.isEmpty() ? QString() : labels.first().first->text(what);
   }
   return spoken->text(what);
 }
@@ -140,6 +143,14 @@ TEST_F(WindowsAccessTest, EveryStateIsInWords) {
   expect(kGroups, "Text1(18)", "Group 2B, repetitions", "001");
   expect(kGroups, "PercentBar(2)", "Share of group 2", "75");
   hand.Close(kGroups);
+
+  hand.Click(kMain, "PsnRtPinAfButton");
+  hand.TurnToTab(kTexts, 3);
+  auto& items = dynamic_cast<QTableView&>(hand.Control(kTexts, "DBGrid4"));
+  const QModelIndex type = items.model()->index(0, PinTab::kTypeColumn);
+  QTest::mouseClick(items.viewport(), Qt::LeftButton, {}, items.visualRect(type).center());
+  EXPECT_EQ(Said(hand.Control(kTexts, "Combo1"), QAccessible::Name).toStdString(), "Type");
+  hand.Close(kTexts);
 
   OpenIdentity();
   hand.StepUp(kStation, "VScroll3");

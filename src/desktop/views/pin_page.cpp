@@ -1,6 +1,7 @@
 #include "desktop/views/pin_page.h"
 
 #include <QKeyEvent>
+#include <QLabel>
 #include <algorithm>
 
 #include "desktop/widgets/drop_down_widget.h"
@@ -16,7 +17,10 @@ class TypeList : public DropDownWidget {
  public:
   TypeList(PinTab& tab, GridWidget& grid)
       : DropDownWidget(tab.Combo1, grid.viewport()), tab_(tab), grid_(grid) {
-    setAccessibleName(QStringLiteral("Type"));
+    // A list is called by its label, be it seen or not.
+    auto* label = new QLabel(QStringLiteral("Type"), grid.viewport());
+    label->setBuddy(this);
+    label->hide();
     grid_.Arranged = [this] { Place(); };
     Place();
   }
