@@ -12,6 +12,8 @@
 #include <QTabBar>
 #include <QTableView>
 #include <QTest>
+#include <fstream>
+#include <iterator>
 #include <set>
 #include <utility>
 
@@ -44,11 +46,17 @@ class WindowsAccessTest : public RunningProgram {
  protected:
   ~WindowsAccessTest() override { QApplication::setFont(font_); }
 
-  // Hands each window to `look`, page by page.
+  // Hands each window to `look`, page by page, in both languages.
   void ForEachPage(const std::function<void(QWidget&)>& look) {
-    for (const char* method_a : {"On", "Off"}) {
-      SCOPED_TRACE(method_a);
-      StartWithCoder({"--open"}, std::string(kGroupsFile) + "AF Method A=" + method_a + "\n");
+    std::ifstream german(CORVALIS_EXAMPLES "/German.ini", std::ios::binary);
+    const std::string texts(std::istreambuf_iterator<char>(german), {});
+    ASSERT_FALSE(texts.empty());
+    for (const char* rest : {"",
+                             "AF Method A=Off\n[Language]\nDefault=1\nName0=English\n"
+                             "Name1=Deutsch\nFileName1=German.ini\n"}) {
+      SCOPED_TRACE(rest);
+      WriteFile("German.ini", texts);
+      StartWithCoder({"--open"}, std::string(kGroupsFile) + rest);
       LookThrough(look);
     }
   }

@@ -42,16 +42,14 @@ PiEccLicPage::PiEccLicPage(PiEccLicTab& tab, QWidget* parent) : QWidget(parent) 
   auto* extended = new LabelledGroup(tab.EccLabel, this);
   QGridLayout* ecc = Fields(extended);
   QLineEdit* country_code = CodeBox(tab.EccText, kEccColumns, extended);
+  AddField(*ecc, QStringLiteral("Country code"), country_code);
   extended->Name(country_code);
-  AddLine(*ecc, country_code);
   AddLine(*ecc, ButtonRow({&tab.ReadEccCommand, &tab.SendEccCommand, &tab.SendEccBurstCommand},
                           extended));
 
   auto* language = new LabelledGroup(tab.LicLabel, this);
   QGridLayout* lic = Fields(language);
-  auto* languages = new DropDownWidget(tab.LicCombo, language);
-  language->Name(languages);
-  AddLine(*lic, languages);
+  AddField(*lic, QStringLiteral("Language"), new DropDownWidget(tab.LicCombo, language));
   AddLine(*lic, ButtonRow({&tab.ReadLicCommand, &tab.SendLicCommand, &tab.SendLicBurstCommand},
                           language));
 
