@@ -51,9 +51,10 @@ class WindowsAccessTest : public RunningProgram {
     std::ifstream german(CORVALIS_EXAMPLES "/German.ini", std::ios::binary);
     const std::string texts(std::istreambuf_iterator<char>(german), {});
     ASSERT_FALSE(texts.empty());
-    for (const char* rest : {"",
-                             "AF Method A=Off\n[Language]\nDefault=1\nName0=English\n"
-                             "Name1=Deutsch\nFileName1=German.ini\n"}) {
+    for (const char* rest :
+         {"",
+          "AF Method A=Off\n[Language]\nDefault=1\nName0=English\nFileName0=English.ini\n"
+          "Name1=Deutsch\nFileName1=German.ini\n"}) {
       SCOPED_TRACE(rest);
       WriteFile("German.ini", texts);
       StartWithCoder({"--open"}, std::string(kGroupsFile) + rest);

@@ -9,7 +9,7 @@ namespace corvalis::desktop {
 
 namespace {
 
-constexpr int kColumns = 5;
+constexpr int kInLine = 5;
 constexpr int kCharacters = 7;
 
 }  // namespace
@@ -20,24 +20,17 @@ AfAPage::AfAPage(AfATab& tab, QWidget* parent) : QWidget(parent) {
   grid->setHorizontalSpacing(kNear);
   grid->setVerticalSpacing(kNear);
   for (int i = 0; i < kAfEntries; ++i) {
-    const int row = i / kColumns;
-    const int column = i % kColumns * 3;
-    QLabel* number = QuietText(QString::number(i + 1), group);
-    number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    grid->addWidget(number, row, column);
-    QLineEdit* box = FixedBox(tab.Text39[i], kCharacters, group);
-    box->setAccessibleName(QStringLiteral("Frequency %1").arg(i + 1));
-    grid->addWidget(box, row, column + 1);
-    grid->setColumnStretch(column + 2, 1);
+    AddNumbered(*grid, i + 1, kInLine, QStringLiteral("Frequency"),
+                FixedBox(tab.Text39[i], kCharacters, group));
   }
   QLabel* note = QuietText(
       QStringLiteral("FM in MHz, LF and MF in kHz, 0 for none. A frequency between the 100 kHz "
                      "steps, on LF or on MF takes two places: it closes a box at the end."),
       group);
   note->setWordWrap(true);
-  grid->addWidget(note, grid->rowCount(), 0, 1, 3 * kColumns);
+  grid->addWidget(note, grid->rowCount(), 0, 1, kNumberedColumns * kInLine);
   grid->addWidget(new BandStripWidget(tab.AfABandStrip, group), grid->rowCount(), 0, 1,
-                  3 * kColumns);
+                  kNumberedColumns * kInLine);
   grid->setRowStretch(grid->rowCount(), 1);
   ListPage(this, group, {&tab.Command13, &tab.Command11, &tab.Command12});
 }

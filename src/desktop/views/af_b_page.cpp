@@ -11,7 +11,7 @@ namespace corvalis::desktop {
 
 namespace {
 
-constexpr int kColumns = 6;
+constexpr int kInLine = 6;
 constexpr int kCharacters = 5;
 constexpr int kNumberDigits = 3;
 
@@ -21,18 +21,11 @@ QWidget* Alternatives(AfBTab& tab, QWidget* parent) {
   grid->setHorizontalSpacing(kNear);
   grid->setVerticalSpacing(kNear);
   for (int i = 1; i < AfBTab::kBoxes; ++i) {
-    const int row = (i - 1) / kColumns;
-    const int column = (i - 1) % kColumns * 3;
-    QLabel* number = QuietText(QString::number(i), group);
-    number->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    grid->addWidget(number, row, column);
-    QLineEdit* box = FixedBox(tab.Text2[i], kCharacters, group);
-    box->setAccessibleName(QStringLiteral("Alternative frequency %1").arg(i));
-    grid->addWidget(box, row, column + 1);
-    grid->setColumnStretch(column + 2, 1);
+    AddNumbered(*grid, i, kInLine, QStringLiteral("Alternative frequency"),
+                FixedBox(tab.Text2[i], kCharacters, group));
   }
   grid->addWidget(new BandStripWidget(tab.AfBBandStrip, group), grid->rowCount(), 0, 1,
-                  3 * kColumns);
+                  kNumberedColumns * kInLine);
   return group;
 }
 

@@ -66,6 +66,17 @@ void AddField(QGridLayout& fields, const QString& word, QWidget* field) {
   box->setAccessibleName(word);
 }
 
+void AddNumbered(QGridLayout& grid, int number, int in_line, const QString& name, QWidget* box) {
+  const int row = (number - 1) / in_line;
+  const int column = (number - 1) % in_line * kNumberedColumns;
+  QLabel* word = QuietText(QString::number(number), box->parentWidget());
+  word->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  grid.addWidget(word, row, column);
+  grid.addWidget(box, row, column + 1);
+  grid.setColumnStretch(column + 2, 1);
+  box->setAccessibleName(name + QStringLiteral(" %1").arg(number));
+}
+
 void AddLine(QGridLayout& fields, QWidget* line) {
   fields.addWidget(line, fields.rowCount(), 0, 1, 2);
 }
@@ -77,10 +88,9 @@ QLineEdit* FixedBox(TextBox& box, int columns, QWidget* parent) {
 }
 
 QLineEdit* CodeBox(TextBox& box, int columns, QWidget* parent) {
-  auto* widget = new TextBoxWidget(box, columns, parent);
+  QLineEdit* widget = FixedBox(box, columns, parent);
   widget->setFont(DigitsFont());
   widget->setAlignment(Qt::AlignHCenter);
-  widget->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
   return widget;
 }
 

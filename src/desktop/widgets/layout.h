@@ -28,6 +28,10 @@ namespace corvalis::desktop {
 void AddField(QGridLayout& fields, Label& label, QWidget* field);
 /// The same with a word that is the same in every language.
 void AddField(QGridLayout& fields, const QString& word, QWidget* field);
+/// Puts `box` and its number, which counts from 1, into the next place of a grid with `in_line` of
+/// them in a line. It takes `kNumberedColumns` columns and is called `name` and its number.
+void AddNumbered(QGridLayout& grid, int number, int in_line, const QString& name, QWidget* box);
+inline constexpr int kNumberedColumns = 3;
 /// Appends a line over both columns.
 void AddLine(QGridLayout& fields, QWidget* line);
 
