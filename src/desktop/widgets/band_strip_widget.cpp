@@ -91,6 +91,8 @@ void BandStripWidget::PaintMarks(QPainter& painter, const QRectF& band) const {
   std::stable_sort(marks.begin(), marks.end(), [](const BandMark& a, const BandMark& b) {
     return a.main != b.main ? a.main : a.mhz < b.mhz;
   });
+  // One that comes twice is seen once.
+  marks.erase(std::unique(marks.begin(), marks.end()), marks.end());
   std::vector<QRectF> taken;
   for (const BandMark& mark : marks) {
     if (!InBand(mark)) continue;
