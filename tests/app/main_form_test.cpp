@@ -9,6 +9,8 @@
 
 #include "busy/wait_form.h"
 #include "link/serial_management.h"
+#include "programme/af_a_data.h"
+#include "programme/af_b_data.h"
 #include "programme/psn_data.h"
 #include "programme/psn_page_data.h"
 #include "programme/ptyn_data.h"
@@ -213,12 +215,32 @@ TEST_F(MainFormTest, SaveWritesTheNamesOrTheirPagesAndLeavesTheNamesOfTheTypes) 
     ptynData->SetPtyn("EDITED", 0);
     psnData->SetData(0, "LIST");
     psnPageData->SetData(0, 0, "PAGE");
+    afAData->SetFreq(0, 99.5F);
+    afBData->SetMainFreq(0, 98.5F);
     form->SaveButton.Press();
     EXPECT_EQ(profiles.Read(path, "PTYN", "PtyN00"), "OTHER");
     EXPECT_EQ(profiles.Read(path, "PSN Pages", "Psn00.00").substr(7, 4), pages ? "PAGE" : "LIST");
+    EXPECT_EQ(profiles.Read(path, "AF Method A", "FreqList").substr(0, 7), "099.500");
+    EXPECT_EQ(profiles.Read(path, "AF Method B", "List00").substr(0, 5), "098.5");
     form->NewButton.Press();
     EXPECT_EQ(ptynData->Ptyn(0), "EDITED  ");
   }
+}
+
+TEST_F(MainFormTest, TheSetupScreenHasTheSizesAskedAgainInAnOrderOfItsOwn) {
+  struct LastShown : ScreenHost {
+    void Shown(Window& window) override { last = &window; }
+    void Gone(Window& /*window*/) override {}
+    Window* last = nullptr;
+  } screen;
+  Run(kLocal);
+  Window::SetHost(&screen);
+  form->RS232CButton.Press();
+  ASSERT_EQ(screen.last->Name(), "RS232CForm");
+  port.written.clear();
+  screen.last->Close();
+  Window::SetHost(nullptr);
+  EXPECT_EQ(Codes(), (std::vector<int>{kEnqFrame, 0x0C, 0x0B, 0x1E, 0x20, 0x14, 0x0A}));
 }
 
 TEST_F(MainFormTest, LinkInWords) {

@@ -141,85 +141,39 @@ bool Two(float f) {
 }
 
 std::vector<int> SlowCodes(const AfFrequencies& freq) {
-  std::vector<int> byte(30, -1);
-  int p = 1;
-  int i = 0;
-  int x = 0;
-  int c = 0;
-  while (p <= 25) {
-    if (i > 24) {
-      while (p <= 25) byte.at(static_cast<std::size_t>(p++)) = 205;
-      break;
-    }
-    const auto at = static_cast<std::size_t>(p);
-    const float f = freq.at(static_cast<std::size_t>(i));
-    const float base = Step(f);
-    const double d = f - base;
+  std::vector<int> byte{224};
+  for (std::size_t i = 0; i < 25 && byte.size() <= 25;) {
+    const auto put = [&](std::initializer_list<int> bytes, int counted) {
+      byte.insert(byte.end(), bytes);
+      byte[0] += counted;
+      ++i;
+    };
+    const double f = freq.at(i);
+    const float base = Step(freq.at(i));
+    const double d = freq.at(i) - base;
     const int code = static_cast<int>(std::floor(static_cast<double>(base) * 10 - 875 + 0.5));
+    const bool lf = f >= 153 && f <= 279;
     int m = 0;
-    if (f >= 153 && f <= 279) {
-      if (p == 25) {
-        byte[at] = 205;
-        p += 1;
-        continue;
-      }
-      c += 1;
-      byte[at] = 250;
-      byte[at + 1] = static_cast<int>(std::floor((static_cast<double>(f) - 144) / 9));
-      p += 2;
-      i += 1;
-      continue;
-    }
-    if (f >= 531 && f <= 1602) {
-      if (p == 25) {
-        byte[at] = 205;
-        p += 1;
-        continue;
-      }
-      c += 1;
-      byte[at] = 250;
-      byte[at + 1] = static_cast<int>(std::floor((static_cast<double>(f) - 522) / 9)) + 15;
-      p += 2;
-      i += 1;
-      continue;
-    }
-    if (f < 87.5F || f > 107.975F) {
-      byte[at] = 205;
-      p += 1;
-      i += 1;
-      continue;
-    }
-    if (d >= -0.001 && d <= 0.001) {
-      c += 1;
-      byte[at] = code;
-      p += 1;
-      i += 1;
-      continue;
-    }
-    if (d >= -0.024 && d <= 0.026) {
-      m = 253;
-    } else if (d >= -0.049 && d <= 0.051) {
-      m = 254;
-    } else if (d >= -0.074 && d <= 0.076) {
-      m = 255;
-    }
-    if (m == 0) {
-      i += 1;
-    } else if (p % 2 == 1) {
-      byte[at] = 205;
-      p += 1;
-      x += 1;
+    if (d >= -0.074 && d <= 0.076) m = 255;
+    if (d >= -0.049 && d <= 0.051) m = 254;
+    if (d >= -0.024 && d <= 0.026) m = 253;
+    if (lf || (f >= 531 && f <= 1602)) {
+      if (byte.size() == 25) break;
+      put({250, static_cast<int>(std::floor(lf ? (f - 144) / 9 : (f - 522) / 9 + 15))}, 1);
+    } else if (freq.at(i) < 87.5F || freq.at(i) > 107.975F) {
+      put({205}, 0);
+    } else if (d >= -0.001 && d <= 0.001) {
+      put({code}, 1);
+    } else if (m == 0) {
+      put({}, 0);
+    } else if (byte.size() % 2 == 1) {
+      byte.push_back(205);
+      byte[0] += 1;
     } else {
-      c += 1;
-      byte[at] = m;
-      byte[at + 1] = code;
-      p += 2;
-      x += 1;
-      i += 1;
+      put({m, code}, 2);
     }
   }
-  byte[0] = 224 + c + x;
-  byte.resize(26);
+  byte.resize(26, 205);
   return byte;
 }
 
