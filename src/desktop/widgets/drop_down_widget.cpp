@@ -22,7 +22,7 @@ constexpr int kVisibleEntries = 20;
 DropDownWidget::DropDownWidget(ListBox& list, QWidget* parent, TextBox::Content content)
     : QComboBox(parent), list_(list), content_(content) {
   setMaxVisibleItems(kVisibleEntries);
-  setSizeAdjustPolicy(QComboBox::AdjustToContents);
+  setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
   setFocusPolicy(Qt::StrongFocus);
   view()->installEventFilter(this);
   connect(this, &QComboBox::activated, this, [this](int index) { Choose(index); });
@@ -42,6 +42,10 @@ void DropDownWidget::Draw() {
     for (const std::string& entry : list_.Entries()) entries << Shown(entry);
     clear();
     addItems(entries);
+    // Counts the width anew. With the first policy alone the toolkit would give the list its width
+    // a moment later, whatever the place that the layout has for it.
+    setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    setSizeAdjustPolicy(QComboBox::AdjustToContentsOnFirstShow);
   }
   shown_ = list_.Entries();
   if (currentIndex() != list_.Index()) {
