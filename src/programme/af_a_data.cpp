@@ -53,8 +53,8 @@ void AfAData::ClearAfLists() {
 }
 
 void AfAData::GetIni() {
-  freq_ = {};
   const std::string text = ReadIniKey(kSection, kKey);
+  if (text.empty()) freq_ = {};
   JoinedReader fields(text);
   for (float& value : freq_) fields.Real(value);
 }

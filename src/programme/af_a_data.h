@@ -28,7 +28,8 @@ class AfAData {
   /// fails, it is done again after the next send.
   void SetOneRds();
 
-  /// Loads the list from the file, from nothing.
+  /// Loads the list from the file. A missing key empties it; a field that can't be converted leaves
+  /// its entry.
   void GetIni();
   void SetIni() const;
 

@@ -253,6 +253,14 @@ TEST_F(AfTabsTest, TheFileKeepsTheLists) {
     stored += rest;
   for (int i = 9; i < kAfEntries; ++i) stored += "000.000;";
   EXPECT_EQ(ReadIniKey("AF Method A", "FreqList"), stored);
+  // What can't be converted leaves its entry; a missing key empties the list.
+  WriteIniKey("AF Method A", "FreqList", "x;99.9;");
+  afAData->GetIni();
+  EXPECT_EQ(std::tuple(afAData->Freq(0), afAData->Freq(1), afAData->Freq(8)),
+            std::tuple(87.6F, 99.9F, 100.1F));
+  WriteIniKey("AF Method A", "FreqList", "");
+  afAData->GetIni();
+  EXPECT_EQ(afAData->Freq(0) + afAData->Freq(8), 0);
 
   // The description is read as the thirteenth alternative, and is no description any more.
   afBData->SetMainFreq(1, 99.5F);

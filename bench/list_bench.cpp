@@ -1,0 +1,200 @@
+// Whole lists on the way to a Coder that paces as its line does, the opening of the screen of the
+// lists, and the scrolling of a long grid.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QProcess>
+#include <QTableView>
+#include <QTemporaryDir>
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "desktop/program.h"
+#include "link/serial_management.h"
+#include "link/transfer.h"
+#include "programme/af_codes.h"
+#include "programme/psn_page_data.h"
+
+namespace corvalis {
+namespace {
+
+using SteadyClock = std::chrono::steady_clock;
+using Seconds = std::chrono::duration<double>;
+
+constexpr double kBitsPerByte = 11;  // one to start, eight, two to stop
+constexpr double kAckBytes = 1;
+constexpr double kPause = 0.2;  // seconds after each list that is emptied
+
+/// The program in folders of its own; with a baud rate, with a Coder at COM 1 at that speed.
+class Station {
+ public:
+  explicit Station(const std::string& file, int baud = 0) {
+    const std::string folder = folder_.path().toStdString();
+    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(folder + "/config"));
+    qputenv("XDG_DATA_HOME", QByteArray::fromStdString(folder + "/data"));
+    std::filesystem::create_directories(folder + "/config/corvalis");
+    std::filesystem::create_directories(folder + "/data/corvalis");
+    std::ofstream(folder + "/data/corvalis/corvalis.rds")
+        << "[Serial Setup]\nSatellite=" << (baud == 0 ? "On" : "Off") << "\nBaudrate=" << baud
+        << "\n"
+        << file;
+    if (baud != 0) {
+      coder_.start(
+          QStringLiteral(CORVALIS_CODER_PROGRAM),
+          {"--open", "--pace", "--link", QString::fromStdString(folder + "/config/corvalis/com1")});
+      if (!coder_.waitForReadyRead()) throw std::runtime_error("the Coder does not start");
+    }
+    program.Start();
+  }
+  ~Station() {
+    coder_.kill();
+    coder_.waitForFinished();
+  }
+  Station(const Station&) = delete;
+  Station& operator=(const Station&) = delete;
+
+  PsnRtPinAfForm& Open() {
+    program.Menu().PsnRtPinAfButton.Press();
+    QApplication::processEvents();
+    return *program.Menu().OpenedPsnRtPinAf();
+  }
+
+ private:
+  QTemporaryDir folder_;
+  QProcess coder_;
+
+ public:
+  desktop::Program program;
+};
+
+// Sends by `send`, and tells how long it took over `bytes` on the line and `pauses` seconds.
+void MeasureSend(benchmark::State& state, double bytes, double pauses,
+                 const std::function<void(PsnRtPinAfForm&)>& send) {
+  const int baud = static_cast<int>(state.range(0));
+  Station station("", baud);
+  PsnRtPinAfForm& form = station.Open();
+  double seconds = 0;
+  for (auto _ : state) {
+    const auto begin = SteadyClock::now();
+    send(form);
+    seconds = Seconds(SteadyClock::now() - begin).count();
+  }
+  if (LinkError != kLinkOk) state.SkipWithError("a frame failed");
+  state.counters["over_line_and_pauses"] = seconds / (bytes * kBitsPerByte / baud + pauses);
+}
+
+void BM_FiveHundredRowsOfPages(benchmark::State& state) {
+  constexpr int kPages = 10;
+  constexpr int kRows = 50;
+  MeasureSend(state, kPages * kRows * (16 + kAckBytes), 0, [](PsnRtPinAfForm& form) {
+    RunSend(form.window, [] {
+      RunItems(kPages * kRows, [](int item) {
+        psnPageData->SetOneRds(static_cast<std::uint8_t>(item / kRows),
+                               static_cast<std::int16_t>(item % kRows));
+      });
+    });
+  });
+}
+BENCHMARK(BM_FiveHundredRowsOfPages)
+    ->Arg(9600)
+    ->Arg(19200)
+    ->Iterations(1)
+    ->UseRealTime()
+    ->Unit(benchmark::kSecond);
+
+void BM_AllItems(benchmark::State& state) {
+  MeasureSend(state, 255 * (13 + kAckBytes), 0,
+              [](PsnRtPinAfForm& form) { form.pin.Command15.Press(); });
+}
+BENCHMARK(BM_AllItems)
+    ->Arg(9600)
+    ->Arg(19200)
+    ->Iterations(1)
+    ->UseRealTime()
+    ->Unit(benchmark::kSecond);
+
+// The list, the question for the number of lists, and the other lists emptied.
+void BM_FirstListOfMethodA(benchmark::State& state) {
+  constexpr int kOthers = 99;
+  MeasureSend(state, (1 + kOthers) * (57 + kAckBytes) + 5 + kAckBytes + 7, kOthers * kPause,
+              [](PsnRtPinAfForm& form) { form.af_a.Command11.Press(); });
+}
+BENCHMARK(BM_FirstListOfMethodA)->Arg(9600)->Iterations(1)->UseRealTime()->Unit(benchmark::kSecond);
+
+void BM_ArrangeAndCodeAFullList(benchmark::State& state) {
+  AfFrequencies full{};
+  for (int i = 0; i < kAfEntries; ++i) {
+    const double offset = i % 4 == 3 ? 0.025 : 0;
+    full.at(static_cast<std::size_t>(i)) = static_cast<float>(88.1 + 0.7 * i + offset);
+  }
+  for (auto _ : state) {
+    AfFrequencies list = full;
+    ArrangeAfList(list);
+    benchmark::DoNotOptimize(AfACodes(list));
+  }
+}
+BENCHMARK(BM_ArrangeAndCodeAFullList)->Unit(benchmark::kMicrosecond);
+
+// From the press on the main menu until the screen has been painted, its first time.
+void BM_OpenTheScreen(benchmark::State& state) {
+  for (auto _ : state) {
+    state.PauseTiming();
+    {
+      Station station("");
+      QApplication::processEvents();
+      state.ResumeTiming();
+      station.Open();
+      state.PauseTiming();
+    }
+    state.ResumeTiming();
+  }
+}
+BENCHMARK(BM_OpenTheScreen)->Iterations(10)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+void BM_ScrollFiveHundredRows(benchmark::State& state) {
+  constexpr int kRows = 500;
+  Station station("[RT]\nMaxRtNum=500\n");
+  PsnRtPinAfForm& form = station.Open();
+  form.SSTab1.SetTab(PsnRtPinAfForm::kRt);
+  QApplication::processEvents();
+  QTableView* table = nullptr;
+  for (QWidget* widget : QApplication::allWidgets()) {
+    if (widget->objectName() == "DBGrid3") table = qobject_cast<QTableView*>(widget);
+  }
+  if (table == nullptr) return state.SkipWithError("no grid");
+  std::vector<double> frames;
+  for (auto _ : state) {
+    for (int row = 0; row < kRows; ++row) {
+      const auto begin = SteadyClock::now();
+      form.rt.DBGrid3.MoveTo(row, 1);
+      table->viewport()->repaint();
+      frames.push_back(Seconds(SteadyClock::now() - begin).count() * 1e3);
+    }
+    form.rt.DBGrid3.MoveTo(0, 1);
+  }
+  std::sort(frames.begin(), frames.end());
+  state.counters["median_ms"] = frames[frames.size() / 2];
+  state.counters["p95_ms"] = frames[frames.size() * 95 / 100];
+  state.counters["worst_ms"] = frames.back();
+}
+BENCHMARK(BM_ScrollFiveHundredRows)->Iterations(4)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace corvalis
+
+int main(int argc, char** argv) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication application(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+  benchmark::RunSpecifiedBenchmarks();
+  benchmark::Shutdown();
+  return 0;
+}
