@@ -33,6 +33,15 @@ TEST_F(WindowsTextsTest, ATypeIsChosenFromTheListOverItsCell) {
   EXPECT_EQ(table.currentIndex(), table.model()->index(2, 3));
   hand.Click(kTexts, "Command8");
   EXPECT_EQ(Held("PIN 02"), "0002CB00");
+  // The screen goes though the list stands open, and comes again without it.
+  hand.GoToCell(kTexts, "DBGrid4", 1, 3);
+  hand.Control(kTexts, "Combo1").setFocus();
+  Press(Qt::Key_Down);
+  PressCloseBox(kTexts);
+  EXPECT_EQ(OnScreen(kTexts), nullptr);
+  hand.Click(kMain, "PsnRtPinAfButton");
+  hand.TurnToTab(kTexts, QStringLiteral("PIN"));
+  EXPECT_FALSE(list.isVisible());
 }
 
 }  // namespace
