@@ -12,6 +12,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -19,7 +20,6 @@
 #include "desktop/program.h"
 #include "link/serial_management.h"
 #include "link/transfer.h"
-#include "programme/af_codes.h"
 #include "programme/psn_page_data.h"
 
 namespace corvalis {
@@ -32,7 +32,8 @@ constexpr double kBitsPerByte = 11;  // one to start, eight, two to stop
 constexpr double kAckBytes = 1;
 constexpr double kPause = 0.2;  // seconds after each list that is emptied
 
-/// The program in folders of its own; with a baud rate, with a Coder at COM 1 at that speed.
+/// The program in folders of its own, with a Coder at COM 1: with a baud rate on a two-way line at
+/// that speed, else on a one-way path.
 class Station {
  public:
   explicit Station(const std::string& file, int baud = 0) {
@@ -42,18 +43,21 @@ class Station {
     std::filesystem::create_directories(folder + "/config/corvalis");
     std::filesystem::create_directories(folder + "/data/corvalis");
     std::ofstream(folder + "/data/corvalis/corvalis.rds")
-        << "[Serial Setup]\nSatellite=" << (baud == 0 ? "On" : "Off") << "\nBaudrate=" << baud
-        << "\n"
+        << "[Serial Setup]\nSatellite=" << (baud == 0 ? "On" : "Off")
+        << "\nBaudrate=" << (baud == 0 ? 9600 : baud) << "\n"
         << file;
-    if (baud != 0) {
-      coder_.start(
-          QStringLiteral(CORVALIS_CODER_PROGRAM),
-          {"--open", "--pace", "--link", QString::fromStdString(folder + "/config/corvalis/com1")});
-      if (!coder_.waitForReadyRead()) throw std::runtime_error("the Coder does not start");
-    }
-    program.Start();
+    QStringList options{"--open", "--link",
+                        QString::fromStdString(folder + "/config/corvalis/com1")};
+    if (baud != 0) options << "--pace";
+    coder_.start(QStringLiteral(CORVALIS_CODER_PROGRAM), options);
+    if (!coder_.waitForReadyRead()) throw std::runtime_error("the Coder does not start");
+    program = std::make_unique<desktop::Program>();
+    program->Start();
   }
   ~Station() {
+    program.reset();
+    // Its windows go before another program comes.
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     coder_.kill();
     coder_.waitForFinished();
   }
@@ -61,9 +65,9 @@ class Station {
   Station& operator=(const Station&) = delete;
 
   PsnRtPinAfForm& Open() {
-    program.Menu().PsnRtPinAfButton.Press();
+    program->Menu().PsnRtPinAfButton.Press();
     QApplication::processEvents();
-    return *program.Menu().OpenedPsnRtPinAf();
+    return *program->Menu().OpenedPsnRtPinAf();
   }
 
  private:
@@ -71,7 +75,7 @@ class Station {
   QProcess coder_;
 
  public:
-  desktop::Program program;
+  std::unique_ptr<desktop::Program> program;
 };
 
 // Sends by `send`, and tells how long it took over `bytes` on the line and `pauses` seconds.
@@ -127,20 +131,6 @@ void BM_FirstListOfMethodA(benchmark::State& state) {
               [](PsnRtPinAfForm& form) { form.af_a.Command11.Press(); });
 }
 BENCHMARK(BM_FirstListOfMethodA)->Arg(9600)->Iterations(1)->UseRealTime()->Unit(benchmark::kSecond);
-
-void BM_ArrangeAndCodeAFullList(benchmark::State& state) {
-  AfFrequencies full{};
-  for (int i = 0; i < kAfEntries; ++i) {
-    const double offset = i % 4 == 3 ? 0.025 : 0;
-    full.at(static_cast<std::size_t>(i)) = static_cast<float>(88.1 + 0.7 * i + offset);
-  }
-  for (auto _ : state) {
-    AfFrequencies list = full;
-    ArrangeAfList(list);
-    benchmark::DoNotOptimize(AfACodes(list));
-  }
-}
-BENCHMARK(BM_ArrangeAndCodeAFullList)->Unit(benchmark::kMicrosecond);
 
 // From the press on the main menu until the screen has been painted, its first time.
 void BM_OpenTheScreen(benchmark::State& state) {
