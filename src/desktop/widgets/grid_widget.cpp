@@ -42,6 +42,8 @@ GridWidget::GridWidget(Grid& grid, QWidget* parent, const QString& heading)
   horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setSectionsClickable(false);
   horizontalHeader()->setHighlightSections(false);
+  // The frame shows the keyboard's presence in the open cell too.
+  connect(qApp, &QApplication::focusChanged, this, [this] { QWidget::update(); });
   const QString caption = FromBytes(grid.Caption());
   setAccessibleName(caption.isEmpty() ? heading : caption);
   FitFont();
