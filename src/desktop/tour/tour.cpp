@@ -167,7 +167,7 @@ void Tour::MoveLine(const Step& /*step*/) {
 void Tour::Say(const QString& text) const { QTextStream(stdout) << text << Qt::endl; }
 
 QStringList Tour::Arrived() {
-  const QStringList lines = coder_.Arrived();
+  QStringList lines = coder_.Arrived();
   for (qsizetype from = 0; from < lines.size();) {
     qsizetype to = from + 1;
     while (to < lines.size() && Kind(lines[to]) == Kind(lines[from])) ++to;
