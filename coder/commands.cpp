@@ -52,8 +52,9 @@ int TwoDecimal(Body body, std::size_t at) {
   return Digit('D', body[at]) * 10 + Digit('D', body[at + 1]);
 }
 
+// Of two digits of a year: the leap years are the same in the last century.
 bool DateExists(int year, int month, int day) {
-  return std::chrono::year_month_day{std::chrono::year(year),
+  return std::chrono::year_month_day{std::chrono::year(2000 + year),
                                      std::chrono::month(static_cast<unsigned>(month)),
                                      std::chrono::day(static_cast<unsigned>(day))}
       .ok();
@@ -66,10 +67,9 @@ int Unless(bool fits) { return fits ? 0 : kWriteNotAllowed; }
 // Year, month, day, weekday from Monday 1, hour, minute, the numbers of the two strings that carry
 // date and hour, and the local offset in half hours plus 24.
 int JudgeClockTime(Body body, const Counts&) {
-  const int year = TwoDecimal(body, 0) + (TwoDecimal(body, 0) < 30 ? 2000 : 1900);
-  return Unless(DateExists(year, TwoDecimal(body, 2), TwoDecimal(body, 4)) && body[6] >= '1' &&
-                body[6] <= '7' && TimeExists(TwoDecimal(body, 7), TwoDecimal(body, 9)) &&
-                TwoDecimal(body, 15) <= 48);
+  return Unless(DateExists(TwoDecimal(body, 0), TwoDecimal(body, 2), TwoDecimal(body, 4)) &&
+                body[6] >= '1' && body[6] <= '7' &&
+                TimeExists(TwoDecimal(body, 7), TwoDecimal(body, 9)) && TwoDecimal(body, 15) <= 48);
 }
 
 int JudgeRepetitions(Body body, const Counts&) { return Unless(TwoHex(body, 2) <= 99); }
@@ -94,9 +94,8 @@ int JudgePageNumber(Body body, const Counts& counts) {
 // Enabled, hour, minute, day (0: by weekday), month, year, Monday to Sunday, page.
 int JudgePlan(Body body, const Counts&) {
   const int day = TwoDecimal(body, 5);
-  const int year = TwoDecimal(body, 9) + (TwoDecimal(body, 9) < 90 ? 2000 : 1900);
   return Unless(TimeExists(TwoDecimal(body, 1), TwoDecimal(body, 3)) &&
-                (day == 0 || DateExists(year, TwoDecimal(body, 7), day)));
+                (day == 0 || DateExists(TwoDecimal(body, 9), TwoDecimal(body, 7), day)));
 }
 
 constexpr Command Count(std::uint8_t code, std::string_view name, std::size_t digits,

@@ -42,6 +42,7 @@ TEST(Coder, KeepsEveryItemAndReadsItBackWithinItsNumbersOnceAddressed) {
       {"PIN", Frame(6, 254, "01017B6D"), Frame(6, 254, "0"), Frame(6, 255, "0")},
       {"RT", Frame(7, 49, "05" + Times(8, raw)), Frame(7, 49), Frame(7, 50)},
       {"Enable", Frame(9, 31, "0163"), {2, 9, 31, 3, 0x17}, Frame(9, 32)},
+      {"Enable of 0A", Frame(9, 0, "0000"), Frame(9, 0), Frame(9, 32)},
       {"PTY", Frame(0x0D, 0, "1F"), {2, 0x0D, 0, 3, 0x0C}, Frame(0x0D, 1)},
       {"TA", Frame(0x0E, 0, "1"), {2, 0x0E, 0, 3, 0x0F}, Frame(0x0E, 1)},
       {"M/S", Frame(0x0F, 0, "0"), {2, 0x0F, 0, 3, 0x0E}, Frame(0x0F, 1)},
@@ -113,6 +114,8 @@ TEST(Coder, TellsItsSizesUnaddressedAndCanBeGivenOthers) {
   coder.SetSizes({.psn = 9});
   EXPECT_EQ(coder.Item(0x03, 8), Text("05LAST BUT"));
   EXPECT_EQ(coder.Item(0x03, 9), std::nullopt);
+  coder.SetSizes({});
+  EXPECT_EQ(coder.Item(0x03, 9), Text("00        ")) << "forgotten";
   EXPECT_FALSE(coder.SetItem(0x14, 0, Text("32"))) << "a count is not written";
 }
 
@@ -273,6 +276,7 @@ TEST(Coder, FindsTheGoodFrameInGarbage) {
       {"behind a second start byte", Bytes{2} + good, Refusal(6) + kAcknowledged},
       {"behind another with a wrong checksum", Bytes{2, 1, 0, 0x35, 0x32, 0x30, 0x31, 3, 0} + good,
        Refusal(1) + kAcknowledged},
+      {"cut short, whole in front", Frame(0x10, 0, "26") + Bytes{0x31, 0x32}, Refusal(6)},
       {"only an ENQ", {0x55, 0x41, kEnq}, Refusal(9) + kAcknowledged},
       {"a bad frame in garbage is garbage", {0x55, 2, 2, 0, 0x31, 3, 0x33}, Refusal(9)},
   };
