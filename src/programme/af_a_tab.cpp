@@ -52,7 +52,7 @@ AfATab::AfATab(Window& window)
                  .read =
                      [this](int /*list*/) {
                        afAData->GetOneRds();
-                       ShowAvailability();
+                       ShowAvailability(AvailableBoxes());
                      },
                  .send = [](int /*list*/) { afAData->SetOneRds(); },
                  .prepare = [] { afAData->ArrangeAfList(); },
@@ -79,9 +79,11 @@ void AfATab::LeaveBox(int box) {
   // The pair would have no room at the end of the list.
   if (FreqHasOffset(value) && box >= AvailableBoxes() - 1) return Refuse(box);
   afAData->SetFreq(Index(box), value);
-  for (int i = AvailableBoxes(); i < kAfEntries; ++i) afAData->SetFreq(Index(i), kNoFreq);
+  // A pair among those that go makes room again, but only for the next entry.
+  const int available = AvailableBoxes();
+  for (int i = available; i < kAfEntries; ++i) afAData->SetFreq(Index(i), kNoFreq);
   ShowBoxes();
-  ShowAvailability();
+  ShowAvailability(available);
 }
 
 void AfATab::Refuse(int box) {
@@ -114,8 +116,7 @@ void AfATab::ShowBoxes() {
   ShowBand();
 }
 
-void AfATab::ShowAvailability() {
-  const int available = AvailableBoxes();
+void AfATab::ShowAvailability(int available) {
   for (int i = 0; i < kAfEntries; ++i) Text39[i].SetEnabled(i < available);
 }
 
@@ -149,7 +150,7 @@ void AfATab::InitCaptions() {
 void AfATab::Open() {
   buttons_.Show();
   ShowBoxes();
-  ShowAvailability();
+  ShowAvailability(AvailableBoxes());
 }
 
 }  // namespace corvalis

@@ -45,7 +45,7 @@ class AfATab {
   void Refuse(int box);
   void ShowAfBox(int box);
   void ShowBoxes();
-  void ShowAvailability();
+  void ShowAvailability(int available);
   void ShowBand();
 
   ListButtons buttons_;

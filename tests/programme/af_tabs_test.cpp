@@ -102,6 +102,7 @@ TEST_F(AfTabsTest, LeavingABoxOfMethodA) {
     EXPECT_EQ(BoxA(1).Text(), shown) << typed;
     EXPECT_EQ(Boxes(), taken ? no_boxes : std::vector<std::string>{kWarning}) << typed;
   }
+  EXPECT_EQ(form->SSTab1.Tab(), form->kAfA);  // brought to the front by what was refused
   const auto& marks = form->af_a.AfABandStrip.Marks();
   ASSERT_EQ(marks.size(), 1U);
   EXPECT_EQ(marks[0].text, "87.5");
@@ -130,6 +131,11 @@ TEST_F(AfTabsTest, EachEntryOfTwoBytesCostsABoxAtTheEnd) {
   EXPECT_EQ(Available(), 21);
   EXPECT_TRUE(form->window.MoveFocus(&BoxA(20)));
   EXPECT_TRUE(form->window.MoveFocus(nullptr));  // though it could not be entered a second time
+  EXPECT_TRUE(Enter(BoxA(4), "153"));  // takes the box of the last pair, whose room is free
+  EXPECT_EQ(BoxA(20).Text(), "000.000");
+  EXPECT_EQ(Available(), 20);
+  EXPECT_TRUE(Enter(BoxA(5), "101"));  // from the next entry on
+  EXPECT_EQ(Available(), 21);
   EXPECT_TRUE(Enter(BoxA(1), "0"));
   EXPECT_EQ(Available(), 22);
   EXPECT_EQ(Boxes(), no_boxes);
@@ -158,6 +164,11 @@ TEST_F(AfTabsTest, ClosingIsRefusedWhileABoxOfMethodAIsWrong) {
   form->window.Close();
   EXPECT_EQ(Boxes(), no_boxes);
   EXPECT_FALSE(form->window.Visible());
+  OpenScreen(kLocal);  // nor where the box can't be got at
+  afAData->SetFreq(24, 87.58F);
+  form->af_a.Open();
+  form->window.Close();
+  EXPECT_EQ(Boxes(), no_boxes);
 }
 
 TEST_F(AfTabsTest, TheFirstSendOfARunEmptiesAllOtherLists) {
@@ -178,10 +189,13 @@ TEST_F(AfTabsTest, TheFirstSendOfARunEmptiesAllOtherLists) {
   EXPECT_EQ(ShownA(4), "100.000 087.525 099.000 000.000 ");
 
   afAData->GetIni();  // another file is opened: not again
+  afAData->SetFreq(4, 531);
   form->af_a.Command11.Press();
   EXPECT_EQ(SentLists(), UpTo(0, false));
+  EXPECT_EQ(Available(), 24);  // sending leaves the boxes as they are, reading does not
   form->af_a.Command13.Press();
-  EXPECT_EQ(ShownA(4), "100.000 087.525 099.000 000.000 ");
+  EXPECT_EQ(ShownA(4), "100.000 087.525 531 099.000 ");
+  EXPECT_EQ(Available(), 23);
 }
 
 TEST_F(AfTabsTest, EmptyingThatFailedIsDoneAgain) {
@@ -216,6 +230,7 @@ TEST_F(AfTabsTest, EmptyingThatFailedIsDoneAgain) {
 TEST_F(AfTabsTest, OneWayTheAddressComesBeforeTheArrangingAndAHundredListsAreEmptied) {
   OpenScreen(kOneWay + kA + "0;100;\n");
   const AfATab& tab = form->af_a;
+  EXPECT_EQ(afBData->MaxAfBListNum(), 100);  // nobody says how many
   EXPECT_FALSE(tab.Command13.Visible());
   EXPECT_TRUE(tab.Command12.Visible());
   ExpectAddressRule({&form->af_a.Command11, &form->af_a.Command12});
@@ -279,26 +294,36 @@ TEST_F(AfTabsTest, TheFileKeepsTheLists) {
   EXPECT_EQ(Held(kAf, 1).substr(0, 14),
             "E5780178"
             "78A8CD");
+  afBData->SetCurrentAfBListNum(2);
+  WriteIniKey("AF Method B", "List01", "");
+  afBData->GetIni();
+  EXPECT_EQ(afBData->MainFreq(1) + afBData->CurrentAfBListNum(), 0);
 }
 
 TEST_F(AfTabsTest, BoxesOfMethodB) {
   OpenScreen(kOneWay + kMethodB + "List00=100;99;101;\n");
   EXPECT_EQ(ShownB(4), "100.0 099.0 101.0 000.0 ");
   const std::tuple<int, const char*, const char*, bool> cases[] = {
-      {1, "1079", "107.9", true},  {1, "107.95", "107.9", true}, {1, "108", "107.9", false},
-      {1, "87.4", "107.9", false}, {1, "87,5", "087.5", true},   {0, "108.0", "100.0", false},
-      {0, "98.7", "098.7", true},  {1, "", "087.5", false},      {2, "0", "000.0", true}};
+      {1, "1079", "107.9", true},   {1, "107.95", "107.9", true}, {1, "108", "107.9", false},
+      {1, "87.4", "107.9", false},  {1, "87.65", "087.6", true},  {1, "87,5", "087.5", true},
+      {0, "108.0", "100.0", false}, {0, "98.7", "098.7", true},   {1, "", "087.5", false},
+      {2, "0", "000.0", true}};
   for (const auto& [box, typed, shown, taken] : cases) {
     EXPECT_EQ(Enter(BoxB(box), typed), taken) << typed;
     EXPECT_EQ(BoxB(box).Text(), shown) << typed;
     EXPECT_EQ(Boxes(), taken ? no_boxes : std::vector<std::string>{kWarning}) << typed;
   }
+  EXPECT_EQ(form->SSTab1.Tab(), form->kAfB);
+  EXPECT_EQ(AfBData::GetMaxFreq(), 107.9F);
   form->window.MoveFocus(&BoxB(1));
   BoxB(1).SetText("107.9");
   BoxB(1).Select(3, 2);
   BoxB(1).Type("9");
   EXPECT_EQ(BoxB(1).Text(), "107.9");
   EXPECT_EQ(BoxB(1).SelStart(), 5);
+  dialogs.beeps = 0;
+  BoxB(1).Type("5");
+  EXPECT_EQ(dialogs.beeps, 1);
   BoxB(1).SelectAll();
   BoxB(1).Type("5");
   form->window.Close();
@@ -308,7 +333,9 @@ TEST_F(AfTabsTest, BoxesOfMethodB) {
   const auto& marks = form->af_b.AfBBandStrip.Marks();
   EXPECT_TRUE(marks.at(0).main);
   EXPECT_EQ(marks.at(1).text, "87.5");
-  EXPECT_TRUE(Enter(BoxB(0), "0"));  // no main frequency, no alternatives
+  afBData->SetListFreq(0, 12, 104.3F);
+  EXPECT_TRUE(Enter(BoxB(0), "0"));  // no main frequency, no alternatives of the screen
+  EXPECT_EQ(afBData->ListFreq(0, 12), 104.3F);
   EXPECT_EQ(ShownB(4), "000.0 000.0 000.0 000.0 ");
   EXPECT_EQ(afBData->ListFreq(0, 0), 0);
   EXPECT_TRUE(marks.empty());
@@ -324,7 +351,7 @@ TEST_F(AfTabsTest, ListsAreFoundByNumberByStepsAndByDescription) {
   Step(tab.VScroll1, +1);
   EXPECT_EQ(at(), "00/");
   for (const auto& [typed, shown] :
-       std::vector<std::pair<const char*, const char*>>{{"2", "02"}, {"3", "02"}, {"1", "01"}}) {
+       std::vector<std::pair<const char*, const char*>>{{"2", "02"}, {"3", "02"}, {"1.", "01"}}) {
     Enter(tab.Text1, typed);
     EXPECT_EQ(tab.Text1.Text(), shown);
   }
@@ -337,6 +364,7 @@ TEST_F(AfTabsTest, ListsAreFoundByNumberByStepsAndByDescription) {
   EXPECT_EQ(tab.Combo2.Entries(), (std::vector<std::string>{"", "Hill", "Valley"}));
   EXPECT_EQ(afBData->Descr(2), "Valley");
   EXPECT_EQ(at(), "02/Valley");
+  EXPECT_EQ(tab.Combo2.Index(), 2);
   Step(tab.VScroll1, -1);
   EXPECT_EQ(at(), "01/Hill");
 }
@@ -360,8 +388,10 @@ TEST_F(AfTabsTest, ButtonsOfMethodBOnATwoWayLink) {
   AfBTab& tab = form->af_b;
   EXPECT_FALSE(tab.Command3.Visible());
   EXPECT_EQ(afBData->MaxAfBListNum(), 100);  // the Coder's count
+  const double before = time.Elapsed();
   tab.Command1.Press();
   EXPECT_EQ(Written().size(), 100U);
+  EXPECT_NEAR(time.Elapsed() - before, 100 * 0.2, 0.5);
   Step(tab.VScroll1, 7);
   Hold(kAf, Held(kAf), 7);
   tab.Command4.Press();

@@ -346,7 +346,7 @@ TEST_F(TypingRulesTest, NamesOfTypes) {
   OpenLists();
   PtynTab& tab = form->ptyn;
   TextBox& box = tab.PtynText;
-  EXPECT_EQ(box.Text(), "--------");
+  EXPECT_EQ(std::to_string(tab.PtyCombo.Index()) + box.Text(), "0--------");
   EXPECT_EQ(tab.PtyCombo.Entry(9) + tab.PtyCombo.Entry(31), "9    Varied31  Alarm");
   form->window.MoveFocus(&box);
   box.SelectAll();
