@@ -87,7 +87,8 @@ void Grid::Refresh() {
 
 void Grid::RefreshRow(int row) {
   if (row == row_) Drop();
-  Redraw();
+  // A run over a long list comes by rows that nobody sees; the last one in view may be cut off.
+  if (row >= first_row_ && row <= first_row_ + rows_in_view_) Redraw();
 }
 
 void Grid::Restart() {

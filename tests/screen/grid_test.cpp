@@ -151,6 +151,17 @@ TEST_F(GridTest, WhatIsReadIsNewerThanAnEdit) {
   EXPECT_EQ(form.ItemAt(2).time, "5");
 }
 
+TEST_F(GridTest, ARowThatIsReadIsDrawnIfAnyOfItIsSeen) {
+  grid.SetView(5, 5);
+  std::string drawn;
+  grid.Drawn = [&] { drawn += '*'; };
+  for (const int row : {4, 5, 9, 10, 11}) {  // 10 is cut off at the bottom
+    grid.RefreshRow(row);
+    drawn += std::to_string(row) + ' ';
+  }
+  EXPECT_EQ(drawn, "4 *5 *9 *10 11 ");
+}
+
 TEST_F(GridTest, AnotherFileStartsAtItsFirstRow) {
   grid.SetView(5, 10);
   grid.MoveTo(8, 2);
