@@ -1,5 +1,6 @@
 // The screen of names, texts and frequencies on real windows.
 
+#include <QApplication>
 #include <QComboBox>
 #include <QTableView>
 #include <QTest>
@@ -42,6 +43,22 @@ TEST_F(WindowsTextsTest, ATypeIsChosenFromTheListOverItsCell) {
   hand.Click(kMain, "PsnRtPinAfButton");
   hand.TurnToTab(kTexts, QStringLiteral("PIN"));
   EXPECT_FALSE(list.isVisible());
+}
+
+TEST_F(WindowsTextsTest, EscDropsWhatIsTypedBeforeTheScreenGoes) {
+  StartWithCoder({"--open"}, std::string(kLocalFile) + "[RT]\nRt01=10;OLD;\n");
+  hand.Click(kMain, "PsnRtPinAfButton");
+  hand.TurnToTab(kTexts, QStringLiteral("RT"));
+  hand.GoToCell(kTexts, "DBGrid3", 1, 2);
+  hand.Strike(QStringLiteral("NEW"));
+  QTest::mouseClick(&hand.Window(kTexts), Qt::LeftButton, {}, {3, 3});  // beside everything
+  QTest::keyClick(hand.Window(kTexts).windowHandle(), Qt::Key_Escape);
+  QApplication::processEvents();
+  ASSERT_NE(OnScreen(kTexts), nullptr);
+  EXPECT_EQ(hand.ShownCell(kTexts, "DBGrid3", 1, 2).trimmed(), "OLD");
+  QTest::keyClick(hand.Window(kTexts).windowHandle(), Qt::Key_Escape);
+  QApplication::processEvents();
+  EXPECT_EQ(OnScreen(kTexts), nullptr);
 }
 
 }  // namespace

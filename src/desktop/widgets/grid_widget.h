@@ -18,6 +18,8 @@ class GridWidget : public QTableView {
 
   /// The place of a cell in the table, as far as it is in view; empty if it is not.
   [[nodiscard]] QRect CellRect(int row, int column) const;
+  /// Drops what has been typed and not written; false if there is nothing.
+  bool Escape() { return grid_.Escape(); }
   /// Cells may stand elsewhere: the table has been scrolled or resized.
   std::function<void()> Arranged;
 

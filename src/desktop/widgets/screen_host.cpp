@@ -4,12 +4,28 @@
 #include <QDialog>
 #include <QEvent>
 #include <QKeyEvent>
+#include <QTableView>
 #include <QWindow>
+#include <algorithm>
 
 #include "desktop/widgets/front_window.h"
+#include "desktop/widgets/grid_widget.h"
 #include "desktop/widgets/mnemonics.h"
 
 namespace corvalis::desktop {
+
+namespace {
+
+// What is typed in a grid and not written goes before its screen does, wherever the keyboard is.
+bool EscapesGrid(const WindowView& view) {
+  const auto tables = view.findChildren<QTableView*>();
+  return std::any_of(tables.begin(), tables.end(), [](QTableView* table) {
+    auto* grid = dynamic_cast<GridWidget*>(table);
+    return grid != nullptr && grid->isVisible() && grid->Escape();
+  });
+}
+
+}  // namespace
 
 QtScreenHost::QtScreenHost() {
   Window::SetHost(this);
@@ -101,7 +117,7 @@ bool QtScreenHost::KeyOfWindow(WindowView& view, const QWidget& focus, QKeyEvent
   const bool acts = press && !event.isAutoRepeat();
   if (event.key() == Qt::Key_Escape && event.modifiers() == Qt::NoModifier) {
     if (!press || !view.ClosesOnEscape(focus)) return false;
-    if (acts) view.close();
+    if (acts && !EscapesGrid(view)) view.close();
     return true;
   }
   if (focus.window() != &view || !IsMnemonic(view, event)) return false;
