@@ -31,6 +31,7 @@ const std::vector<Tour::Step>& Tour::Steps() {
       {&T::Press, "Check1"},  // TP off
       {&T::Press, "Check9"},  // dynamic PTY
       {&T::Send, "Command4", "TP 00", "0"},
+      {&T::Send, "Command4", "DI 00", "9"},
       {&T::Press, "Check8"},
       {&T::Read, "Command3", "Check9", "on"},
       {&T::Picture, "tp-di"},
@@ -119,8 +120,8 @@ const std::vector<Tour::Step>& Tour::Steps() {
       {&T::Tab, "PIN"},
       {&T::Type, "DBGrid4 5 2", "12.15"},
       {&T::GoTo, "DBGrid4 5 3"},
-      {&T::Choose, "Combo1", "Jazz Music"},
-      {&T::Send, "Command8", "PIN 05", "0001CB0F"},
+      {&T::Choose, "Combo1", "Sport"},
+      {&T::Send, "Command8", "PIN 05", "0004CB0F"},
       {&T::Type, "DBGrid4 5 2", "23:59"},
       {&T::Read, "Command6", "DBGrid4 5 2", "12:15"},
       {&T::Send, "Command15", "PIN 0D", "000ECDC0"},
