@@ -11,6 +11,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QProcess>
 #include <QTimer>
 #include <chrono>
 #include <cstdlib>
@@ -55,6 +56,16 @@ class Home {
     fs::create_directories(folder_ / "data/corvalis");
     std::ofstream(File()) << text;
   }
+  /// Gives it the sample station, with this in place of its "Satellite=Off".
+  void ConfigureExample(const std::string& satellite) const {
+    std::ifstream example(CORVALIS_EXAMPLE);
+    std::string text{std::istreambuf_iterator<char>(example), {}};
+    const std::string stands = "Satellite=Off";
+    const std::size_t at = text.find(stands);
+    if (at == std::string::npos) throw std::runtime_error("no sample station");
+    Configure(text.replace(at, stands.size(), satellite));
+  }
+  [[nodiscard]] fs::path Port() const { return folder_ / "config/corvalis/com1"; }
   /// Makes every value of the default configuration another one, as a program did it long ago.
   void ChangeEveryValue() const {
     std::ifstream old(File());
@@ -76,6 +87,26 @@ class Home {
 
   int terminal_;
   fs::path folder_;
+};
+
+/// A Coder at the port of `home`, in the place of the terminal, which answers at once.
+class AnsweringCoder {
+ public:
+  explicit AnsweringCoder(const Home& home) {
+    fs::remove(home.Port());
+    process_.start(QStringLiteral(CORVALIS_CODER_PROGRAM),
+                   {"--open", "--link", QString::fromStdString(home.Port().string())});
+    if (!process_.waitForReadyRead()) throw std::runtime_error("the Coder does not start");
+  }
+  ~AnsweringCoder() {
+    process_.terminate();
+    process_.waitForFinished();
+  }
+  AnsweringCoder(const AnsweringCoder&) = delete;
+  AnsweringCoder& operator=(const AnsweringCoder&) = delete;
+
+ private:
+  QProcess process_;
 };
 
 void Start() {
@@ -109,6 +140,57 @@ BENCHMARK(BM_StartToMainMenu)
     ->Arg(0)
     ->Arg(1)
     ->Iterations(10)
+    ->UseRealTime()
+    ->Unit(benchmark::kMillisecond);
+
+// The same with the sample station, whose lists all ask the Coder for their counts.
+void BM_StartWithCounts(benchmark::State& state) {
+  const Home home;
+  home.ConfigureExample("Satellite=Off");
+  const AnsweringCoder coder(home);
+  for (auto _ : state) Start();
+}
+BENCHMARK(BM_StartWithCounts)->Iterations(10)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+// What the sample station's own keys cost, without a Coder to ask.
+void BM_StartWithExample(benchmark::State& state) {
+  const Home home;
+  home.ConfigureExample("Satellite=On");
+  for (auto _ : state) Start();
+}
+BENCHMARK(BM_StartWithExample)->Iterations(10)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+void BM_SaveExample(benchmark::State& state) {
+  const Home home;
+  home.ConfigureExample("Satellite=Off");
+  const AnsweringCoder coder(home);
+  corvalis::desktop::Program program;
+  program.Start();
+  for (auto _ : state) {
+    state.PauseTiming();
+    home.ChangeEveryValue();
+    state.ResumeTiming();
+    program.Menu().SaveButton.Press();
+  }
+}
+BENCHMARK(BM_SaveExample)->Iterations(100)->UseRealTime()->Unit(benchmark::kMillisecond);
+
+// With the ENQ and all counts (1) or on a one-way path, that is, the file alone (0).
+void BM_OpenExample(benchmark::State& state) {
+  const Home home;
+  const bool counts = state.range(0) != 0;
+  home.ConfigureExample(counts ? "Satellite=Off" : "Satellite=On");
+  const AnsweringCoder coder(home);
+  corvalis::desktop::Program program;
+  program.Start();
+  program.Menu().SaveButton.Press();
+  for (auto _ : state) program.Menu().OpenButton.Press();
+}
+BENCHMARK(BM_OpenExample)
+    ->ArgName("counts")
+    ->Arg(0)
+    ->Arg(1)
+    ->Iterations(50)
     ->UseRealTime()
     ->Unit(benchmark::kMillisecond);
 
