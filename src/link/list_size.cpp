@@ -1,10 +1,12 @@
 #include "link/list_size.h"
 
+#include <algorithm>
 #include <string>
 
 #include "config/config_data.h"
 #include "config/conversions.h"
 #include "config/ini_management.h"
+#include "config/joined_values.h"
 #include "link/serial_management.h"
 
 namespace corvalis {
@@ -15,15 +17,17 @@ bool CoderCanBeAsked() {
 }
 
 void ListSize::Load(bool offered) {
-  const std::string text = ReadIniKey(source_.section, source_.key);
+  std::string text = ReadIniKey(source_.section, source_.key);
+  if (source_.in_fields) text = GetToken(text, 0, kFieldSeparator);
   if (text.empty()) {
     file_ = source_.fallback;
   } else {
     file_ = ParseDecimal<std::int16_t>(text).value_or(file_);
   }
-  std::int16_t coder = -1;
-  if (offered && CoderCanBeAsked()) source_.read_count(coder);
-  count_ = PickListCount(coder, file_, source_.fallback);
+  const bool asked = offered && CoderCanBeAsked();
+  if (!asked || !source_.keeps_answer) coder_ = kNotAsked;
+  if (asked) source_.read_count(coder_);
+  count_ = std::min(PickListCount(coder_, file_, source_.fallback), source_.limit);
 }
 
 void ListSize::Store() const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <limits>
 #include <string_view>
 
 namespace corvalis {
@@ -19,6 +20,10 @@ class ListSize {
     std::int16_t fallback;
     void (*read_count)(std::int16_t& count);  ///< the Coder's own count command
     int digits = 1;                           ///< of the key's value, at least
+    bool in_fields = false;                   ///< the key's first field is the count
+    std::int16_t limit = std::numeric_limits<std::int16_t>::max();  ///< a higher count is cut
+    /// A Coder that doesn't answer still has the count that it answered last.
+    bool keeps_answer = false;
   };
   explicit ListSize(const Source& source) : source_(source), file_(source.fallback) {}
 
@@ -32,8 +37,11 @@ class ListSize {
   [[nodiscard]] std::int16_t Count() const { return count_; }
 
  private:
+  static constexpr std::int16_t kNotAsked = -1;
+
   Source source_;
   std::int16_t file_;
+  std::int16_t coder_ = kNotAsked;
   std::int16_t count_ = 0;
 };
 

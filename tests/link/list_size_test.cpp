@@ -70,5 +70,36 @@ TEST_F(ListSizes, IsStoredWithItsDigitsAndReadAgain) {
   EXPECT_EQ(size.Count(), 7);  // what can't be converted changes nothing
 }
 
+TEST_F(ListSizes, OfPagesTheFirstFieldCountsAndTheTableHasAnEnd) {
+  const std::tuple<const char*, int, int> cases[] = {{"20;", 0, 14}, {"7;9", 0, 7}, {"", 0, 14},
+                                                     {";7", 0, 14},  {"5", 20, 14}, {"14", 3, 3}};
+  for (const auto& [file, coder, wanted] : cases) {
+    WriteIniKey("PSN", "MaxPsnNum", file);
+    coders_count = static_cast<std::int16_t>(coder);
+    ListSize size({"PSN", "MaxPsnNum", 14, Ask, 2, true, 14});
+    size.Load();
+    EXPECT_EQ(size.Count(), wanted) << file << " " << coder;
+  }
+}
+
+TEST_F(ListSizes, AFailedQuestionKeepsTheLastAnswerWhereThatIsMeant) {
+  for (const bool keeps : {false, true}) {
+    ListSize size({.section = "PSN",
+                   .key = "MaxPsnNum",
+                   .fallback = 50,
+                   .read_count = Ask,
+                   .keeps_answer = keeps});
+    coders_count = 7;
+    size.Load();
+    coders_count = 0;
+    size.Load();
+    EXPECT_EQ(size.Count(), keeps ? 7 : 50);
+    size.Load(false);  // not asked at all
+    EXPECT_EQ(size.Count(), 50);
+    size.Load();
+    EXPECT_EQ(size.Count(), 50);
+  }
+}
+
 }  // namespace
 }  // namespace corvalis::test

@@ -3,10 +3,12 @@
 #include "desktop/views/busy_views.h"
 #include "desktop/views/ct_tp_di_pi_view.h"
 #include "desktop/views/edit_groups_view.h"
+#include "desktop/views/eon_li_view.h"
 #include "desktop/views/main_view.h"
 #include "desktop/views/psn_rt_pin_af_view.h"
 #include "desktop/views/rs232c_view.h"
 #include "desktop/views/ta_pty_ms_view.h"
+#include "desktop/views/tdc_ih_view.h"
 
 namespace corvalis::desktop {
 
@@ -19,6 +21,8 @@ void RegisterViews(QtScreenHost& host) {
   host.Register<EditGroupsForm, EditGroupsView>();
   host.Register<CtTpDiPiForm, CtTpDiPiView>();
   host.Register<PsnRtPinAfForm, PsnRtPinAfView>();
+  host.Register<EonLiForm, EonLiView>();
+  host.Register<TdcIhForm, TdcIhView>();
 }
 
 }  // namespace corvalis::desktop

@@ -1,0 +1,18 @@
+#include "networks/tdc_ih_form.h"
+
+#include "config/config_data.h"
+
+namespace corvalis {
+
+TdcIhForm::TdcIhForm(Window& main_menu) : main_menu_(main_menu) {
+  window.SetCaption("TDC - IH - TMC");
+}
+
+void TdcIhForm::Load() {
+  SSTab1.SetTabEnabled(kTmcSystem, configData->TmcEnable());
+  SSTab1.SetTabEnabled(kTmc, configData->TmcEnable());
+  SSTab1.SetTab(kTdc);
+  window.ShowModal(main_menu_);
+}
+
+}  // namespace corvalis
