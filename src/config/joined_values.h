@@ -40,7 +40,10 @@ class JoinedWriter {
 /// target as it was; one that is missing is empty.
 class JoinedReader {
  public:
+  /// `text` is not copied.
   explicit JoinedReader(std::string_view text) : rest_(text) {}
+  template <std::same_as<std::string> Temporary>
+  explicit JoinedReader(Temporary&& text) = delete;
 
   /// The next field as it stands.
   std::string_view Next();

@@ -19,6 +19,14 @@ std::span<T> Take(std::span<T>& rest, std::size_t count) {
 
 }  // namespace
 
+// Bytes are what both are made of.
+std::span<std::uint8_t> BytesOf(std::string& text) {
+  return {reinterpret_cast<std::uint8_t*>(text.data()), text.size()};
+}
+std::span<const std::uint8_t> BytesOf(const std::string& text) {
+  return {reinterpret_cast<const std::uint8_t*>(text.data()), text.size()};
+}
+
 BodyWriter& BodyWriter::Flag(bool value) { return Byte(value ? '1' : '0'); }
 
 BodyWriter& BodyWriter::Hex(std::int32_t value, int digits) {

@@ -7,6 +7,10 @@
 
 namespace corvalis {
 
+/// The bytes of a text that is written or read as a part of a body.
+[[nodiscard]] std::span<std::uint8_t> BytesOf(std::string& text);
+[[nodiscard]] std::span<const std::uint8_t> BytesOf(const std::string& text);
+
 /// Writes a frame's body field by field, from its first byte on. Nothing is range-checked: what
 /// does not fit its digits goes out as it comes, and the Coder is expected to refuse it. A byte
 /// beyond the body, which would land on the frame's end, is a bug: `std::out_of_range`.

@@ -3,9 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
-#include <array>
 #include <cerrno>
-#include <climits>
 #include <ctime>
 #include <utility>
 
@@ -14,19 +12,6 @@
 namespace corvalis {
 
 namespace {
-
-/// The file that symbolic links lead to, there or not.
-std::string FollowLinks(std::string path) {
-  constexpr int kMostLinks = 40;  // as many as the kernel follows
-  for (int i = 0; i < kMostLinks; ++i) {
-    std::array<char, PATH_MAX> link;
-    const ssize_t size = ::readlink(path.c_str(), link.data(), link.size());
-    if (size <= 0) break;
-    const std::string to(link.data(), static_cast<std::size_t>(size));
-    path = to.front() == '/' ? to : FolderOf(path).append(to);
-  }
-  return path;
-}
 
 bool ReadAll(int file, off_t size, std::string& text) {
   text.resize(static_cast<std::size_t>(size));

@@ -6,7 +6,9 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
+#include <climits>
 #include <filesystem>
 #include <system_error>
 #include <thread>
@@ -35,6 +37,18 @@ bool WriteWhole(int file, std::string_view text) {
 std::string FolderOf(const std::string& path) {
   const std::size_t slash = path.rfind('/');
   return slash == std::string::npos ? "./" : path.substr(0, slash + 1);
+}
+
+std::string FollowLinks(std::string path) {
+  constexpr int kMostLinks = 40;  // as many as the kernel follows
+  for (int i = 0; i < kMostLinks; ++i) {
+    std::array<char, PATH_MAX> link;
+    const ssize_t size = ::readlink(path.c_str(), link.data(), link.size());
+    if (size <= 0) break;
+    const std::string to(link.data(), static_cast<std::size_t>(size));
+    path = to.front() == '/' ? to : FolderOf(path).append(to);
+  }
+  return path;
 }
 
 ProfileFolder::ProfileFolder(const std::string& file, std::chrono::milliseconds lock_wait)

@@ -9,6 +9,9 @@ namespace corvalis {
 /// The folder part of a path, with its "/"; "./" for a name alone.
 [[nodiscard]] std::string FolderOf(const std::string& path);
 
+/// The file that symbolic links lead to, there or not.
+[[nodiscard]] std::string FollowLinks(std::string path);
+
 /// The folder of one profile while the profile is put on the disk. Keeps a second program of this
 /// kind from saving in the same folder meanwhile. A lock that isn't given up within `lock_wait`
 /// seems to be somebody else's affair and stops nothing, and neither does a file system without

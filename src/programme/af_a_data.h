@@ -27,6 +27,7 @@ class AfAData {
   /// other lists of the Coder are emptied, as those of method B would go on being sent. If that
   /// fails, it is done again after the next send.
   void SetOneRds();
+  [[nodiscard]] bool OtherListsCleared() const { return other_lists_cleared_; }
 
   /// Loads the list from the file. A missing key empties it; a field that can't be converted leaves
   /// its entry.

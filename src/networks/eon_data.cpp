@@ -1,0 +1,204 @@
+#include "networks/eon_data.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+#include <utility>
+
+#include "config/config_data.h"
+#include "config/conversions.h"
+#include "config/ini_management.h"
+#include "config/joined_values.h"
+#include "link/body.h"
+#include "link/list_commands.h"
+#include "link/serial_management.h"
+#include "programme/af_codes.h"
+
+namespace corvalis {
+
+EonData* eonData = nullptr;
+
+namespace {
+
+constexpr const char* kSection = "EON";
+constexpr const char* kCount = "MaxListNum";
+constexpr const char* kUnnamed = "EON PSN";
+constexpr std::int32_t kUnknownPi = 0x5158;
+constexpr std::int32_t kSixteenBits = 0xFFFF;
+constexpr int kPsn = kPsnCharacters;
+
+// LF and MF frequencies by codes of 9 kHz steps.
+constexpr std::int32_t kAmStep = 9;
+constexpr std::int32_t kBelowLf = 144;  // one step below code 1
+constexpr std::int32_t kBelowMf = 522;  // one step below the first code of MF
+constexpr std::int32_t kLastLfCode = 15;
+constexpr std::int32_t kLastMfCode = 135;
+
+std::int32_t FmCode(float value) {
+  return value == kNoFreq ? kAfFiller
+                          : static_cast<std::int32_t>(std::lround(double{value} * 10 - 875));
+}
+
+std::int32_t AmCode(float value) {
+  const auto khz = static_cast<std::int32_t>(std::lround(value));
+  if (IsLf(static_cast<float>(khz))) return (khz - kBelowLf) / kAmStep;
+  if (IsMf(static_cast<float>(khz))) return (khz - kBelowMf) / kAmStep + kLastLfCode;
+  return 0;
+}
+
+float FmFreq(std::uint8_t code) { return code == kAfFiller ? kNoFreq : AfCodeFreq(code); }
+
+float AmFreq(std::uint8_t code) {
+  if (code == 0 || code > kLastMfCode) return kNoFreq;
+  return static_cast<float>(code <= kLastLfCode ? code * kAmStep + kBelowLf
+                                                : (code - kLastLfCode) * kAmStep + kBelowMf);
+}
+
+std::uint8_t LowByte(std::int32_t value) { return static_cast<std::uint8_t>(value); }
+
+// What is no code leaves the frequency.
+void ReadFreq(BodyReader& body, float& value, float (*freq)(std::uint8_t code)) {
+  if (const auto code = Narrow<std::uint8_t>(body.Hex(2))) value = freq(*code);
+}
+
+std::optional<std::int32_t> HexValue(const std::string& text) {
+  const std::int32_t value = HexToLong(text);
+  if (value < 0 || value > kSixteenBits) return std::nullopt;
+  return value;
+}
+
+std::string Key(const char* name, int number) { return name + std::to_string(number); }
+
+bool ReadSwitch(const char* name, int number) {
+  return ReadIniKey(kSection, Key(name, number)) == OnOff(true);
+}
+
+void WriteSwitch(const char* name, int number, bool on) {
+  WriteIniKey(kSection, Key(name, number), std::string(OnOff(on)));
+}
+
+template <std::size_t kSize>
+void ReadFreqs(const char* name, int number, std::array<float, kSize>& freqs) {
+  const std::string text = ReadIniKey(kSection, Key(name, number));
+  JoinedReader fields(text);
+  for (float& freq : freqs) fields.Real(freq);
+}
+
+}  // namespace
+
+// The count is written under one key and read under another, so a file that was saved does not fix
+// it by itself. That is meant.
+EonData::EonData()
+    : size_({.section = kSection,
+             .key = "MaxEonNum",
+             .fallback = 10,
+             .read_count = ReadEonNum,
+             .keeps_answer = true}) {
+  GetIni();
+}
+
+void EonData::SetCurrentList(std::int16_t list) {
+  current_ = static_cast<std::int16_t>(list < 0 ? MaxListNum() - 1 : list % MaxListNum());
+}
+
+void EonData::SetPsn(const std::string& text, std::int16_t list) {
+  At(list).psn = Padded(text, kPsn);
+}
+
+void EonData::GetOneRds(std::int16_t list) {
+  std::string payload;
+  ReadEon(static_cast<std::uint8_t>(list), payload);
+  if (LinkError != kLinkOk) return;
+  EonList& target = At(list);
+  BodyReader body(BytesOf(std::as_const(payload)));
+  target.psn = body.Text(kPsn);
+  target.tp = body.Flag();
+  target.ta = body.Flag();
+  target.pty = Narrow<std::uint8_t>(body.Hex(2)).value_or(target.pty);
+  target.pin = body.Hex(4);
+  for (float& freq : target.af_a) ReadFreq(body, freq, FmFreq);
+  for (std::size_t i = 0; i < kEonAfB; ++i) {
+    ReadFreq(body, target.af_b.at(i), i == kEonAm ? AmFreq : FmFreq);
+  }
+  target.pi = body.Hex(4);
+  target.enable = body.Flag();
+}
+
+// A place takes the low digits of what a file has brought too large for it.
+void EonData::SetOneRds(std::int16_t list) const {
+  const EonList& source = At(list);
+  std::string payload(kEonPayload, ' ');
+  BodyWriter body(BytesOf(payload));
+  body.Text(source.psn, kPsn)
+      .Flag(source.tp)
+      .Flag(source.ta)
+      .Hex(source.pty, 2)
+      .Hex(source.pin & kSixteenBits, 4);
+  for (const float freq : source.af_a) body.Hex(LowByte(FmCode(freq)), 2);
+  for (std::size_t i = 0; i < kEonAfB; ++i) {
+    const float freq = source.af_b.at(i);
+    body.Hex(LowByte(i == kEonAm ? AmCode(freq) : FmCode(freq)), 2);
+  }
+  body.Hex(source.pi & kSixteenBits, 4).Flag(source.enable);
+  SendEon(static_cast<std::uint8_t>(list), payload);
+}
+
+void EonData::GetTaRds(std::int16_t list) {
+  EonList& target = At(list);
+  ReadEonTa(static_cast<std::uint8_t>(list), target.ta);
+}
+
+void EonData::SetTaRds(std::int16_t list) const {
+  SendEonTa(static_cast<std::uint8_t>(list), Ta(list));
+}
+
+void EonData::GetIni() {
+  size_.Load(configData->Modem() || configData->EonEnable());
+  lists_.assign(static_cast<std::size_t>(MaxListNum()), {});
+  for (std::int16_t list = 0; list < MaxListNum(); ++list) Load(At(list), list);
+  current_ = 0;
+}
+
+// PIN and PTY come back as other numbers than they were written: files have always been so.
+void EonData::Load(EonList& list, int number) {
+  list.enable = ReadSwitch("Enable", number);
+  const std::string psn = ReadIniKey(kSection, Key("Psn", number));
+  list.psn = Padded(psn.empty() ? kUnnamed : psn, kPsn);
+  const std::string pi = ReadIniKey(kSection, Key("Pi", number));
+  list.pi = pi.empty() ? kUnknownPi : HexValue(pi).value_or(list.pi);
+  const std::string pin = ReadIniKey(kSection, Key("Pin", number));
+  const std::string digits = pin.substr(0, pin.find_first_not_of("0123456789"));
+  const std::int32_t value = ParseDecimal<std::int32_t>(digits).value_or(list.pin);
+  if (value <= kSixteenBits) list.pin = value;
+  const std::string pty = ReadIniKey(kSection, Key("Pty", number));
+  list.pty = Narrow<std::uint8_t>(HexValue(pty).value_or(list.pty)).value_or(list.pty);
+  list.tp = ReadSwitch("Tp", number);
+  list.ta = ReadSwitch("Ta", number);
+  ReadFreqs("AfMethodA", number, list.af_a);
+  ReadFreqs("AfMethodB", number, list.af_b);
+}
+
+void EonData::SetIni() const {
+  WriteIniKey(kSection, kCount, std::to_string(MaxListNum()));
+  for (std::int16_t list = 0; list < MaxListNum(); ++list) Store(At(list), list);
+}
+
+void EonData::Store(const EonList& list, int number) {
+  WriteSwitch("Enable", number, list.enable);
+  WriteIniKey(kSection, Key("Psn", number), JoinedWriter().Text(list.psn).Separated());
+  WriteIniKey(kSection, Key("Pi", number), LongToHex(list.pi & kSixteenBits, 1));
+  WriteIniKey(kSection, Key("Pin", number), LongToHex(list.pin & kSixteenBits, 1));
+  WriteIniKey(kSection, Key("Pty", number), Digits(list.pty, 2));
+  WriteSwitch("Tp", number, list.tp);
+  WriteSwitch("Ta", number, list.ta);
+  JoinedWriter by_a;
+  for (const float freq : list.af_a) by_a.Real(freq, 3, 1);
+  WriteIniKey(kSection, Key("AfMethodA", number), by_a.Ended());
+  JoinedWriter by_b;
+  for (std::size_t i = 0; i < kEonAfB; ++i) {
+    by_b.Real(list.af_b.at(i), 3, i == kEonAm ? 0 : 1);
+  }
+  WriteIniKey(kSection, Key("AfMethodB", number), by_b.Ended());
+}
+
+}  // namespace corvalis

@@ -1,0 +1,99 @@
+#include "networks/ih_data.h"
+
+#include "config/config_data.h"
+#include "config/conversions.h"
+#include "config/ini_management.h"
+#include "config/joined_values.h"
+#include "platform/plain_file.h"
+
+namespace corvalis {
+
+IhData* ihData = nullptr;
+
+namespace {
+
+constexpr const char* kSection = "Ih Pages";
+constexpr const char* kLineEnd = "\r\n";
+
+std::string Key(int i) { return "Page" + Digits(i, 2); }
+
+}  // namespace
+
+IhData::IhData()
+    : size_({.section = kSection,
+             .key = "Page Count",
+             .fallback = kIhPages,
+             .read_count = ReadIhNum,
+             .digits = 2,
+             .in_fields = true,
+             .limit = kIhPages}) {
+  default_.page = Padded(NewPage(), kIhCharacters);
+  default_.drive = configData->Drive();
+  default_.path = configData->Path();
+  GetIni();
+}
+
+const std::string& IhData::NewPage() {
+  static const std::string text = "Default Page";
+  return text;
+}
+
+void IhData::SetPage(std::int16_t i, const std::string& text) {
+  At(i).page = Padded(text, kIhCharacters);
+}
+
+std::string IhData::FullName(std::int16_t i) const {
+  const std::string& folder = Path(i);
+  return folder + (folder.empty() || folder.ends_with('/') ? "" : "/") + FileName(i);
+}
+
+bool IhData::ReadFile(std::int16_t i) {
+  const auto bytes = ReadPlainFile(FullName(i), kIhCharacters);
+  if (bytes) SetPage(i, *bytes);
+  return bytes.has_value();
+}
+
+bool IhData::WriteFile(std::int16_t i) const {
+  return WritePlainFile(FullName(i), Page(i) + kLineEnd);
+}
+
+void IhData::GetOneRds(std::int16_t i) {
+  IhPage& target = At(i);
+  ReadIh(i, target.page, target.rotation_time);
+}
+
+void IhData::SetOneRds(std::int16_t i) const { SendIh(i, Page(i), RotationTime(i)); }
+
+void IhData::GetIni() {
+  size_.Load();
+  for (std::int16_t i = 0; i < PagesCount(); ++i) {
+    IhPage& target = At(i);
+    const std::string text = ReadIniKey(kSection, Key(i));
+    if (text.empty()) {
+      target = default_;
+      target.file_name = Key(i) + ".txt";
+      continue;
+    }
+    JoinedReader(text)
+        .Number(target.rotation_time)
+        .Text(target.drive)
+        .Text(target.path)
+        .Text(target.file_name);
+    ReadFile(i);
+  }
+}
+
+void IhData::SetIni() const {
+  size_.Store();
+  for (std::int16_t i = 0; i < PagesCount(); ++i) {
+    WriteIniKey(kSection, Key(i),
+                JoinedWriter()
+                    .Number(RotationTime(i), 2)
+                    .Text(Drive(i))
+                    .Text(Path(i))
+                    .Text(FileName(i))
+                    .Ended());
+  }
+}
+
+}  // namespace corvalis
