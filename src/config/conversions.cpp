@@ -185,6 +185,21 @@ std::optional<double> ParseNumber(std::string_view text) {
   return value;
 }
 
+double LeadingNumber(std::string_view text) {
+  std::string number;
+  bool point = false;
+  for (const char c : text) {
+    const bool digit = c >= '0' && c <= '9';
+    const bool sign = number.empty() && (c == '-' || c == '+');
+    if (!digit && !sign && (c != '.' || point)) break;
+    point = point || c == '.';
+    number += c;
+  }
+  while (number.ends_with('.')) number.pop_back();
+  if (number.starts_with('.')) number.insert(0, "0");
+  return ParseNumber(number).value_or(0);
+}
+
 std::optional<float> ParseFloat(std::string_view text) {
   const auto value = ParseNumber(text);
   if (!value || std::abs(*value) > std::numeric_limits<float>::max()) return std::nullopt;

@@ -79,7 +79,11 @@ extern template std::optional<std::int32_t> ParseDecimal(std::string_view text);
 /// for anything else.
 [[nodiscard]] std::optional<double> ParseNumber(std::string_view text);
 
-/// The same for a 32-bit float, which a frequency is: computed in 64 bits and narrowed once;
+/// The number that a text begins with, as far as its digits, sign and one point go; 0 if there is
+/// none. What follows is not looked at.
+[[nodiscard]] double LeadingNumber(std::string_view text);
+
+/// As `ParseNumber`, for a 32-bit float, which a frequency is: computed in 64 bits and narrowed once;
 /// nullopt also beyond its range.
 [[nodiscard]] std::optional<float> ParseFloat(std::string_view text);
 

@@ -97,7 +97,7 @@ EonData::EonData()
   GetIni();
 }
 
-void EonData::SetCurrentList(std::int16_t list) {
+void EonData::SetCurrentList(std::int32_t list) {
   current_ = static_cast<std::int16_t>(list < 0 ? MaxListNum() - 1 : list % MaxListNum());
 }
 

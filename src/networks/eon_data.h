@@ -24,7 +24,7 @@ class EonData {
   /// The list on the screen.
   [[nodiscard]] std::int16_t CurrentList() const { return current_; }
   /// Goes around at both ends.
-  void SetCurrentList(std::int16_t list);
+  void SetCurrentList(std::int32_t list);
 
   /// Always 8 characters; what is set is cut, or filled with blanks.
   [[nodiscard]] const std::string& Psn(std::int16_t list) const { return At(list).psn; }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "networks/eon_tab.h"
+#include "networks/li_tab.h"
+#include "networks/ta_eon_tab.h"
 #include "screen/tabs.h"
 #include "screen/window.h"
 
@@ -16,9 +19,12 @@ class EonLiForm {
 
   Window window{this, "EonLiForm"};
   Tabs EONSSTab{window, "EONSSTab", {"EON", "LI", "TA EON"}};
+  EonTab eon{window};
+  LiTab li{window};
+  TaEonTab ta_eon{window};
 
  private:
-  enum Tab { kEon, kLi, kTaEon };
+  enum Tab { kEon };
   Window& main_menu_;
 };
 

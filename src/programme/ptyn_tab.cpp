@@ -43,11 +43,8 @@ PtynTab::PtynTab(Window& window)
 // A longer name is cut, and is taken at once.
 void PtynTab::FitName() {
   if (PtynText.Text().size() <= kPtynCharacters) return;
-  const std::string name = PtynText.Text().substr(0, kPtynCharacters);
-  const int behind = PtynText.SelStart();  // the character struck: typing goes on there
-  PtynText.SetText(name);
-  PtynText.Select(behind, 0);
-  ptynData->SetPtyn(name, ptynData->CurrentPtyn());
+  PtynText.CutTo(kPtynCharacters);
+  ptynData->SetPtyn(PtynText.Text(), ptynData->CurrentPtyn());
 }
 
 void PtynTab::ShowName() { PtynText.SetText(ptynData->Ptyn(ptynData->CurrentPtyn())); }

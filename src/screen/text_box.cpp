@@ -22,6 +22,13 @@ void TextBox::Select(int start, int length) {
   Redraw();
 }
 
+void TextBox::CutTo(std::size_t length) {
+  if (text_.size() <= length) return;
+  const int caret = sel_start_;
+  SetText(text_.substr(0, length));
+  Select(caret, 0);
+}
+
 bool TextBox::RefusedByForm(int& key) const {
   if (KeyPress) KeyPress(key);
   return key == kKeyCancelled;

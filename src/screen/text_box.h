@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <string>
 
@@ -26,6 +27,8 @@ class TextBox : public Control {
   [[nodiscard]] int SelLength() const { return sel_length_; }
   /// Positions beyond the text are moved to its end.
   void Select(int start, int length);
+  /// Cuts what is beyond so many bytes; raises `Change` then. The caret stays where it is.
+  void CutTo(std::size_t length);
   void SelectAll() { Select(0, static_cast<int>(text_.size())); }
 
   /// Bytes that the operator's hand can bring the text to; what is struck or pasted beyond is cut.
