@@ -1,14 +1,21 @@
 #include "networks/tdc_ih_form.h"
 
 #include "config/config_data.h"
+#include "link/utility.h"
 
 namespace corvalis {
 
 TdcIhForm::TdcIhForm(Window& main_menu) : main_menu_(main_menu) {
   window.SetCaption("TDC - IH - TMC");
+  // What is being typed is kept.
+  window.Unloading = [this] { CommitGridRow(tmc.TmcDBGrid); };
 }
 
 void TdcIhForm::Load() {
+  tmc_system.InitCaptions();
+  tmc.InitCaptions();
+  tmc_system.Open();
+  tmc.Open();
   SSTab1.SetTabEnabled(kTmcSystem, configData->TmcEnable());
   SSTab1.SetTabEnabled(kTmc, configData->TmcEnable());
   SSTab1.SetTab(kTdc);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "networks/tmc_system_tab.h"
+#include "networks/tmc_tab.h"
 #include "screen/tabs.h"
 #include "screen/window.h"
 
@@ -15,6 +17,8 @@ class TdcIhForm {
 
   Window window{this, "TdcIhForm"};
   Tabs SSTab1{window, "SSTab1", {"TDC", "IH", "TMC System", "TMC"}};
+  TmcSystemTab tmc_system{window};
+  TmcTab tmc{window};
 
  private:
   enum Tab { kTdc, kIh, kTmcSystem, kTmc };

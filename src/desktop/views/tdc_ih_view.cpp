@@ -1,5 +1,7 @@
 #include "desktop/views/tdc_ih_view.h"
 
+#include "desktop/views/tmc_page.h"
+#include "desktop/views/tmc_system_page.h"
 #include "desktop/widgets/layout.h"
 #include "desktop/widgets/tabs_widget.h"
 
@@ -7,6 +9,9 @@ namespace corvalis::desktop {
 
 TdcIhView::TdcIhView(TdcIhForm& form) : WindowView(form.window) {
   auto* tabs = new TabsWidget(form.SSTab1, this);
+  // The pages of TDC and IH stand before these.
+  tabs->AddPage(new TmcSystemPage(form.tmc_system, tabs));
+  tabs->AddPage(new TmcPage(form.tmc, tabs));
   WindowColumn(this)->addWidget(tabs);
 }
 

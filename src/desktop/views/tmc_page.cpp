@@ -1,0 +1,16 @@
+#include "desktop/views/tmc_page.h"
+
+#include "desktop/widgets/grid_widget.h"
+#include "desktop/widgets/layout.h"
+
+namespace corvalis::desktop {
+
+TmcPage::TmcPage(TmcTab& tab, QWidget* parent) : QWidget(parent) {
+  auto* grid = new GridWidget(tab.TmcDBGrid, this, QStringLiteral("TMC messages"));
+  ListPage(this, grid,
+           {&tab.ReadTmcCommand, &tab.ReadAllTmcCommand, &tab.SendTmcCommand,
+            &tab.SendAllTmcCommand, &tab.SendAllBurstTmcCommand},
+           {}, {SelectedRow(tab.TmcSelectedLabel, grid, this)});
+}
+
+}  // namespace corvalis::desktop

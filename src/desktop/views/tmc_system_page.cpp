@@ -1,0 +1,45 @@
+#include "desktop/views/tmc_system_page.h"
+
+#include <QGroupBox>
+
+#include "desktop/widgets/check_box_widget.h"
+#include "desktop/widgets/layout.h"
+#include "desktop/widgets/spinner_widget.h"
+#include "desktop/widgets/style.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+constexpr int kDigits = 2;
+
+}  // namespace
+
+TmcSystemPage::TmcSystemPage(TmcSystemTab& tab, QWidget* parent) : QWidget(parent) {
+  QVBoxLayout* column = Column(this);
+  column->setContentsMargins(0, kApart, 0, 0);
+  column->setSpacing(kApart);
+
+  auto* numbers = new QGroupBox(QStringLiteral("System"), this);
+  QGridLayout* fields = Fields(numbers);
+  AddField(*fields, QStringLiteral("LTN"),
+           new SpinField(tab.LtnText, tab.LtnVScroll, kDigits, numbers));
+  AddField(*fields, QStringLiteral("SID"),
+           new SpinField(tab.SidText, tab.SidVScroll, kDigits, numbers));
+  column->addWidget(numbers);
+
+  auto* scope = new QGroupBox(QStringLiteral("Scope"), this);
+  auto* boxes = new QVBoxLayout(scope);
+  for (CheckBox* box :
+       {&tab.InternationalCheck, &tab.NationalCheck, &tab.RegionalCheck, &tab.UrbanCheck}) {
+    boxes->addWidget(new CheckBoxWidget(*box, scope));
+  }
+  column->addWidget(scope);
+
+  column->addWidget(ButtonRow(
+      {&tab.ReadTmcSystemCommand, &tab.SendTmcSystemCommand, &tab.SendTmcSystemBurstCommand},
+      this));
+  column->addStretch();
+}
+
+}  // namespace corvalis::desktop
