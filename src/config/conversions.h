@@ -83,8 +83,8 @@ extern template std::optional<std::int32_t> ParseDecimal(std::string_view text);
 /// none. What follows is not looked at.
 [[nodiscard]] double LeadingNumber(std::string_view text);
 
-/// As `ParseNumber`, for a 32-bit float, which a frequency is: computed in 64 bits and narrowed once;
-/// nullopt also beyond its range.
+/// As `ParseNumber`, for a 32-bit float, which a frequency is: computed in 64 bits and narrowed
+/// once; nullopt also beyond its range.
 [[nodiscard]] std::optional<float> ParseFloat(std::string_view text);
 
 /// The formats "000.0", "000.000" and "000" of frequencies: at least `width` digits before the
