@@ -29,6 +29,8 @@ class IhData {
   void SetPath(std::int16_t i, const std::string& text) { At(i).path = text; }
   [[nodiscard]] const std::string& FileName(std::int16_t i) const { return At(i).file_name; }
   void SetFileName(std::int16_t i, const std::string& text) { At(i).file_name = text; }
+  /// The file's whole name: the folder, a "/" unless it ends in one, and the name.
+  [[nodiscard]] std::string FullName(std::int16_t i) const;
   /// Always 2048 characters, line ends included; what is set is cut, or filled with blanks.
   [[nodiscard]] const std::string& Page(std::int16_t i) const { return At(i).page; }
   void SetPage(std::int16_t i, const std::string& text);
@@ -61,7 +63,6 @@ class IhData {
     return pages_.at(static_cast<std::size_t>(i));
   }
   [[nodiscard]] IhPage& At(std::int16_t i) { return pages_.at(static_cast<std::size_t>(i)); }
-  [[nodiscard]] std::string FullName(std::int16_t i) const;
 
   ListSize size_;
   IhPage default_;

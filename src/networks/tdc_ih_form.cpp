@@ -12,8 +12,10 @@ TdcIhForm::TdcIhForm(Window& main_menu) : main_menu_(main_menu) {
 }
 
 void TdcIhForm::Load() {
+  ih.InitCaptions();
   tmc_system.InitCaptions();
   tmc.InitCaptions();
+  ih.Open();
   tmc_system.Open();
   tmc.Open();
   SSTab1.SetTabEnabled(kTmcSystem, configData->TmcEnable());

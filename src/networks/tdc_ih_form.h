@@ -1,5 +1,6 @@
 #pragma once
 
+#include "networks/ih_tab.h"
 #include "networks/tmc_system_tab.h"
 #include "networks/tmc_tab.h"
 #include "screen/tabs.h"
@@ -17,6 +18,7 @@ class TdcIhForm {
 
   Window window{this, "TdcIhForm"};
   Tabs SSTab1{window, "SSTab1", {"TDC", "IH", "TMC System", "TMC"}};
+  IhTab ih{window};
   TmcSystemTab tmc_system{window};
   TmcTab tmc{window};
 

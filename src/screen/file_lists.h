@@ -30,8 +30,8 @@ class DirList : public ListBox {
   /// was, if it can't be read.
   bool SetPath(const std::string& folder);
 
-  /// The operator opens the chosen entry (a double click, or the Enter key).
-  void Open(int index);
+  /// Goes into the folder that is opened.
+  void Open(int index) override;
 
   /// The depth of an entry below the root, for whoever draws the list.
   [[nodiscard]] int Depth(int index) const;

@@ -38,6 +38,10 @@ void ListBox::Choose(int index) {
   if (Click) Click();
 }
 
+void ListBox::Open(int index) {
+  if (TakesEvents() && index != kNone && index == index_ && DoubleClick) DoubleClick();
+}
+
 void ListBox::TypeKey(int key) {
   if (TakesEvents() && KeyPress) KeyPress(key);
 }

@@ -43,10 +43,14 @@ class ListBox : public Control {
 
   /// The operator chooses an entry; raises `Click` also for the entry that was selected already.
   void Choose(int index);
+  /// The operator opens an entry (a double click, or the Enter key), which is selected by then.
+  virtual void Open(int index);
   /// The operator strikes a key; `KeyPress` tells the form. A key never changes the selection here.
   void TypeKey(int key);
 
   std::function<void()> Click;
+  /// The entry selected has been opened.
+  std::function<void()> DoubleClick;
   /// The form may cancel the key with 0.
   std::function<void(int& key)> KeyPress;
 

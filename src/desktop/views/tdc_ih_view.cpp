@@ -1,5 +1,6 @@
 #include "desktop/views/tdc_ih_view.h"
 
+#include "desktop/views/ih_page.h"
 #include "desktop/views/tmc_page.h"
 #include "desktop/views/tmc_system_page.h"
 #include "desktop/widgets/layout.h"
@@ -9,7 +10,8 @@ namespace corvalis::desktop {
 
 TdcIhView::TdcIhView(TdcIhForm& form) : WindowView(form.window) {
   auto* tabs = new TabsWidget(form.SSTab1, this);
-  // The pages of TDC and IH stand before these.
+  // The page of TDC stands before these.
+  tabs->AddPage(new IhPage(form.ih, tabs));
   tabs->AddPage(new TmcSystemPage(form.tmc_system, tabs));
   tabs->AddPage(new TmcPage(form.tmc, tabs));
   WindowColumn(this)->addWidget(tabs);

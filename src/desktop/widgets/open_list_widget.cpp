@@ -151,7 +151,16 @@ QSize FileListWidget::minimumSizeHint() const {
   return {kLeastWidth, OpenListWidget::minimumSizeHint().height()};
 }
 
+void FileListWidget::mouseDoubleClickEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || !hasFocus()) return;
+  if (const auto* pressed = itemAt(event->position().toPoint())) files_.Open(row(pressed));
+}
+
 void FileListWidget::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+    files_.Open(files_.Index());
+    return;
+  }
   const bool command = event->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
   if (command || event->text().isEmpty() || !event->text()[0].isPrint()) {
     OpenListWidget::keyPressEvent(event);
@@ -180,19 +189,6 @@ void DirListWidget::Dress(QListWidgetItem& item, int index) {
   const QString name = indent + Shown(list_.Entry(index));
   if (item.text() != name) item.setText(name);
   item.setFont(index == list_.Here() ? Bold(font()) : font());
-}
-
-void DirListWidget::mouseDoubleClickEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || !hasFocus()) return;
-  if (const auto* pressed = itemAt(event->position().toPoint())) list_.Open(row(pressed));
-}
-
-void DirListWidget::keyPressEvent(QKeyEvent* event) {
-  if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
-    list_.Open(list_.Index());
-  } else {
-    FileListWidget::keyPressEvent(event);
-  }
 }
 
 }  // namespace corvalis::desktop

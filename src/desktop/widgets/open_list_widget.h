@@ -44,7 +44,8 @@ class OpenListWidget : public QListWidget {
 };
 
 /// A list of the names of files. One that is too long leaves out its middle and is whole in a tip.
-/// The letters typed choose the first name that begins with them.
+/// The letters typed choose the first name that begins with them; a double click or Enter opens
+/// one.
 class FileListWidget : public OpenListWidget {
  public:
   FileListWidget(ListBox& files, QWidget* parent);
@@ -53,6 +54,7 @@ class FileListWidget : public OpenListWidget {
   [[nodiscard]] QSize minimumSizeHint() const override;
 
  protected:
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
@@ -67,8 +69,6 @@ class DirListWidget : public FileListWidget {
   DirListWidget(DirList& list, QWidget* parent);
 
  protected:
-  void mouseDoubleClickEvent(QMouseEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
   void Dress(QListWidgetItem& item, int index) override;
 
  private:

@@ -1,0 +1,34 @@
+#include "desktop/widgets/state_line.h"
+
+#include <QResizeEvent>
+
+#include "desktop/text.h"
+#include "desktop/widgets/binding.h"
+#include "desktop/widgets/style.h"
+
+namespace corvalis::desktop {
+
+StateLine::StateLine(Label& label, TextBox::Content content, QWidget* parent) : QLabel(parent) {
+  setTextFormat(Qt::PlainText);
+  setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+  QPalette quiet = palette();
+  quiet.setColor(QPalette::WindowText, QColor(colours::kQuietText));
+  setPalette(quiet);
+  Bind(*this, label, [this, &label, content] {
+    whole_ = FromContent(label.Caption(), content);
+    setAccessibleName(whole_);
+    Elide();
+  });
+}
+
+void StateLine::resizeEvent(QResizeEvent* event) {
+  QLabel::resizeEvent(event);
+  Elide();
+}
+
+void StateLine::Elide() {
+  setText(fontMetrics().elidedText(whole_, Qt::ElideMiddle, width()));
+  setToolTip(text() == whole_ ? QString() : whole_);
+}
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,213 @@
+#include "networks/ih_tab.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+#include "config/conversions.h"
+#include "config/language_data.h"
+
+namespace corvalis {
+
+namespace {
+
+std::int16_t Index(int value) { return static_cast<std::int16_t>(value); }
+
+std::string WithoutFill(const std::string& page) {
+  return page.substr(0, page.find_last_not_of(' ') + 1);
+}
+
+struct BoxTexts {
+  std::string key, tip;
+};
+
+std::array<BoxTexts, IhTab::kBoxes> TextsOfBoxes(const LanguageData& texts) {
+  return {{{texts.IhPage00Key(), texts.IhPage00Tip()},
+           {texts.IhPage01Key(), texts.IhPage01Tip()},
+           {texts.IhPage02Key(), texts.IhPage02Tip()},
+           {texts.IhPage03Key(), texts.IhPage03Tip()},
+           {texts.IhPage04Key(), texts.IhPage04Tip()},
+           {texts.IhPage05Key(), texts.IhPage05Tip()},
+           {texts.IhPage06Key(), texts.IhPage06Tip()},
+           {texts.IhPage07Key(), texts.IhPage07Tip()},
+           {texts.IhPage08Key(), texts.IhPage08Tip()},
+           {texts.IhPage09Key(), texts.IhPage09Tip()},
+           {texts.IhPage10Key(), texts.IhPage10Tip()},
+           {texts.IhPage11Key(), texts.IhPage11Tip()},
+           {texts.IhPage12Key(), texts.IhPage12Tip()},
+           {texts.IhPage13Key(), texts.IhPage13Tip()},
+           {texts.IhPage14Key(), texts.IhPage14Tip()}}};
+}
+
+}  // namespace
+
+IhTab::IhTab(Window& window)
+    : window_(window),
+      buttons_(window,
+               {.read_one = &Command13,
+                .read_all = &Command7,
+                .send_one = &Command11,
+                .send_all = &Command1,
+                .burst = &Command12},
+               {},
+               {{.count = [] { return ihData->PagesCount(); },
+                 .selected =
+                     [this] {
+                       std::vector<int> ticked;
+                       for (int i = 0; i < ihData->PagesCount(); ++i) {
+                         if (Check1[i].Checked()) ticked.push_back(i);
+                       }
+                       return ticked;
+                     },
+                 .read = [](int page) { ihData->GetOneRds(Index(page)); },
+                 .send = [](int page) { ihData->SetOneRds(Index(page)); },
+                 .refresh =
+                     [this] {
+                       // What stands there for the page stays: a send shows nothing new, and what
+                       // is typed beyond the page's end stays in sight.
+                       if (Padded(RichTextBox1.Text(), kIhCharacters) != ihData->Page(page_)) {
+                         ShowPage();
+                       }
+                     }}}) {
+  // Typing in the list of pages is dropped; so the list has no key rule.
+  Combo1.LostFocus = [this] { LeavePages(); };
+  RichTextBox1.Change = [this] {
+    ihData->SetPage(page_, RichTextBox1.Text());
+    ShowCount();
+    ShowPath();  // what is in the file is another text now
+  };
+  SetFileRules();
+}
+
+void IhTab::SetFileRules() {
+  Drive1.GotFocus = [this] { Drive1.Refresh(); };  // a medium may have come or gone
+  Drive1.Click = [this] {
+    if (showing_ || !Dir1.SetPath(Drive1.Drive())) return;
+    ihData->SetDrive(page_, Drive1.Drive());
+    TakeFolder();
+  };
+  Dir1.Click = [this] { ShowFiles(); };
+  Dir1.Change = [this] {
+    File1.SetPath(Dir1.Path());
+    if (!showing_) TakeFolder();
+  };
+  File1.DoubleClick = [this] { TakeFile(); };
+  Text105.LostFocus = [this] { LeaveName(); };
+  Command15.Click = [this] { ReadFile(); };
+  Command16.Click = [this] { WriteFile(); };
+  Command8.Click = [this] {
+    ihData->SetPage(page_, IhData::NewPage());
+    ShowPage();
+  };
+}
+
+void IhTab::TakeFolder() {
+  ihData->SetPath(page_, Dir1.Path());
+  ShowFiles();
+  ShowPath();
+}
+
+void IhTab::TakeFile() {
+  Text105.SetText(File1.FileName());
+  ihData->SetDrive(page_, Drive1.Drive());
+  ihData->SetPath(page_, File1.Path());
+  LeaveName();
+}
+
+void IhTab::LeaveName() {
+  ihData->SetFileName(page_, Text105.Text());
+  File1.Match(Text105.Text());
+  ShowPath();
+}
+
+void IhTab::LeavePages() {
+  const int chosen = Combo1.Index();
+  if (chosen >= 0 && chosen < ihData->PagesCount() && chosen != page_) GoTo(Index(chosen));
+}
+
+void IhTab::ReadFile() {
+  if (ihData->ReadFile(page_)) ShowPage();
+  ShowFiles();  // a missing file has been made
+}
+
+void IhTab::WriteFile() {
+  const bool written = ihData->WriteFile(page_);
+  ShowFiles();
+  ShowPath();
+  if (written) PathLabel.SetCaption(PathLabel.Caption() + "  (written)");
+}
+
+void IhTab::GoTo(std::int16_t page) {
+  page_ = page;
+  Combo1.SetIndex(page);
+  Text105.SetText(ihData->FileName(page));
+  ShowFolder();
+  ShowFiles();
+  ShowPage();
+  ShowPath();
+}
+
+// Shows where the page's file is, and leaves the page as it is. If there is no such folder the
+// lists stay where they are; the path below them tells.
+void IhTab::ShowFolder() {
+  showing_ = true;
+  const std::string& folder = ihData->Path(page_);
+  Drive1.Refresh();
+  Drive1.SetDrive(folder);
+  if (!Dir1.SetPath(folder) && Dir1.Path().empty()) Dir1.SetPath(Drive1.Drive());
+  showing_ = false;
+}
+
+void IhTab::ShowFiles() {
+  File1.Refresh();
+  File1.Match(ihData->FileName(page_));
+}
+
+void IhTab::ShowPage() {
+  RichTextBox1.SetText(WithoutFill(ihData->Page(page_)));
+  ShowCount();
+}
+
+void IhTab::ShowCount() {
+  CountLabel.SetCaption(std::to_string(RichTextBox1.Text().size()) + " of " +
+                        std::to_string(kIhCharacters));
+}
+
+void IhTab::ShowPath() { PathLabel.SetCaption(ihData->FullName(page_)); }
+
+void IhTab::InitCaptions() {
+  const LanguageData& texts = *languageData;
+  const auto boxes = TextsOfBoxes(texts);
+  for (int i = 0; i < kBoxes; ++i) {
+    const BoxTexts& one = boxes.at(static_cast<std::size_t>(i));
+    Check1[i].SetTexts(one.key, one.tip);
+  }
+  Combo1.SetToolTip(texts.IhComboTip());
+  RichTextBox1.SetToolTip(texts.IhWorksheetTip());
+  Drive1.SetToolTip(texts.IhDriveTip());
+  Dir1.SetToolTip(texts.IhDirTip());
+  File1.SetToolTip(texts.IhPageNameTip());
+  Text105.SetToolTip(texts.IhPageNameTip());
+  Command15.SetTexts(texts.IhReadPageKey(), texts.IhReadPageTip());
+  Command16.SetTexts(texts.IhWritePageKey(), texts.IhWritePageTip());
+  Command8.SetTexts(texts.IhNewKey(), texts.IhNewTip());
+  Command13.SetTexts(texts.IhReadSelKey(), texts.IhReadSelTip());
+  Command7.SetTexts(texts.IhReadAllKey(), texts.IhReadAllTip());
+  Command11.SetTexts(texts.IhSendSelKey(), texts.IhSendSelTip());
+  Command1.SetTexts(texts.IhSendAllKey(), texts.IhSendAllTip());
+  Command12.SetTexts(texts.IhSendAllBurstKey(), texts.IhSendAllBurstTip());
+}
+
+void IhTab::Open() {
+  buttons_.Show();
+  std::vector<std::string> pages;
+  for (int i = 0; i < ihData->PagesCount(); ++i) pages.push_back("Page" + Digits(i, 2));
+  Combo1.Fill(pages);
+  for (int i = 0; i < kBoxes; ++i) {
+    Check1[i].SetChecked(false);
+    Check1[i].SetEnabled(i < ihData->PagesCount());
+  }
+  GoTo(0);
+}
+
+}  // namespace corvalis

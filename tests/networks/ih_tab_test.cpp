@@ -1,0 +1,186 @@
+// The in-house pages on their tab, and their files.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+#include "networks/networks_screen.h"
+#include "networks/tdc_ih_form.h"
+
+namespace corvalis::test {
+namespace {
+
+std::string Full(std::string text) {
+  text.resize(2048, ' ');
+  return text;
+}
+
+class IhTabTest : public NetworksTest<TdcIhForm> {
+ protected:
+  IhTabTest() {
+    std::filesystem::create_directories(there + "/inner");
+    WriteFile(there + "/one.txt", "ONE");
+    WriteFile(there + "/two.txt", "TWO\r\nLINES");
+    WriteFile(there + "/inner/deep.txt", "DEEP");
+  }
+  void OpenTab(const std::string& link = kLocal) {
+    OpenScreen(link + "[Ih Pages]\nPage Count=3\nPage00=1;;" + there + ";one.txt\nPage01=2;;" +
+               there + "/;two.txt;\nPage02=3;;" + folder + "/no such folder;none.txt;\n");
+  }
+  IhTab& Tab() { return form->ih; }
+  void Go(Control& to) { form->window.MoveFocus(&to); }
+  void GoToPage(int page) {
+    Go(Tab().Combo1);
+    Tab().Combo1.Choose(page);
+    Go(Tab().RichTextBox1);
+  }
+  // The last characters of the index bytes and page digits of what has been sent.
+  std::string SentPages() {
+    std::string pages;
+    for (const Bytes& frame : Written()) {
+      if (frame.size() == 12 && frame[2] == 1) pages += static_cast<char>(frame[5]);
+    }
+    return pages;
+  }
+
+  const std::string there = folder + "/pages";
+};
+
+TEST_F(IhTabTest, APageIsChosenWhenItsListIsLeft) {
+  OpenTab();
+  EXPECT_EQ(Tab().Combo1.Entries(), (std::vector<std::string>{"Page00", "Page01", "Page02"}));
+  EXPECT_EQ(Tab().RichTextBox1.Text(), "ONE");
+  EXPECT_EQ(Tab().File1.FileName(), "one.txt");
+  Go(Tab().Combo1);
+  Tab().Combo1.TypeKey('2');
+  EXPECT_EQ(Tab().Combo1.Index(), 0);
+  Tab().Combo1.Choose(1);
+  EXPECT_EQ(Tab().RichTextBox1.Text(), "ONE");
+  Tab().Command8.Press();  // is about the page chosen
+  EXPECT_EQ(ihData->Page(0), Full("ONE"));
+  EXPECT_EQ(ihData->Page(1), Full("Default Page"));
+  EXPECT_EQ(Tab().RichTextBox1.Text(), "Default Page");
+  EXPECT_EQ(Tab().CountLabel.Caption(), "12 of 2048");
+  EXPECT_EQ(Tab().Text105.Text(), "two.txt");
+  EXPECT_EQ(Tab().File1.FileName(), "two.txt");
+  GoToPage(2);  // where there is no folder
+  EXPECT_EQ(Tab().PathLabel.Caption(), folder + "/no such folder/none.txt");
+  EXPECT_EQ(Tab().File1.FileName(), "");
+  // To look at the pages has changed none.
+  EXPECT_EQ(ihData->Path(1), there + "/");
+  EXPECT_EQ(ihData->Path(2), folder + "/no such folder");
+  EXPECT_EQ(ihData->Drive(1), "");
+  Tab().Text105.SelectAll();
+  Tab().Text105.Type("typed;name.txt");
+  Go(Tab().Text105);
+  form->window.Close();
+  EXPECT_EQ(ihData->FileName(2), "typed;name.txt");
+}
+
+TEST_F(IhTabTest, WhatIsTypedIsThePageAsFarAsItHasRoom) {
+  OpenTab();
+  std::string bytes;
+  for (int i = 0; i < 2040; ++i) bytes += static_cast<char>(i);
+  ihData->SetPage(1, "\n" + bytes + "\r\r\n\n  ");
+  const std::string page = ihData->Page(1);
+  GoToPage(1);
+  GoToPage(0);
+  EXPECT_EQ(ihData->Page(1), page);
+  const std::string longer(2100, 'x');
+  Tab().RichTextBox1.Edit(longer, 2100);
+  EXPECT_EQ(Tab().CountLabel.Caption(), "2100 of 2048");
+  EXPECT_EQ(ihData->Page(0), std::string(2048, 'x'));
+  Tab().Command1.Press();
+  EXPECT_EQ(Tab().RichTextBox1.Text(), longer);
+  GoToPage(1);
+  GoToPage(0);
+  EXPECT_EQ(Tab().RichTextBox1.Text().size(), 2048U);
+}
+
+TEST_F(IhTabTest, APageIsReadFromItsFileAndWrittenToIt) {
+  OpenTab();
+  Tab().RichTextBox1.Edit("", 0);
+  Tab().Command15.Press();
+  EXPECT_EQ(Tab().RichTextBox1.Text(), "ONE");
+  Tab().Text105.SelectAll();
+  Go(Tab().Text105);
+  Tab().Text105.Edit("new.txt", 7);
+  Tab().Command16.Press();
+  EXPECT_EQ(ReadFile(there + "/new.txt"), Full("ONE") + "\r\n");
+  EXPECT_EQ(Tab().File1.FileName(), "new.txt");
+  EXPECT_EQ(Tab().PathLabel.Caption(), there + "/new.txt  (written)");
+  Tab().RichTextBox1.Edit("ELSE", 4);
+  EXPECT_EQ(Tab().PathLabel.Caption(), there + "/new.txt");
+  Go(Tab().Text105);
+  Tab().Text105.Edit("inner", 5);  // a folder
+  Tab().Command16.Press();
+  Tab().Command15.Press();
+  EXPECT_EQ(Tab().RichTextBox1.Text(), "ELSE");
+  EXPECT_EQ(Boxes(), no_boxes);
+  EXPECT_EQ(Written(), std::vector<Bytes>{});
+}
+
+TEST_F(IhTabTest, FilesAreFoundInTheLists) {
+  OpenTab();
+  Go(Tab().Dir1);
+  Tab().Dir1.Open(Tab().Dir1.Here() + 1);
+  EXPECT_EQ(ihData->Path(0), there + "/inner");
+  EXPECT_EQ(Tab().File1.Entries(), std::vector<std::string>{"deep.txt"});
+  Go(Tab().File1);
+  Tab().File1.Choose(0);
+  EXPECT_EQ(Tab().Text105.Text(), "one.txt");
+  Tab().File1.Open(0);
+  EXPECT_EQ(Tab().Text105.Text(), "deep.txt");
+  EXPECT_EQ(ihData->FileName(0), "deep.txt");
+  EXPECT_EQ(ihData->Drive(0), Tab().Drive1.Drive());
+  EXPECT_EQ(Tab().RichTextBox1.Text(), "ONE");  // not loaded
+  Go(Tab().Drive1);
+  Tab().Drive1.Choose(0);
+  EXPECT_EQ(ihData->Path(0), Tab().Drive1.Entry(0));
+  EXPECT_EQ(ihData->Drive(0), Tab().Drive1.Entry(0));
+  EXPECT_EQ(ihData->FileName(0), "deep.txt");
+}
+
+TEST_F(IhTabTest, TheTickedPagesTravel) {
+  OpenTab();
+  for (int i = 0; i < IhTab::kBoxes; ++i) EXPECT_EQ(Tab().Check1[i].Enabled(), i < 3) << i;
+  Tab().Command11.Press();
+  Tab().Command13.Press();
+  EXPECT_EQ(Written(), std::vector<Bytes>{});
+  Tab().Check1[0].Press();
+  Tab().Check1[2].Press();
+  Tab().Command11.Press();
+  EXPECT_EQ(SentPages(), "02");
+  Tab().Command1.Press();
+  EXPECT_EQ(SentPages(), "012");
+  ihData->SetPage(0, "");
+  ihData->SetPage(1, "");
+  Tab().Command13.Press();
+  EXPECT_EQ(Tab().RichTextBox1.Text(), "ONE");
+  EXPECT_EQ(ihData->Page(1), Full(""));
+  Tab().Command7.Press();
+  EXPECT_EQ(ihData->Page(1), Full("TWO\r\nLINES"));
+  // The first page has come when the second fails, and is shown.
+  ihData->SetPage(0, "");
+  int frames = 0;
+  port.Wrote = [&] {
+    if (++frames == 18) port.line = nullptr;
+  };
+  Tab().Command7.Press();
+  EXPECT_EQ(Boxes().size(), 1U);
+  EXPECT_EQ(Tab().RichTextBox1.Text(), "ONE");
+  form->window.Close();
+  form->Load();
+  EXPECT_FALSE(Tab().Check1[0].Checked());
+}
+
+TEST_F(IhTabTest, OneWayPagesGoInABurst) {
+  OpenTab(std::string(kSatellite) + "Burst=2\n");
+  EXPECT_FALSE(Tab().Command13.Visible() || Tab().Command7.Visible());
+  ExpectAddressRule({&Tab().Command11, &Tab().Command1, &Tab().Command12});
+  Tab().Command12.Press();
+  EXPECT_EQ(SentPages(), "012012");
+}
+
+}  // namespace
+}  // namespace corvalis::test
