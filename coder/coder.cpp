@@ -83,6 +83,7 @@ const Counts& Coder::Sizes() const { return counts_; }
 
 void Coder::SetSizes(const Counts& counts) {
   counts_ = counts;
+  coming_.clear();
   std::erase_if(memory_, [&](const auto& item) {
     return FindItem(item.first.first, item.first.second, counts) == nullptr;
   });
@@ -171,11 +172,25 @@ Bytes Coder::Execute(const Command& command, Bytes frame, bool read) {
     const Bytes answer_frame = FrameOf(command.code, marked, body);
     answer.insert(answer.end(), answer_frame.begin(), answer_frame.end());
   } else {
-    SetItem(command.code, number, body);
+    Take(command, number, body);
   }
   Report({read ? Event::Kind::kRead : Event::Kind::kWrite, std::move(frame), 0, &command, number,
           std::move(body)});
   return answer;
+}
+
+// The blocks of an in-house page wait for its end: until then the page is what it was.
+void Coder::Take(const Command& command, int number, const Bytes& body) {
+  if (command.code == kIh && !command.Marked()) {
+    coming_[number] = body;
+    return;
+  }
+  SetItem(command.code, number, body);
+  if (command.code != kIh) return;
+  const auto begin = coming_.lower_bound(number - kIhEnd);
+  const auto end = coming_.lower_bound(number);
+  for (auto block = begin; block != end; ++block) SetItem(kIh, block->first, block->second);
+  coming_.erase(begin, end);
 }
 
 // The error number for a good frame that the Coder does not carry out, 0 if it does.

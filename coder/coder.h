@@ -92,6 +92,7 @@ class Coder {
 
  private:
   std::vector<Bytes> Digest(bool pause);
+  void Take(const Command& command, int number, const Bytes& body);
   [[nodiscard]] Bytes Execute(const Command& command, Bytes frame, bool read);
   [[nodiscard]] int Refused(const Command& command, std::uint8_t index, const Bytes& body,
                             bool read) const;
@@ -106,6 +107,7 @@ class Coder {
   Bytes held_;            // taken from the line and not yet judged
   Counts counts_;
   std::map<std::pair<std::uint8_t, int>, Bytes> memory_;  // by command and number, if written
+  std::map<int, Bytes> coming_;  // blocks of in-house pages whose end has not come yet
 };
 
 }  // namespace corvalis::coder

@@ -80,6 +80,12 @@ TEST(Coder, KeepsEveryItemAndReadsItBackWithinItsNumbersOnceAddressed) {
     EXPECT_EQ(coder.Take({factory.begin() + 1, factory.end()}), kAcknowledged);
     EXPECT_EQ(coder.Take(c.request), factory);
     EXPECT_EQ(coder.Take(c.write), kAcknowledged);
+    if (c.name == std::string("IH") || c.name == std::string("IH of a page")) {
+      EXPECT_EQ(coder.Take(Frame(0x12, 1, "0010007")), kAcknowledged) << "another page's end";
+      EXPECT_EQ(coder.Take(c.request), factory) << "until the end of its own";
+      const std::string page(c.write.begin() + 3, c.write.begin() + 6);
+      EXPECT_EQ(coder.Take(Frame(0x12, 1, page + "0007")), kAcknowledged);
+    }
     EXPECT_EQ(coder.Take(c.request), kAcknowledged + c.write);
     EXPECT_EQ(coder.Take(c.beyond), Refusal(2));
     EXPECT_FALSE(coder.InFrame());
