@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "desktop/program.h"
+#include "link/list_commands.h"
 #include "link/serial_management.h"
 #include "link/transfer.h"
 #include "programme/psn_page_data.h"
@@ -32,7 +33,7 @@ using Seconds = std::chrono::duration<double>;
 
 constexpr double kBitsPerByte = 11;  // one to start, eight, two to stop
 constexpr double kAckBytes = 1;
-constexpr double kPause = 0.2;  // seconds after each list that is emptied
+constexpr double kPause = 0.2;  // seconds after each list that is emptied, and each part of a page
 
 /// The program in folders of its own, with a Coder at COM 1: with a baud rate on a two-way line at
 /// that speed, else on a one-way path.
@@ -148,6 +149,27 @@ void BM_FirstListOfMethodA(benchmark::State& state) {
              [](PsnRtPinAfForm& form) { form.af_a.Command11.Press(); });
 }
 BENCHMARK(BM_FirstListOfMethodA)->Arg(9600)->Iterations(1)->UseRealTime()->Unit(benchmark::kSecond);
+
+// An in-house page as it goes to the Coder, and as it comes back.
+void BM_SendPage(benchmark::State& state) {
+  const std::string page(kIhCharacters, 'x');
+  MeasureRun(state, 16 * (136 + kAckBytes) + 12 + kAckBytes, kPause, [&page](PsnRtPinAfForm& form) {
+    RunSend(form.window, [&page] { SendIh(3, page, 1); });
+  });
+}
+BENCHMARK(BM_SendPage)->Arg(9600)->Iterations(1)->UseRealTime()->Unit(benchmark::kSecond);
+
+void BM_ReadPage(benchmark::State& state) {
+  MeasureRun(state, 16 * (8 + kAckBytes + 136) + 12 + kAckBytes + 12, 16 * kPause,
+             [](PsnRtPinAfForm& form) {
+               RunRead(form.window, [] {
+                 std::string page;
+                 std::int16_t rotation = 0;
+                 ReadIh(3, page, rotation);
+               });
+             });
+}
+BENCHMARK(BM_ReadPage)->Arg(9600)->Iterations(1)->UseRealTime()->Unit(benchmark::kSecond);
 
 // A station with something in each of `texts` radio texts, in 10 pages of 50 rows and 255 items.
 std::string FullLists(int texts) {
