@@ -374,6 +374,24 @@ TEST_F(WidgetsTest, AMemoKeepsTheBytesThatAreNotTouched) {
   EXPECT_EQ(screen_.memo.Text(), "one\r\nx\r\ntwo\nthree\xA0");
 }
 
+TEST_F(WidgetsTest, AMemoKeepsEveryByteThereIs) {
+  std::string text = "one\rtwo\ntwo\r\nthree  ";
+  for (int i = 0; i < 256; ++i) text += static_cast<char>(i);
+  text += "\n\r\r\n\n  end ";
+  screen_.memo.SetText(text);
+  EXPECT_EQ(screen_.memo.Text(), text);
+  view_->memo->setFocus();
+  QTest::keyClick(view_->memo, Qt::Key_Home, Qt::ControlModifier);
+  for (int i = 0; i < 3; ++i) QTest::keyClick(view_->memo, Qt::Key_Down);
+  QTest::keyClick(view_->memo, Qt::Key_Right);
+  EXPECT_EQ(screen_.memo.Text(), text);
+  QTest::keyClicks(view_->memo, "x");
+  EXPECT_EQ(screen_.memo.Text(), text.insert(text.find("hree"), "x"));
+  QTest::keyClick(view_->memo, Qt::Key_End, Qt::ControlModifier);
+  QTest::keyClicks(view_->memo, "y");
+  EXPECT_EQ(screen_.memo.Text(), text + "y");
+}
+
 TEST_F(WidgetsTest, ACalendarMovesByKeysAndShowsTheDateOfTheModel) {
   view_->calendar->setFocus();
   QTest::keyClick(QApplication::focusWidget(), Qt::Key_Right);
