@@ -24,7 +24,6 @@ QWidget* Text(IhTab& tab, QWidget* parent) {
   column->addWidget(Heading(QStringLiteral("Page"), page));
   column->addWidget(page);
   auto* text = new MemoWidget(tab.RichTextBox1, part);
-  text->setFont(DigitsFont());  // its places count
   column->addWidget(Heading(QStringLiteral("Text"), text));
   column->addWidget(text, 1);
   column->addWidget(new StateLine(tab.CountLabel, TextBox::Content::kWindows1252, part));
