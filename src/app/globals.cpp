@@ -3,6 +3,12 @@
 #include "app/single_instance.h"
 #include "config/config_data.h"
 #include "config/language_data.h"
+#include "networks/eon_data.h"
+#include "networks/ih_data.h"
+#include "networks/li_data.h"
+#include "networks/tdc0_data.h"
+#include "networks/tdc_data.h"
+#include "networks/tmc_data.h"
 #include "programme/af_a_data.h"
 #include "programme/af_b_data.h"
 #include "programme/pin_data.h"
@@ -19,11 +25,13 @@ namespace {
 // A class that joins gets its place in each of these orders, which differ.
 // Creation, and release. The names of the types stand in no other order.
 using OfCreation =
-    SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData, groupsData, ptynData>;
-using OfOpen = SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData, groupsData>;
+    SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData, tdc0Data, tdcData,
+                    groupsData, ihData, eonData, liData, ptynData, tmcData>;
+using OfOpen = SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData, tdc0Data,
+                               tdcData, groupsData, ihData, eonData, liData, tmcData>;
 // The group sequence has two places here.
 using OfNew = SingleInstances<psnData, psnPageData, rtData, pinData, afAData, afBData, groupsData,
-                              groupsData>;
+                              tdc0Data, tdcData, groupsData, ihData, eonData, liData, tmcData>;
 
 }  // namespace
 
@@ -49,6 +57,8 @@ void Globals::LoadForNew() { OfNew::GetIni(); }
 
 void Globals::LoadLimits() {
   afBData->GetIni();
+  if (configData->EonEnable()) eonData->GetIni();
+  ihData->GetIni();
   pinData->GetIni();
   if (configData->PsnPagesEnable()) {
     psnPageData->GetIni();
@@ -56,6 +66,7 @@ void Globals::LoadLimits() {
     psnData->GetIni();
   }
   rtData->GetIni();
+  if (configData->TmcEnable()) tmcData->GetIni();
 }
 
 void Globals::Store() {
@@ -67,7 +78,8 @@ void Globals::Store() {
   } else {
     psnData->SetIni();
   }
-  SingleInstances<rtData, pinData, groupsData>::SetIni();
+  SingleInstances<rtData, pinData, tdc0Data, tdcData, groupsData, ihData, eonData, liData,
+                  tmcData>::SetIni();
 }
 
 }  // namespace corvalis

@@ -62,6 +62,8 @@ MainForm::MainForm() : MSComm1(*Machine().port) {
   TaPtyMsButton.Click = [this] { OpenScreen(ta_pty_ms_, window); };
   PsnRtPinAfButton.Click = [this] { OpenScreen(psn_rt_pin_af_, window); };
   CtTpDiPiButton.Click = [this] { OpenScreen(ct_tp_di_pi_, window); };
+  EonLiButton.Click = [this] { OpenScreen(eon_li_, window); };
+  TdcIhButton.Click = [this] { OpenScreen(tdc_ih_, window); };
   EditGroupsButton.Click = [this] { OpenScreen(edit_groups_, window); };
   // A screen that isn't there yet can't be opened.
   for (Button* button : {&RS232CButton, &ConnectionButton, &TaPtyMsButton, &EditGroupsButton,

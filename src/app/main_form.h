@@ -9,6 +9,8 @@
 #include "app/globals.h"
 #include "busy/brand_marks.h"
 #include "link/rs232c_form.h"
+#include "networks/eon_li_form.h"
+#include "networks/tdc_ih_form.h"
 #include "platform/clock.h"
 #include "platform/serial_port.h"
 #include "programme/psn_rt_pin_af_form.h"
@@ -68,6 +70,8 @@ class MainForm {
   /// The screen, once it has been opened; null before.
   [[nodiscard]] CtTpDiPiForm* OpenedCtTpDiPi() const { return ct_tp_di_pi_.get(); }
   [[nodiscard]] PsnRtPinAfForm* OpenedPsnRtPinAf() const { return psn_rt_pin_af_.get(); }
+  [[nodiscard]] EonLiForm* OpenedEonLi() const { return eon_li_.get(); }
+  [[nodiscard]] TdcIhForm* OpenedTdcIh() const { return tdc_ih_.get(); }
 
  private:
   static constexpr const char* kExtension = ".rds";
@@ -110,6 +114,8 @@ class MainForm {
   std::unique_ptr<TaPtyMsForm> ta_pty_ms_;
   std::unique_ptr<CtTpDiPiForm> ct_tp_di_pi_;
   std::unique_ptr<PsnRtPinAfForm> psn_rt_pin_af_;
+  std::unique_ptr<EonLiForm> eon_li_;
+  std::unique_ptr<TdcIhForm> tdc_ih_;
   std::unique_ptr<EditGroupsForm> edit_groups_;
 };
 

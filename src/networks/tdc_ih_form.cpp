@@ -8,13 +8,17 @@ namespace corvalis {
 TdcIhForm::TdcIhForm(Window& main_menu) : main_menu_(main_menu) {
   window.SetCaption("TDC - IH - TMC");
   // What is being typed is kept.
-  window.Unloading = [this] { CommitGridRow(tmc.TmcDBGrid); };
+  window.Unloading = [this] {
+    for (Grid* grid : {&tdc.DBGrid1, &tdc.DBGrid2, &tmc.TmcDBGrid}) CommitGridRow(*grid);
+  };
 }
 
 void TdcIhForm::Load() {
+  tdc.InitCaptions();
   ih.InitCaptions();
   tmc_system.InitCaptions();
   tmc.InitCaptions();
+  tdc.Open();
   ih.Open();
   tmc_system.Open();
   tmc.Open();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "networks/ih_tab.h"
+#include "networks/tdc_tab.h"
 #include "networks/tmc_system_tab.h"
 #include "networks/tmc_tab.h"
 #include "screen/tabs.h"
@@ -18,6 +19,7 @@ class TdcIhForm {
 
   Window window{this, "TdcIhForm"};
   Tabs SSTab1{window, "SSTab1", {"TDC", "IH", "TMC System", "TMC"}};
+  TdcTab tdc{window};
   IhTab ih{window};
   TmcSystemTab tmc_system{window};
   TmcTab tmc{window};

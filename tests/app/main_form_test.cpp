@@ -9,6 +9,8 @@
 
 #include "busy/wait_form.h"
 #include "link/serial_management.h"
+#include "networks/eon_data.h"
+#include "networks/li_data.h"
 #include "programme/af_a_data.h"
 #include "programme/af_b_data.h"
 #include "programme/psn_data.h"
@@ -21,9 +23,10 @@ namespace {
 
 // The sizes of the lists as they are asked at start and on Open.
 constexpr int kEnqFrame = 0;
-const std::vector<int> kEnqAndCounts{kEnqFrame, 0x0C, 0x14, 0x1E, 0x20, 0x14, 0x0A, 0x0B};
+const std::vector<int> kEnqAndCounts{kEnqFrame, 0x0C, 0x14, 0x1E, 0x20, 0x14,
+                                     0x0A,      0x0B, 0x13, 0x15, 0x23};
 // New has another order.
-const std::vector<int> kCountsOfNew{0x14, 0x1E, 0x20, 0x14, 0x0A, 0x0B, 0x0C};
+const std::vector<int> kCountsOfNew{0x14, 0x1E, 0x20, 0x14, 0x0A, 0x0B, 0x0C, 0x13, 0x15, 0x23};
 
 class MainFormTest : public MachineTest {
  protected:
@@ -233,14 +236,32 @@ TEST_F(MainFormTest, TheSetupScreenHasTheSizesAskedAgainInAnOrderOfItsOwn) {
     void Gone(Window& /*window*/) override {}
     Window* last = nullptr;
   } screen;
-  Run(kLocal);
-  Window::SetHost(&screen);
-  form->RS232CButton.Press();
-  ASSERT_EQ(screen.last->Name(), "RS232CForm");
-  port.written.clear();
-  screen.last->Close();
-  Window::SetHost(nullptr);
-  EXPECT_EQ(Codes(), (std::vector<int>{kEnqFrame, 0x0C, 0x0B, 0x1E, 0x20, 0x14, 0x0A}));
+  // What the Coder does not offer is neither asked nor loaded.
+  const std::string off = "[RDS Setup]\nEON Enable=Off\nTMC Enable=Off\n";
+  const std::pair<std::string, std::vector<int>> cases[] = {
+      {kLocal, {kEnqFrame, 0x0C, 0x15, 0x13, 0x0B, 0x1E, 0x20, 0x14, 0x0A, 0x23}},
+      {kLocal + off, {kEnqFrame, 0x0C, 0x13, 0x0B, 0x1E, 0x20, 0x14, 0x0A}}};
+  for (const auto& [file, asked] : cases) {
+    Run(file);
+    eonData->SetPsn("EDITED", 0);
+    liData->SetLsn(7);
+    Window::SetHost(&screen);
+    form->RS232CButton.Press();
+    ASSERT_EQ(screen.last->Name(), "RS232CForm");
+    port.written.clear();
+    screen.last->Close();
+    Window::SetHost(nullptr);
+    EXPECT_EQ(Codes(), asked);
+    EXPECT_EQ(eonData->Psn(0), file == kLocal ? "EON PSN " : "EDITED  ");
+    EXPECT_EQ(liData->Lsn(), 7);
+  }
+}
+
+TEST_F(MainFormTest, OverACallTheNetworksAreAskedWhateverTheModel) {
+  Run(std::string(kModem) + "[RDS Setup]\nEON Enable=Off\nTMC Enable=Off\n");
+  configData->SetModemHookOn(true);
+  form->NewButton.Press();
+  EXPECT_EQ(Codes(), kCountsOfNew);
 }
 
 TEST_F(MainFormTest, LinkInWords) {

@@ -23,6 +23,8 @@ using Lines = std::vector<std::string>;
 inline const QString kMain = QStringLiteral("MainForm");
 inline const QString kStation = QStringLiteral("CtTpDiPiForm");
 inline const QString kTexts = QStringLiteral("PsnRtPinAfForm");
+inline const QString kNetworks = QStringLiteral("EonLiForm");
+inline const QString kChannels = QStringLiteral("TdcIhForm");
 inline const QString kOnAir = QStringLiteral("TaPtyMsForm");
 inline const QString kGroups = QStringLiteral("EditGroupsForm");
 inline const QString kSetup = QStringLiteral("RS232CForm");
@@ -34,7 +36,7 @@ inline constexpr const char* kLocalFile =
     "[Serial Setup]\nSatellite=Off\nSerialPort=1\nBaudrate=9600\nParity=N\nStopBit=2\n";
 
 /// Frames that a Coder on a two-way line answers while the program starts: the ENQ and the counts.
-inline constexpr int kAnswersOfStart = 8;
+inline constexpr int kAnswersOfStart = 11;
 
 /// The program in folders of its own, with an operator's hand on its real windows and a simulated
 /// Coder at its real port.

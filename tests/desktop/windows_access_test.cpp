@@ -71,6 +71,8 @@ class WindowsAccessTest : public RunningProgram {
     for (const auto& [button, window] : {std::pair(QStringLiteral("TaPtyMsButton"), kOnAir),
                                          std::pair(QStringLiteral("PsnRtPinAfButton"), kTexts),
                                          std::pair(QStringLiteral("CtTpDiPiButton"), kStation),
+                                         std::pair(QStringLiteral("EonLiButton"), kNetworks),
+                                         std::pair(QStringLiteral("TdcIhButton"), kChannels),
                                          std::pair(QStringLiteral("EditGroupsButton"), kGroups),
                                          std::pair(QStringLiteral("RS232CButton"), kSetup)}) {
       hand.Click(kMain, button);
@@ -187,7 +189,8 @@ TEST_F(WindowsAccessTest, TabGoesThroughEveryWindowAsItReads) {
   QStringList menu;
   for (const QWidget* stop : Stops(hand.Window(kMain))) menu << stop->objectName();
   EXPECT_EQ(menu.join(u' ').toStdString(),
-            "TaPtyMsButton PsnRtPinAfButton CtTpDiPiButton EditGroupsButton RS232CButton "
+            "TaPtyMsButton PsnRtPinAfButton CtTpDiPiButton EonLiButton TdcIhButton "
+            "EditGroupsButton RS232CButton "
             "Drive1 Dir1 File1 Text105 NewButton OpenButton SaveButton");
   ForEachPage([](const QWidget& window) {
     const QWidget* last = nullptr;

@@ -18,9 +18,9 @@ TEST_F(WindowsMenuTest, StartsOnItsFileWithTheScreensThatThereAre) {
   EXPECT_EQ(OnScreen(kWait), nullptr);
   EXPECT_EQ(hand.Shown(kMain, "Text105"), "corvalis.rds");
   const std::pair<const char*, QString> screens[] = {
-      {"TaPtyMsButton", kOnAir}, {"CtTpDiPiButton", kStation}, {"EditGroupsButton", kGroups},
-      {"RS232CButton", kSetup},  {"ConnectionButton", {}},     {"PsnRtPinAfButton", kTexts},
-      {"EonLiButton", {}},       {"TdcIhButton", {}}};
+      {"TaPtyMsButton", kOnAir},  {"CtTpDiPiButton", kStation}, {"EditGroupsButton", kGroups},
+      {"RS232CButton", kSetup},   {"ConnectionButton", {}},     {"PsnRtPinAfButton", kTexts},
+      {"EonLiButton", kNetworks}, {"TdcIhButton", kChannels}};
   for (const auto& [button, screen] : screens) {
     ASSERT_EQ(Usable(kMain, button), !screen.isEmpty()) << button;
     if (screen.isEmpty()) continue;

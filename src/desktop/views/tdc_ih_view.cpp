@@ -1,6 +1,7 @@
 #include "desktop/views/tdc_ih_view.h"
 
 #include "desktop/views/ih_page.h"
+#include "desktop/views/tdc_page.h"
 #include "desktop/views/tmc_page.h"
 #include "desktop/views/tmc_system_page.h"
 #include "desktop/widgets/layout.h"
@@ -10,7 +11,7 @@ namespace corvalis::desktop {
 
 TdcIhView::TdcIhView(TdcIhForm& form) : WindowView(form.window) {
   auto* tabs = new TabsWidget(form.SSTab1, this);
-  // The page of TDC stands before these.
+  tabs->AddPage(new TdcPage(form.tdc, tabs));
   tabs->AddPage(new IhPage(form.ih, tabs));
   tabs->AddPage(new TmcSystemPage(form.tmc_system, tabs));
   tabs->AddPage(new TmcPage(form.tmc, tabs));

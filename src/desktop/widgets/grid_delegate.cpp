@@ -18,6 +18,7 @@ constexpr int kFrame = 2;        // around the current cell
 constexpr double kDot = 2;       // in place of a blank
 constexpr int kButtonWords = 3;  // "Off"
 constexpr double kButtonCorner = 3;
+constexpr double kGroupGap = 0.6;  // places between two groups
 
 bool IsOn(const QString& word) { return word.compare(u"on", Qt::CaseInsensitive) == 0; }
 
@@ -52,7 +53,8 @@ int GridDelegate::ColumnWidth(int column) const {
   const bool button = of.kind == GridColumn::Kind::kButton;
   // One place more, as capitals are wider than digits, and for the caret behind the last place.
   const int places = button ? std::max(of.width, kButtonWords) : of.width + 1;
-  const double text = places * metrics.horizontalAdvance(u'0');
+  const double gaps = of.group > 0 ? (of.width - 1) / of.group * kGroupGap : 0;
+  const double text = (places + gaps) * metrics.horizontalAdvance(u'0');
   const double heading = QFontMetricsF(HeadingFont()).horizontalAdvance(FromBytes(of.heading));
   return static_cast<int>(std::ceil(std::max(text + (button ? kNear : 0), heading))) + kApart;
 }
@@ -99,17 +101,19 @@ QPixmap GridDelegate::ButtonLook(QSize size, double scale, QStyle::State state,
   return look;
 }
 
-// Each place where it stands, and a quiet dot for a blank.
-void GridDelegate::DrawPlaces(QPainter& painter, const QRect& rect, const QString& text) const {
+// Each place where it stands, and a quiet dot for a blank. Groups stand apart in the picture alone.
+void GridDelegate::DrawPlaces(QPainter& painter, const QRect& rect, const QString& text,
+                              int group) const {
   const QFontMetricsF metrics(places_font_);
   const double place = metrics.horizontalAdvance(u'0');
   const double base = rect.top() + (rect.height() - metrics.height()) / 2 + metrics.ascent();
-  const bool even =
-      std::abs(metrics.horizontalAdvance(text) - place * static_cast<int>(text.size())) < 1;
+  const bool even = group == 0 && std::abs(metrics.horizontalAdvance(text) -
+                                           place * static_cast<int>(text.size())) < 1;
   if (even) painter.drawText(QPointF(rect.left(), base), text);
   QRectF dot(0, 0, kDot, kDot);
   for (int i = 0; i < text.size(); ++i) {
-    const double left = rect.left() + i * place;
+    const double gaps = group > 0 ? i / group * kGroupGap : 0;
+    const double left = rect.left() + (i + gaps) * place;
     if (text[i] == u' ') {
       dot.moveCenter({left + place / 2, rect.center().y() + 0.5});
       painter.fillRect(dot, QColor(colours::kBorder));
@@ -147,7 +151,7 @@ void GridDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,
     painter->setPen(QColor(ink));
     painter->setFont(FontOf(column));
     if (column.every_place) {
-      DrawPlaces(*painter, inner, text);
+      DrawPlaces(*painter, inner, text, column.group);
     } else {
       painter->drawText(inner, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
                         QFontMetrics(font_).elidedText(text, Qt::ElideRight, inner.width()));

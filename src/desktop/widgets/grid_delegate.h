@@ -43,7 +43,7 @@ class GridDelegate : public QStyledItemDelegate {
   [[nodiscard]] const QFont& FontOf(const GridColumn& column) const;
   [[nodiscard]] QPixmap ButtonLook(QSize size, double scale, QStyle::State state,
                                    const QString& word) const;
-  void DrawPlaces(QPainter& painter, const QRect& rect, const QString& text) const;
+  void DrawPlaces(QPainter& painter, const QRect& rect, const QString& text, int group) const;
 
   Grid& grid_;
   QFont font_;

@@ -1,0 +1,48 @@
+#include "desktop/views/tdc_page.h"
+
+#include "desktop/widgets/grid_widget.h"
+#include "desktop/widgets/label_widget.h"
+#include "desktop/widgets/layout.h"
+#include "desktop/widgets/style.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+// A grid under its caption, beside which a word says that it is the selected one.
+QWidget* Table(Label& caption, Label& mark, Grid& grid, QWidget* parent) {
+  auto* table = new QWidget(parent);
+  QVBoxLayout* column = Column(table);
+  auto* head = new QWidget(table);
+  QHBoxLayout* row = Row(head);
+  auto* list = new GridWidget(grid, table, {});
+  auto* title = new LabelWidget(caption, head);
+  title->setBuddy(list);
+  title->Name(list);
+  auto* word = new LabelWidget(mark, head);
+  word->setFont(Bold(word->font()));
+  QPalette accent = word->palette();
+  accent.setColor(QPalette::WindowText, QColor(colours::kAccent));
+  word->setPalette(accent);
+  row->addWidget(title);
+  row->addWidget(word);
+  row->addStretch();
+  column->addWidget(head);
+  column->addWidget(list, 1);
+  return table;
+}
+
+}  // namespace
+
+TdcPage::TdcPage(TdcTab& tab, QWidget* parent) : QWidget(parent) {
+  auto* tables = new QWidget(this);
+  QHBoxLayout* halves = Row(tables);
+  halves->setSpacing(kApart);
+  halves->addWidget(Table(tab.Tdc0Label, tab.Tdc0MarkLabel, tab.DBGrid1, tables), 1);
+  halves->addWidget(Table(tab.TdcLabel, tab.TdcMarkLabel, tab.DBGrid2, tables), 1);
+  ListPage(this, tables,
+           {&tab.Command2, &tab.Command3, &tab.Command5, &tab.Command6, &tab.Command4}, {},
+           {SelectedRow(tab.TdcSelectedLabel, tables, this)});
+}
+
+}  // namespace corvalis::desktop

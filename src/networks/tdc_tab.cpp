@@ -1,0 +1,210 @@
+#include "networks/tdc_tab.h"
+
+#include <cctype>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "config/conversions.h"
+#include "config/language_data.h"
+#include "link/utility.h"
+#include "networks/tdc0_data.h"
+#include "networks/tdc_data.h"
+#include "platform/platform.h"
+#include "screen/keys.h"
+
+namespace corvalis {
+
+namespace {
+
+enum Column0 { kRow0, kAddress, kCommand0, kOn0 };
+enum Column { kRow, kCommand, kOn };
+
+constexpr int kAddressDigits = 3;
+constexpr std::int32_t kAddressBits = 0xFFF;
+constexpr int kBitsOfDigit = 4;
+constexpr int kFirstCharacter = ' ';
+
+std::int16_t Index(int row) { return static_cast<std::int16_t>(row); }
+
+std::string Name0(int row) { return Digits(row, 2); }
+std::string Name(int row) { return Digits(row + 1, 2); }
+
+std::string AddressText(std::int32_t address) {
+  return LongToHex(address & kAddressBits, kAddressDigits);
+}
+
+std::string Flag(bool on) { return on ? "1" : "0"; }
+
+GridColumn Bits(int bits) {
+  return {.heading = "Command",
+          .kind = GridColumn::Kind::kText,
+          .width = bits,
+          .max_length = bits,
+          .every_place = true,
+          .group = kBitsOfDigit};
+}
+
+// The keys of a column that has only some, by its heading: they are the same in both grids.
+std::string_view KeysOf(const GridColumn& column) {
+  if (column.heading == "Addr") return "0123456789ABCDEFabcdef";
+  return column.heading == "Command" ? "01" : "";
+}
+
+bool Refused(const GridColumn& column, int key) {
+  const std::string_view keys = KeysOf(column);
+  const bool types = key >= kFirstCharacter || key == kKeyBackspace || key == kKeyPaste;
+  return !keys.empty() && types && keys.find(static_cast<char>(key)) == std::string_view::npos;
+}
+
+// A command that is too short is not taken: the row can't be left with it.
+bool IsWhole(const std::string& command, int bits) {
+  if (command.size() >= static_cast<std::size_t>(bits)) return true;
+  Machine().dialogs->Beep();
+  return false;
+}
+
+}  // namespace
+
+TdcTab::TdcTab(Window& window)
+    : window_(window),
+      DBGrid1(window, "DBGrid1",
+              {{.heading = "", .width = 3},
+               {.heading = "Addr",
+                .kind = GridColumn::Kind::kText,
+                .width = 5,
+                .max_length = kAddressDigits},
+               Bits(kTdc0Bits),
+               {.heading = "On", .kind = GridColumn::Kind::kText, .width = 3}}),
+      DBGrid2(window, "DBGrid2",
+              {{.heading = "", .width = 3},
+               Bits(kTdcBits),
+               {.heading = "On", .kind = GridColumn::Kind::kText, .width = 3}}),
+      // A burst has no pass more than it says, and none of the runs has pauses. That is meant.
+      buttons_(window,
+               {.read_one = &Command2,
+                .read_all = &Command3,
+                .send_one = &Command5,
+                .send_all = &Command6,
+                .burst = &Command4},
+               {},
+               {{.count = [] { return int{Tdc0Data::MaxSubChannelNum()}; },
+                 .selected = [this] { return SelectedIn(DBGrid1); },
+                 .read = [](int row) { tdc0Data->GetOneRds(Index(row)); },
+                 .send = [](int row) { tdc0Data->SendOneRds(Index(row)); },
+                 .grid = &DBGrid1},
+                {.count = [] { return int{TdcData::MaxChannelNum()}; },
+                 .selected = [this] { return SelectedIn(DBGrid2); },
+                 .read = [](int row) { tdcData->GetOneRds(Index(row)); },
+                 .send = [](int row) { tdcData->SendOneRds(Index(row)); },
+                 .grid = &DBGrid2}}) {
+  SetGrid1Rules();
+  SetGrid2Rules();
+  for (Grid* grid : {&DBGrid1, &DBGrid2}) {
+    SetTypingRules(*grid);
+    grid->GotFocus = [this, grid] { Select(*grid); };
+    grid->Moved = [this] { ShowSelected(); };
+  }
+}
+
+void TdcTab::SetGrid1Rules() {
+  DBGrid1.RowCount = [] { return int{Tdc0Data::MaxSubChannelNum()}; };
+  DBGrid1.Cell = [](int row, int column) {
+    if (column == kRow0) return Name0(row);
+    if (column == kAddress) return AddressText(tdc0Data->Address(Index(row)));
+    return column == kCommand0 ? tdc0Data->Command(Index(row)) : Flag(tdc0Data->Active(Index(row)));
+  };
+  DBGrid1.RowLeft = [this](int row) {
+    if (!IsWhole(DBGrid1.Shown(row, kCommand0), kTdc0Bits)) return false;
+    const std::int32_t address = HexToLong(DBGrid1.Shown(row, kAddress));
+    if (address < 0) {
+      DBGrid1.DropEdit(kAddress);  // it is empty
+    } else if (DBGrid1.HasEdit(kAddress)) {
+      DBGrid1.PutEdit(kAddress, AddressText(address));
+    }
+    return true;
+  };
+  DBGrid1.Write = [](int row, int column, const std::string& text) {
+    if (column == kAddress) {
+      tdc0Data->SetAddress(Index(row), static_cast<std::int16_t>(HexToLong(text)));
+    } else if (column == kCommand0) {
+      tdc0Data->SetCommand(Index(row), text);
+    } else {
+      tdc0Data->SetActive(Index(row), text == Flag(true));
+    }
+  };
+}
+
+void TdcTab::SetGrid2Rules() {
+  DBGrid2.RowCount = [] { return int{TdcData::MaxChannelNum()}; };
+  DBGrid2.Cell = [](int row, int column) {
+    if (column == kRow) return Name(row);
+    return column == kCommand ? tdcData->Command(Index(row)) : Flag(tdcData->Active(Index(row)));
+  };
+  DBGrid2.RowLeft = [this](int row) { return IsWhole(DBGrid2.Shown(row, kCommand), kTdcBits); };
+  DBGrid2.Write = [](int row, int column, const std::string& text) {
+    if (column == kCommand) {
+      tdcData->SetCommand(Index(row), text);
+    } else {
+      tdcData->SetActive(Index(row), text == Flag(true));
+    }
+  };
+}
+
+// Back space is none of the keys either, even with a selection. That is meant.
+void TdcTab::SetTypingRules(Grid& grid) {
+  grid.StartEdit = [&grid](int column, int key) {
+    if (!Refused(grid.Columns().at(static_cast<std::size_t>(column)), key)) return true;
+    RefuseKey(key);
+    return false;
+  };
+  grid.KeyPress = [&grid](int column, int& key) {
+    const GridColumn& of = grid.Columns().at(static_cast<std::size_t>(column));
+    const TextBox& cell = grid.Editor();
+    const bool full = of.max_length > 0 && key >= kFirstCharacter && cell.SelLength() == 0 &&
+                      cell.Text().size() >= static_cast<std::size_t>(of.max_length);
+    if (full || Refused(of, key)) {
+      RefuseKey(key);
+    } else if (of.heading == "Addr") {
+      key = std::toupper(key);
+    }
+  };
+}
+
+std::vector<int> TdcTab::SelectedIn(const Grid& grid) const {
+  return &grid == selected_ ? std::vector<int>{grid.Row()} : std::vector<int>{};
+}
+
+void TdcTab::Select(Grid& grid) {
+  selected_ = &grid;
+  ShowSelected();
+}
+
+void TdcTab::ShowSelected() {
+  const bool first = selected_ == &DBGrid1;
+  constexpr const char* kMark = "selected";
+  Tdc0MarkLabel.SetCaption(first ? kMark : "");
+  TdcMarkLabel.SetCaption(first ? "" : kMark);
+  TdcSelectedLabel.SetCaption(first ? "Channel 0, " + Name0(DBGrid1.Row())
+                                    : "Channel " + Name(DBGrid2.Row()));
+}
+
+void TdcTab::InitCaptions() {
+  const LanguageData& texts = *languageData;
+  Tdc0Label.SetCaption("TRANSPARENT DATA CHANNEL 0");
+  TdcLabel.SetCaption("TRANSPARENT DATA CHANNEL 1 - 31");
+  Command2.SetTexts(texts.TdcReadOneKey(), texts.TdcReadOneTip());
+  Command3.SetTexts(texts.TdcReadAllKey(), texts.TdcReadAllTip());
+  Command5.SetTexts(texts.TdcSendOneKey(), texts.TdcSendOneTip());
+  Command6.SetTexts(texts.TdcSendAllKey(), texts.TdcSendAllTip());
+  Command4.SetTexts(texts.TdcSendAllBurstKey(), texts.TdcSendAllBurstTip());
+}
+
+void TdcTab::Open() {
+  buttons_.Show();
+  DBGrid1.Restart();
+  DBGrid2.Restart();
+  Select(DBGrid1);
+}
+
+}  // namespace corvalis
