@@ -163,8 +163,8 @@ void EonTab::InitCaptions() {
   EonPinText.SetToolTip(texts.EonPinTip());
   EonPtyLabel.SetTexts("PTY", texts.EonPtyTip());
   EonPtyCombo.SetToolTip(texts.EonPtyTip());
-  EonTpCheck.SetCaption("TP");
-  EonTaCheck.SetCaption("TA");
+  EonTpCheck.SetCaption("TP, traffic programme");
+  EonTaCheck.SetCaption("TA, traffic announcement");
   EonAfALabel.SetCaption(texts.EonAfAKey());
   for (TextBox& box : EonAfAText) box.SetToolTip(texts.EonEonAfATip());
   EonAfBLabel.SetCaption(texts.EonAfBKey());

@@ -29,14 +29,9 @@ QWidget* Network(EonTab& tab, QWidget* parent) {
   AddField(*fields, tab.EonPiLabel, CodeBox(tab.EonPiText, kHexDigits, group));
   AddField(*fields, tab.EonPinLabel, CodeBox(tab.EonPinText, kHexDigits, group));
   AddField(*fields, tab.EonPtyLabel, new DropDownWidget(tab.EonPtyCombo, group));
-  auto* switches = new QWidget(group);
-  QHBoxLayout* row = Row(switches);
-  row->setSpacing(kApart);
   for (CheckBox* box : {&tab.EonEnableCheck, &tab.EonTpCheck, &tab.EonTaCheck}) {
-    row->addWidget(new CheckBoxWidget(*box, switches));
+    AddLine(*fields, new CheckBoxWidget(*box, group));
   }
-  row->addStretch();
-  AddLine(*fields, switches);
   fields->setRowStretch(fields->rowCount(), 1);
   return group;
 }

@@ -64,6 +64,7 @@ void AddField(QGridLayout& fields, Label& label, QWidget* field) {
 void AddField(QGridLayout& fields, const QString& word, QWidget* field) {
   QWidget* box = AppendField(fields, new QLabel(word, field->parentWidget()), field);
   box->setAccessibleName(word);
+  for (auto* spinner : field->findChildren<SpinnerWidget*>()) spinner->setAccessibleName(word);
 }
 
 void AddNumbered(QGridLayout& grid, int number, int in_line, const QString& name, QWidget* box) {

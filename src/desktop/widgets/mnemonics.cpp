@@ -57,13 +57,24 @@ bool Labelled(const QWidget& field) {
   });
 }
 
-/// The fields of a group that have no caption of their own, in their order.
+/// True for a check box that stands with more others than there are letters for.
+bool IsOneOfMany(const QWidget& widget) {
+  constexpr qsizetype kFew = 10;
+  return qobject_cast<const QCheckBox*>(&widget) != nullptr &&
+         qobject_cast<const QGroupBox*>(widget.parentWidget()) != nullptr &&
+         widget.parentWidget()->findChildren<QCheckBox*>().size() > kFew;
+}
+
+/// The fields of a group that its title leads to, in their order: those that have no caption of
+/// their own, and check boxes of many.
 std::vector<QWidget*> Fields(const QWidget& group) {
   std::vector<QWidget*> fields;
   for (auto* widget : group.findChildren<QWidget*>()) {
     if (widget->window() != group.window()) continue;  // a list that drops down
     if ((widget->focusPolicy() & Qt::TabFocus) == 0 || widget->focusProxy() != nullptr) continue;
-    if (qobject_cast<QAbstractButton*>(widget) != nullptr || Labelled(*widget)) continue;
+    const bool captioned =
+        qobject_cast<QAbstractButton*>(widget) != nullptr && !IsOneOfMany(*widget);
+    if (captioned || Labelled(*widget)) continue;
     fields.push_back(widget);
   }
   return fields;
@@ -96,6 +107,7 @@ void Collect(QWidget* widget, std::vector<Place>& places) {
   } else if (qobject_cast<QGroupBox*>(widget) != nullptr) {
     if (!Fields(*widget).empty()) places.push_back({Kind::kGroup, widget, 0, caption});
   } else if (qobject_cast<QAbstractButton*>(widget) != nullptr) {
+    if (IsOneOfMany(*widget)) return;
     const bool box = qobject_cast<QCheckBox*>(widget) != nullptr;
     places.push_back({box ? Kind::kCheckBox : Kind::kButton, widget, 0, caption});
   }
