@@ -214,5 +214,73 @@ TEST_F(CaptionsTest, IdentityScreen) {
     SendLicBurstCommand SendLICBurstKeyMsg SendLICBurstKeyTip)");
 }
 
+TEST_F(CaptionsTest, OtherNetworks) {
+  EonLiForm screen(form->window);
+  screen.Load();
+  std::string rows = R"(
+    EonListLabel - ListNrKeyTip                  EonListText - ListNrKeyTip
+    EonListScroll - ListNrKeyTip                 EonEnableCheck EnableKeyMsg -
+    EonPsnLabel - PsnKeyTip                      EonPsnText - PsnKeyTip
+    EonPiLabel - PiKeyTip                        EonPiText - PiKeyTip
+    EonPinLabel - PinKeyTip                      EonPinText - PinKeyTip
+    EonPtyLabel - PtyKeyTip                      EonPtyCombo - PtyKeyTip
+    EonAfALabel AfAKeyMsg -                      EonAfBLabel AfBKeyMsg -
+    EonAfAText(0) - EonAfAKeyTip                 EonAfAText(1) - EonAfAKeyTip
+    EonAfBAmLabel AfBAMKeyMsg EonAfBAMKeyTip     EonAfBText(9) - EonAfBAMKeyTip
+    ReadEonCommand ReadOneListKeyMsg ReadOneListKeyTip
+    ReadEonAllCommand ReadAllListKeyMsg ReadAllListKeyTip
+    SendEonCommand SendOneListKeyMsg SendOneListKeyTip
+    SendEonAllCommand SendAllListKeyMsg SendAllListKeyTip
+    SendEonBurstCommand SendAllBurstKeyMsg SendAllBurstKeyTip)";
+  for (int i = 0; i < 9; ++i) {
+    rows += " EonAfBText(" + std::to_string(i) +
+            (i % 2 == 0 ? ") - EonAfBMainKeyTip" : ") - EonAfBKeyTip");
+  }
+  Check(screen.window, "EON", rows);
+  Check(screen.window, "LI", R"(
+    LiLaCheck LaKeyMsg -                         LiEgiCheck EgiKeyMsg -
+    LiILCheck IlKeyMsg -                         LiLsnLabel LsnKeyMsg -
+    ReadLiCommand ReadKeyMsg ReadKeyTip          SendLiCommand SendKeyMsg SendKeyTip
+    SendLiBurstCommand SendBurstKeyMsg SendBurstKeyTip)");
+  Check(screen.window, "TA EON", R"(
+    ReadTaEonCommand ReadOneKeyMsg ReadOneKeyTip ReadTaEonAllCommand ReadAllKeyMsg ReadAllKeyTip
+    SendTaEonCommand SendOneKeyMsg SendOneKeyTip
+    SendTaEonAllCommand SendAllListKeyMsg SendAllListKeyTip
+    SendTaEonAllBurstCommand SendAllBurstKeyMsg SendAllBurstKeyTip)");
+}
+
+TEST_F(CaptionsTest, DataChannels) {
+  TdcIhForm screen(form->window);
+  screen.Load();
+  Check(screen.window, "TDC", R"(
+    Command2 ReadOneKeyMsg ReadOneKeyTip         Command3 ReadAllKeyMsg ReadAllKeyTip
+    Command5 SendOneKeyMsg SendOneKeyTip         Command6 SendAllKeyMsg SendAllKeyTip
+    Command4 SendAllBurstKeyMsg SendAllBurstKeyTip)");
+  std::string rows = R"(
+    Combo1 - ComboKeyTip                         RichTextBox1 - WorksheetKeyTip
+    Drive1 - DriveKeyTip                         Dir1 - DirKeyTip
+    File1 - PageNameKeyTip                       Text105 - PageNameKeyTip
+    Command15 ReadPageKeyMsg ReadPageKeyTip      Command16 WritePageKeyMsg WritePageKeyTip
+    Command8 NewKeyMsg NewKeyTip                 Command13 ReadSelKeyMsg ReadSelKeyTip
+    Command7 ReadAllKeyMsg ReadAllKeyTip         Command11 SendSelKeyMsg SendSelKeyTip
+    Command1 SendAllKeyMsg SendAllKeyTip         Command12 SendAllBurstKeyMsg SendAllBurstKeyTip)";
+  for (int i = 0; i < IhTab::kBoxes; ++i) {
+    const std::string key = " PageKey" + Digits(i, 2);
+    rows.append(" Check1(" + std::to_string(i) + ")").append(key + "Msg").append(key + "Tip");
+  }
+  Check(screen.window, "IH", rows);
+  Check(screen.window, "TMC System", R"(
+    LtnText - LtnListNrKeyTip                    LtnVScroll - LtnListNrKeyTip
+    SidText - SidListNrKeyTip                    SidVScroll - SidListNrKeyTip
+    InternationalCheck InternationalKeyMsg -     NationalCheck NationalKeyMsg -
+    RegionalCheck RegionalKeyMsg -               UrbanCheck UrbanKeyMsg -
+    ReadTmcSystemCommand ReadKeyMsg ReadKeyTip   SendTmcSystemCommand SendKeyMsg SendKeyTip
+    SendTmcSystemBurstCommand SendBurstKeyMsg SendBurstKeyTip)");
+  Check(screen.window, "TMC", R"(
+    ReadTmcCommand ReadOneKeyMsg ReadOneKeyTip   ReadAllTmcCommand ReadAllKeyMsg ReadAllKeyTip
+    SendTmcCommand SendOneKeyMsg SendOneKeyTip   SendAllTmcCommand SendAllKeyMsg SendAllKeyTip
+    SendAllBurstTmcCommand SendAllBurstKeyMsg SendAllBurstKeyTip)");
+}
+
 }  // namespace
 }  // namespace corvalis::test
