@@ -59,17 +59,13 @@ MainForm::MainForm() : MSComm1(*Machine().port) {
                                              .init_main = [this] { InitMain(); },
                                              .reload_limits = [this] { globals_.LoadLimits(); }});
   };
+  ConnectionButton.Click = [this] { OpenScreen(connection_, window); };
   TaPtyMsButton.Click = [this] { OpenScreen(ta_pty_ms_, window); };
   PsnRtPinAfButton.Click = [this] { OpenScreen(psn_rt_pin_af_, window); };
   CtTpDiPiButton.Click = [this] { OpenScreen(ct_tp_di_pi_, window); };
   EonLiButton.Click = [this] { OpenScreen(eon_li_, window); };
   TdcIhButton.Click = [this] { OpenScreen(tdc_ih_, window); };
   EditGroupsButton.Click = [this] { OpenScreen(edit_groups_, window); };
-  // A screen that isn't there yet can't be opened.
-  for (Button* button : {&RS232CButton, &ConnectionButton, &TaPtyMsButton, &EditGroupsButton,
-                         &CtTpDiPiButton, &PsnRtPinAfButton, &EonLiButton, &TdcIhButton}) {
-    button->SetEnabled(static_cast<bool>(button->Click));
-  }
 }
 
 MainForm::~MainForm() {
@@ -229,7 +225,7 @@ void MainForm::ShowPath() {
 
 void MainForm::EnableServices() {
   EditGroupsButton.SetEnabled(configData->GroupsEnable());
-  EonLiButton.SetEnabled(EonLiButton.Click && configData->EonEnable());
+  EonLiButton.SetEnabled(configData->EonEnable());
 }
 
 void MainForm::ShowWait() { TheWaitForm().window.Show(&window); }

@@ -6,6 +6,7 @@
 #include <string>
 #include <utility>
 
+#include "app/connection_form.h"
 #include "app/globals.h"
 #include "busy/brand_marks.h"
 #include "link/rs232c_form.h"
@@ -68,10 +69,9 @@ class MainForm {
   SerialPort& MSComm1;
 
   /// The screen, once it has been opened; null before.
+  [[nodiscard]] ConnectionForm* OpenedConnection() const { return connection_.get(); }
   [[nodiscard]] CtTpDiPiForm* OpenedCtTpDiPi() const { return ct_tp_di_pi_.get(); }
   [[nodiscard]] PsnRtPinAfForm* OpenedPsnRtPinAf() const { return psn_rt_pin_af_.get(); }
-  [[nodiscard]] EonLiForm* OpenedEonLi() const { return eon_li_.get(); }
-  [[nodiscard]] TdcIhForm* OpenedTdcIh() const { return tdc_ih_.get(); }
 
  private:
   static constexpr const char* kExtension = ".rds";
@@ -111,6 +111,7 @@ class MainForm {
   Globals globals_;
   std::optional<Saved> saved_;  // the last one that reached the disk
   std::unique_ptr<RS232CForm> rs232c_;
+  std::unique_ptr<ConnectionForm> connection_;
   std::unique_ptr<TaPtyMsForm> ta_pty_ms_;
   std::unique_ptr<CtTpDiPiForm> ct_tp_di_pi_;
   std::unique_ptr<PsnRtPinAfForm> psn_rt_pin_af_;

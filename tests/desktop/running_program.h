@@ -23,6 +23,7 @@ using Lines = std::vector<std::string>;
 inline const QString kMain = QStringLiteral("MainForm");
 inline const QString kStation = QStringLiteral("CtTpDiPiForm");
 inline const QString kTexts = QStringLiteral("PsnRtPinAfForm");
+inline const QString kConnection = QStringLiteral("ConnectionForm");
 inline const QString kNetworks = QStringLiteral("EonLiForm");
 inline const QString kChannels = QStringLiteral("TdcIhForm");
 inline const QString kOnAir = QStringLiteral("TaPtyMsForm");

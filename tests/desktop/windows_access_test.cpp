@@ -71,6 +71,7 @@ class WindowsAccessTest : public RunningProgram {
     for (const auto& [button, window] : {std::pair(QStringLiteral("TaPtyMsButton"), kOnAir),
                                          std::pair(QStringLiteral("PsnRtPinAfButton"), kTexts),
                                          std::pair(QStringLiteral("CtTpDiPiButton"), kStation),
+                                         std::pair(QStringLiteral("ConnectionButton"), kConnection),
                                          std::pair(QStringLiteral("EonLiButton"), kNetworks),
                                          std::pair(QStringLiteral("TdcIhButton"), kChannels),
                                          std::pair(QStringLiteral("EditGroupsButton"), kGroups),
@@ -190,7 +191,7 @@ TEST_F(WindowsAccessTest, TabGoesThroughEveryWindowAsItReads) {
   for (const QWidget* stop : Stops(hand.Window(kMain))) menu << stop->objectName();
   EXPECT_EQ(menu.join(u' ').toStdString(),
             "TaPtyMsButton PsnRtPinAfButton CtTpDiPiButton EonLiButton TdcIhButton "
-            "EditGroupsButton RS232CButton "
+            "EditGroupsButton ConnectionButton RS232CButton "
             "Drive1 Dir1 File1 Text105 NewButton OpenButton SaveButton");
   ForEachPage([](const QWidget& window) {
     const QWidget* last = nullptr;

@@ -18,12 +18,11 @@ TEST_F(WindowsMenuTest, StartsOnItsFileWithTheScreensThatThereAre) {
   EXPECT_EQ(OnScreen(kWait), nullptr);
   EXPECT_EQ(hand.Shown(kMain, "Text105"), "corvalis.rds");
   const std::pair<const char*, QString> screens[] = {
-      {"TaPtyMsButton", kOnAir},  {"CtTpDiPiButton", kStation}, {"EditGroupsButton", kGroups},
-      {"RS232CButton", kSetup},   {"ConnectionButton", {}},     {"PsnRtPinAfButton", kTexts},
+      {"TaPtyMsButton", kOnAir},  {"CtTpDiPiButton", kStation},      {"EditGroupsButton", kGroups},
+      {"RS232CButton", kSetup},   {"ConnectionButton", kConnection}, {"PsnRtPinAfButton", kTexts},
       {"EonLiButton", kNetworks}, {"TdcIhButton", kChannels}};
   for (const auto& [button, screen] : screens) {
-    ASSERT_EQ(Usable(kMain, button), !screen.isEmpty()) << button;
-    if (screen.isEmpty()) continue;
+    ASSERT_TRUE(Usable(kMain, button)) << button;
     hand.Click(kMain, button);
     // The menu under it takes nothing: neither its close box nor a press.
     ExpectNotToClose({kMain});

@@ -1,6 +1,7 @@
 #include "desktop/views/views.h"
 
 #include "desktop/views/busy_views.h"
+#include "desktop/views/connection_view.h"
 #include "desktop/views/ct_tp_di_pi_view.h"
 #include "desktop/views/edit_groups_view.h"
 #include "desktop/views/eon_li_view.h"
@@ -17,6 +18,7 @@ void RegisterViews(QtScreenHost& host) {
   host.Register<WaitForm, WaitView>();
   host.Register<SerialCommunicationForm, SerialCommunicationView>();
   host.Register<RS232CForm, RS232CView>();
+  host.Register<ConnectionForm, ConnectionView>();
   host.Register<TaPtyMsForm, TaPtyMsView>();
   host.Register<EditGroupsForm, EditGroupsView>();
   host.Register<CtTpDiPiForm, CtTpDiPiView>();

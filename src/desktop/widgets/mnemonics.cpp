@@ -57,12 +57,22 @@ bool Labelled(const QWidget& field) {
   });
 }
 
-/// True for a check box that stands with more others than there are letters for.
+/// The page of tabs that `widget` stands on; null if it can be seen with all of them.
+const QWidget* PageOf(const QWidget* widget) {
+  for (; widget != nullptr && !widget->isWindow(); widget = widget->parentWidget()) {
+    if (qobject_cast<const QStackedWidget*>(widget->parentWidget()) != nullptr) return widget;
+  }
+  return nullptr;
+}
+
+/// True for a check box that stands on its page with more others than there are letters for.
 bool IsOneOfMany(const QWidget& widget) {
   constexpr qsizetype kFew = 10;
-  return qobject_cast<const QCheckBox*>(&widget) != nullptr &&
-         qobject_cast<const QGroupBox*>(widget.parentWidget()) != nullptr &&
-         widget.parentWidget()->findChildren<QCheckBox*>().size() > kFew;
+  if (qobject_cast<const QCheckBox*>(&widget) == nullptr) return false;
+  if (qobject_cast<const QGroupBox*>(widget.parentWidget()) == nullptr) return false;
+  const QWidget* page = PageOf(&widget);
+  if (page == nullptr) page = widget.window();
+  return page->findChildren<QCheckBox*>().size() > kFew;
 }
 
 /// The fields of a group that its title leads to, in their order: those that have no caption of
@@ -121,14 +131,6 @@ std::vector<Place> PlacesOf(const QWidget& window) {
   std::stable_sort(places.begin(), places.end(),
                    [](const Place& a, const Place& b) { return a.kind < b.kind; });
   return places;
-}
-
-/// The page of tabs that `widget` stands on; null if it can be seen with all of them.
-const QWidget* PageOf(const QWidget* widget) {
-  for (; widget != nullptr && !widget->isWindow(); widget = widget->parentWidget()) {
-    if (qobject_cast<const QStackedWidget*>(widget->parentWidget()) != nullptr) return widget;
-  }
-  return nullptr;
 }
 
 /// Where in a caption a mnemonic may stand: the first letters of its words, then its other

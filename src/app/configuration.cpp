@@ -1,0 +1,296 @@
+#include "app/configuration.h"
+
+#include <cmath>
+#include <cstdint>
+
+#include "link/command_table.h"
+#include "link/link_error.h"
+#include "link/list_commands.h"
+#include "link/serial_management.h"
+#include "link/transfer.h"
+#include "networks/eon_data.h"
+#include "networks/ih_data.h"
+#include "networks/li_data.h"
+#include "networks/tdc0_data.h"
+#include "networks/tdc_data.h"
+#include "networks/tmc_data.h"
+#include "platform/platform.h"
+#include "programme/af_a_data.h"
+#include "programme/af_b_data.h"
+#include "programme/pin_data.h"
+#include "programme/psn_data.h"
+#include "programme/psn_page_data.h"
+#include "programme/ptyn_data.h"
+#include "programme/rt_data.h"
+
+namespace corvalis {
+
+namespace {
+
+std::int16_t Index(int item) { return static_cast<std::int16_t>(item); }
+std::uint8_t Place(int item) { return static_cast<std::uint8_t>(item); }
+
+int One() { return 1; }
+
+bool MethodA() { return configData->AfMethodA(); }
+bool MethodB() { return !configData->AfMethodA(); }
+
+// The kinds of items behind the names, one after the other: the first failure ends the rest.
+struct Step {
+  PresetFlag flag;
+  const char* what;  // with the number of them before it, if they are counted
+  CommandCode code;
+  int (*count)();
+  void (*read)(int item);
+  void (*send)(int item);       // null: only read
+  bool (*offered)() = nullptr;  // null: always
+};
+
+const Step kSteps[] = {
+    {&ConfigData::PresetRt, "radio texts", CommandCode::kRt, [] { return int{rtData->MaxRtNum()}; },
+     [](int item) { rtData->GetOneRds(Index(item)); },
+     [](int item) { rtData->SetOneRds(Index(item)); }},
+    {&ConfigData::PresetPin, "programme items", CommandCode::kPin,
+     [] { return int{pinData->MaxPinNum()}; }, [](int item) { pinData->GetOneRds(Index(item)); },
+     [](int item) { pinData->SetOneRds(Index(item)); }},
+    {&ConfigData::PresetAf, "the list of method A", CommandCode::kAf, One,
+     [](int /*item*/) { afAData->GetOneRds(); }, [](int /*item*/) { afAData->SetOneRds(); },
+     MethodA},
+    {&ConfigData::PresetAf, "lists of method B", CommandCode::kAf,
+     [] { return int{afBData->MaxAfBListNum()}; },
+     [](int item) { afBData->GetOneRds(Index(item)); },
+     [](int item) { afBData->SetOneRds(Index(item)); }, MethodB},
+    {&ConfigData::PresetTdc, "subchannels", CommandCode::kTdc,
+     [] { return int{tdc0Data->MaxSubChannelNum()}; },
+     [](int item) { tdc0Data->GetOneRds(Index(item)); },
+     [](int item) { tdc0Data->SendOneRds(Index(item)); }},
+    {&ConfigData::PresetTdc, "channels", CommandCode::kTdc,
+     [] { return int{tdcData->MaxChannelNum()}; },
+     [](int item) { tdcData->GetOneRds(Index(item)); },
+     [](int item) { tdcData->SendOneRds(Index(item)); }},
+    {&ConfigData::PresetIh, "in-house pages, which are only read", CommandCode::kIh,
+     [] { return int{ihData->PagesCount()}; }, [](int item) { ihData->GetOneRds(Index(item)); },
+     nullptr},
+    {&ConfigData::PresetPi, "the PI code", CommandCode::kPi, One,
+     [](int /*item*/) { configData->GetPiRds(); }, [](int /*item*/) { configData->SetPiRds(); }},
+    {&ConfigData::PresetCt, "date, time and offset", CommandCode::kCt, One,
+     [](int /*item*/) { configData->GetCtRds(); }, [](int /*item*/) { configData->SetCtRds(); }},
+    {&ConfigData::PresetTp, "the traffic programme flag", CommandCode::kTp, One,
+     [](int /*item*/) { configData->GetTpRds(); }, [](int /*item*/) { configData->SetTpRds(); }},
+    {&ConfigData::PresetDi, "the decoder flags", CommandCode::kDi, One,
+     [](int /*item*/) { configData->GetDiRds(); }, [](int /*item*/) { configData->SetDiRds(); }},
+    {&ConfigData::PresetEcc, "the country code", CommandCode::kEcc, One,
+     [](int /*item*/) { configData->GetEccRds(); }, [](int /*item*/) { configData->SetEccRds(); }},
+    {&ConfigData::PresetLic, "the language code", CommandCode::kLic, One,
+     [](int /*item*/) { configData->GetLicRds(); }, [](int /*item*/) { configData->SetLicRds(); }},
+    {&ConfigData::PresetLi, "the linkage information", CommandCode::kLi, One,
+     [](int /*item*/) { liData->GetOneRds(); }, [](int /*item*/) { liData->SetOneRds(); }},
+    {&ConfigData::PresetEon, "lists of other networks", CommandCode::kEon,
+     [] { return int{eonData->MaxListNum()}; }, [](int item) { eonData->GetOneRds(Index(item)); },
+     [](int item) { eonData->SetOneRds(Index(item)); }},
+    {&ConfigData::PresetPtyn, "programme type names", CommandCode::kPtyn,
+     [] { return PtynData::MaxPtyList() + 1; }, [](int item) { ptynData->GetOneRds(Place(item)); },
+     [](int item) { ptynData->SetOneRds(Place(item)); }},
+    {&ConfigData::PresetTmc, "the TMC system", CommandCode::kTmcSystem, One,
+     [](int /*item*/) { tmcData->GetOneSystemRds(); },
+     [](int /*item*/) { tmcData->SetOneSystemRds(); }},
+    {&ConfigData::PresetTmc, "traffic messages", CommandCode::kTmc,
+     [] { return int{tmcData->MaxListNum()}; }, [](int item) { tmcData->GetOneRds(Index(item)); },
+     [](int item) { tmcData->SetOneRds(Index(item)); }}};
+
+bool Offered(const Step& step) { return step.offered == nullptr || step.offered(); }
+
+bool Travels(const Step& step, ConfigurationRun run) {
+  return (configData->*step.flag)() && Offered(step) &&
+         (run == ConfigurationRun::kRead || step.send != nullptr);
+}
+
+bool PlanTravels(ConfigurationRun run) {
+  return configData->PsnPagesEnable() &&
+         // A burst takes the plan along whether it is in use or not. That is meant.
+         (run == ConfigurationRun::kBurst || configData->PsnPlanEnable());
+}
+
+void RunPage(ConfigurationRun run, std::uint8_t page) {
+  RunItems(psnPageData->MaxPsnNum(), [run, page](int row) {
+    if (run == ConfigurationRun::kRead) {
+      psnPageData->GetOneRds(page, Index(row));
+    } else {
+      psnPageData->SetOneRds(page, Index(row));
+    }
+  });
+}
+
+// The pages go on where others end. A page that could not be sent ends alone: the next one starts
+// all the same. A page that could not be read ends the pages. The plan starts in either case, and
+// as each frame says anew how the link is, it and what follows go on as far as they succeed. Only
+// the operator's abort ends them all. All of that is meant.
+void RunPages(ConfigurationRun run) {
+  for (int page = 0; page < psnPageData->MaxPsnPageNum(); ++page) {
+    RunPage(run, Place(page));
+    if (LinkError == kErrorAborted) return;
+    if (LinkError != kLinkOk && run == ConfigurationRun::kRead) break;
+  }
+  if (!PlanTravels(run)) return;
+  RunItems(psnPageData->MaxPsnPlanNum(), [run](int row) {
+    if (run == ConfigurationRun::kRead) {
+      psnPageData->GetOneRdsPlan(Index(row));
+    } else {
+      psnPageData->SetOneRdsPlan(Index(row));
+    }
+  });
+}
+
+void RunNames(ConfigurationRun run) {
+  if (configData->PsnPagesEnable()) {
+    RunPages(run);
+    return;
+  }
+  RunItems(psnData->MaxPsnNum(), [run](int row) {
+    if (run == ConfigurationRun::kRead) {
+      psnData->GetOneRds(Index(row));
+    } else {
+      psnData->SetOneRds(Index(row));
+    }
+  });
+}
+
+int PassesOfBurst() { return configData->Burst() + 1; }
+
+void TakePresentTime() {
+  const DateTime now = Machine().clock->Now();
+  configData->SetDateValue(now);
+  configData->SetDayOfWeek(static_cast<std::int16_t>(WeekdayFromMonday(now)));
+}
+
+// What the items of a run cost on the line.
+class Meter {
+ public:
+  explicit Meter(ConfigurationRun run) : read_(run == ConfigurationRun::kRead) {
+    if (run == ConfigurationRun::kBurst) load_.passes = PassesOfBurst();
+  }
+
+  void Add(CommandCode code, int items) {
+    load_.items += items;
+    pass_seconds_ += items * (code == CommandCode::kIh ? Page() : Seconds(Bytes(code)));
+  }
+  // The lists that the first sending of method A empties.
+  void AddClearing(int lists) {
+    constexpr double kPause = 0.2;
+    load_.seconds += lists * (Seconds(Bytes(CommandCode::kAf)) + kPause);
+  }
+
+  [[nodiscard]] ConfigurationLoad Load() const {
+    ConfigurationLoad load = load_;
+    load.seconds += load.passes * pass_seconds_;
+    return load;
+  }
+
+ private:
+  static constexpr int kAcknowledgement = 1;
+  static int Frame(CommandCode code) { return static_cast<int>(FrameSize(code)); }
+
+  [[nodiscard]] int Bytes(CommandCode code) const {
+    if (!read_) return Frame(code) + (configData->Satellite() ? 0 : kAcknowledgement);
+    // The number of some items has two parts.
+    const bool in_parts = code == CommandCode::kPin || code == CommandCode::kPsnPage;
+    return (in_parts ? 6 : 5) + kAcknowledgement + Frame(code);
+  }
+
+  // Every block of a page is asked for alone, and so is its end.
+  static double Page() {
+    constexpr int kBlockRequest = 8;
+    constexpr int kEnd = kIhShortLastIndex + 1;
+    constexpr double kPause = 0.2;
+    return Seconds(kIhBlocks * (kBlockRequest + kAcknowledgement + Frame(CommandCode::kIh)) + kEnd +
+                   kAcknowledgement + kEnd) +
+           kIhBlocks * kPause;
+  }
+
+  static double Seconds(int bytes) {
+    const int baud = configData->Baudrate();
+    if (baud <= 0) return 0;
+    constexpr int kStartAndData = 9;
+    const int bits = kStartAndData + (configData->Parity() == "N" ? 0 : 1) + configData->StopBit();
+    return static_cast<double>(bytes) * bits / baud;
+  }
+
+  bool read_;
+  ConfigurationLoad load_;
+  double pass_seconds_ = 0;
+};
+
+// `count` of them, in words.
+std::string Counted(int count, const std::string& what) {
+  return std::to_string(count) + " " + what;
+}
+
+std::string Names() {
+  if (!configData->PsnPagesEnable()) return Counted(psnData->MaxPsnNum(), "names");
+  std::string text = Counted(psnPageData->MaxPsnPageNum(), "pages of ") +
+                     Counted(psnPageData->MaxPsnNum(), "names");
+  if (PlanTravels(configData->Satellite() ? ConfigurationRun::kBurst : ConfigurationRun::kSend)) {
+    text += ", " + Counted(psnPageData->MaxPsnPlanNum(), "rows of the plan");
+  }
+  return text;
+}
+
+}  // namespace
+
+void RunConfiguration(ConfigurationRun run) {
+  LinkError = kLinkOk;
+  if (configData->PresetPsn()) RunNames(run);
+  for (const Step& step : kSteps) {
+    if (LinkError != kLinkOk) return;
+    if (!Travels(step, run)) continue;
+    if (step.code == CommandCode::kCt && run == ConfigurationRun::kSend) TakePresentTime();
+    RunItems(step.count(), run == ConfigurationRun::kRead ? step.read : step.send);
+  }
+}
+
+ConfigurationLoad LoadOfConfiguration(ConfigurationRun run) {
+  Meter meter(run);
+  if (configData->PresetPsn() && configData->PsnPagesEnable()) {
+    meter.Add(CommandCode::kPsnPage, psnPageData->MaxPsnPageNum() * psnPageData->MaxPsnNum());
+    if (PlanTravels(run)) meter.Add(CommandCode::kPsnPlan, psnPageData->MaxPsnPlanNum());
+  } else if (configData->PresetPsn()) {
+    meter.Add(CommandCode::kPsn, psnData->MaxPsnNum());
+  }
+  for (const Step& step : kSteps) {
+    if (!Travels(step, run)) continue;
+    meter.Add(step.code, step.count());
+    const bool clears = step.offered == MethodA && run != ConfigurationRun::kRead;
+    if (clears && !afAData->OtherListsCleared()) meter.AddClearing(afBData->MaxAfBListNum() - 1);
+  }
+  return meter.Load();
+}
+
+void BurstConfiguration() {
+  for (int pass = 0; pass < PassesOfBurst(); ++pass) {
+    RunConfiguration(ConfigurationRun::kBurst);
+    if (LinkError != kLinkOk) return;
+  }
+}
+
+std::string TravelsWith(PresetFlag flag) {
+  if (flag == &ConfigData::PresetPsn) return Names();
+  std::string text;
+  for (const Step& step : kSteps) {
+    if (step.flag != flag || !Offered(step)) continue;
+    if (!text.empty()) text += ", ";
+    text += step.count == One ? step.what : Counted(step.count(), step.what);
+  }
+  return text;
+}
+
+std::string AboutInWords(double seconds) {
+  const auto round = [seconds](int unit) {
+    return static_cast<int>(std::ceil(seconds / unit)) * unit;
+  };
+  if (seconds <= 1) return "about a second";
+  if (seconds <= 20) return "about " + std::to_string(round(1)) + " seconds";
+  if (seconds <= 100) return "about " + std::to_string(round(10)) + " seconds";
+  return "about " + std::to_string(static_cast<int>(std::lround(seconds / 60))) + " minutes";
+}
+
+}  // namespace corvalis
