@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <limits>
 #include <sstream>
 
 #include "app/configuration.h"
@@ -282,32 +283,101 @@ TEST_F(ConnectionTest, ThePagesGoOnInAWayOfTheirOwn) {
   }
 }
 
-TEST_F(ConnectionTest, AFailureEndsTheRestAndTheNextRunStartsAnew) {
-  const std::string some = "Rt Pin Af Tdc Pi Ct Tp Di Ecc Lic Li Eon Ptyn Tmc";
-  OpenScreen(File(kLocal, some));
-  configData->SetAfMethodA(false);
-  for (const int code :
-       {kRt, kPin, kAf, kTdc, kPi, kCt, kTp, kDi, kEcc, kLic, kLi, kEon, kPtyn, kTmcSystem, kTmc}) {
-    for (Button* button : {&form->Command11, &form->Command1}) {
-      SCOPED_TRACE(button->Name() + " " + std::to_string(code));
-      Refuse([code](const Bytes& frame) { return frame[1] == code; });
-      button->Press();
-      const Runs runs = Codes();
-      ASSERT_FALSE(runs.empty());
-      EXPECT_EQ(runs.back(), std::pair(code, 1));
-      EXPECT_EQ(Boxes().size(), 1U);
-      EXPECT_TRUE(form->window.Enabled());
+// Whatever happens to the line at some item of some step: it is said once, the rest is left, and
+// the next run works.
+TEST_F(ConnectionTest, FaultsInMidTransfer) {
+  struct Fault {
+    const char* name;
+    std::function<Bytes(const Bytes& answer)> answer;
+    std::size_t boxes = 1;
+  };
+  const Fault faults[] = {
+      {"refused", [](const Bytes&) { return Bytes{0x15, 0x02, 0x00, 0x03, 0x03, 0x02}; }},
+      {"silent", [](const Bytes&) { return Bytes{}; }},
+      {"garbage",
+       [](const Bytes&) {
+         return Bytes{0x55, 0xAA, 0x06};
+       }},
+      {"cut", [](const Bytes& answer) { return Bytes(answer.begin(), answer.end() - 1); }},
+      {"falsified",
+       [](const Bytes& answer) {
+         Bytes falsified;
+         for (const std::uint8_t byte : answer) falsified.push_back(byte ^ 0x10);
+         return falsified;
+       }},
+      {"unplugged",
+       [this](const Bytes&) {
+         LinkOpen = false;
+         return Bytes{};
+       }},
+      {"aborted",
+       [this](const Bytes&) {
+         time.After(1, [] { EscPressed = true; });
+         return Bytes{};
+       },
+       0}};
+  const std::tuple<const char*, int, int> steps[] = {
+      {"Psn", kPsn, 3},   {"Rt", kRt, 3},   {"Pin", kPin, 3},    {"Af", kAf, 3},
+      {"Tdc", kTdc, 131}, {"Ih", kIh, 34},  {"Pi", kPi, 1},      {"Ct", kCt, 1},
+      {"Tp", kTp, 1},     {"Di", kDi, 1},   {"Ecc", kEcc, 1},    {"Lic", kLic, 1},
+      {"Li", kLi, 1},     {"Eon", kEon, 2}, {"Ptyn", kPtyn, 32}, {"Tmc", kTmcSystem, 1},
+      {"Tmc", kTmc, 2}};
+  unsigned random = 20261125;
+  for (const auto& [preset, code, frames] : steps) {
+    for (const Fault& fault : faults) {
+      for (const bool send : {false, true}) {
+        if (send && code == kIh) continue;  // never sent
+        random = random * 1103515245 + 12345;
+        const int at = static_cast<int>(random >> 16) % frames;
+        SCOPED_TRACE(std::string(preset) + " " + fault.name + (send ? " sent, " : " read, ") +
+                     std::to_string(at));
+        OpenScreen(File(kLocal, std::string(preset) + " Ptyn", "PSN Pages Enable=Off\n"));
+        configData->SetAfMethodA(false);
+        Button& button = send ? form->Command11 : form->Command1;
+        int seen = 0;
+        port.answer = [&, target = code](const Bytes& frame) {
+          Bytes answer;
+          for (const auto& one : line->Take(frame)) {
+            answer.insert(answer.end(), one.bytes.begin(), one.bytes.end());
+          }
+          return frame[1] == target && seen++ >= at ? fault.answer(answer) : answer;
+        };
+        button.Press();
+        EXPECT_EQ(Boxes().size(), fault.boxes);
+        const Runs runs = Codes();
+        ASSERT_FALSE(runs.empty());
+        EXPECT_EQ(runs.back().first, code);  // nothing after it
+        EXPECT_TRUE(form->window.Enabled());
+        EXPECT_FALSE(EscPressed);
+        LinkOpen = true;
+        seen = std::numeric_limits<int>::min();  // the line is good again
+        button.Press();
+        EXPECT_EQ(Boxes(), no_boxes);
+        EXPECT_EQ(Codes().back().first, code < kTmcSystem ? kPtyn : kTmc);
+      }
     }
   }
-  OpenScreen(File(kSatellite, "Pi Tp"));
-  AddressSent = true;
-  LinkOpen = false;
-  form->Command12.Press();  // single values are silent on a closed link
-  EXPECT_EQ(Boxes(), no_boxes);
-  OpenScreen(File(kLocal, "Pi Rt Tp Pin"));
-  LinkOpen = false;
+}
+
+TEST_F(ConnectionTest, WhatWasReadBeforeAFailureIsKept) {
+  OpenScreen(File(kLocal, "Rt"));
+  Hold(kRt, "07" + std::string(64, 'R'), 0);
+  Refuse([](const Bytes& frame) { return frame[1] == kRt && frame[2] == 1; });
   form->Command1.Press();
   EXPECT_EQ(Boxes().size(), 1U);
+  EXPECT_EQ(rtData->Data(0), std::string(64, 'R'));
+}
+
+TEST_F(ConnectionTest, OnAClosedLinkSingleValuesAreSilent) {
+  OpenScreen(File(kLocal, "Pi Tp"));
+  LinkOpen = false;
+  form->Command11.Press();
+  form->Command1.Press();
+  EXPECT_EQ(Boxes(), no_boxes);
+  OpenScreen(File(kLocal, "Pi Li Eon Tp"));
+  LinkOpen = false;
+  form->Command11.Press();
+  EXPECT_EQ(Boxes().size(), 1U);  // the first other item
 }
 
 TEST_F(ConnectionTest, WhatTravelsStandsInWords) {
