@@ -46,9 +46,13 @@ prepare() {
   copy examples/station.rds corvalis.rds
 }
 
+# The sample names the folder of its in-house pages, "examples"; a copy names its own.
 copy() {
-  local to=$XDG_DATA_HOME/corvalis/$2
-  [ -e "$to" ] || cp "$1" "$to" || fail "The file $to can't be made."
+  local folder=$XDG_DATA_HOME/corvalis text
+  local to=$folder/$2
+  [ -e "$to" ] && return
+  text=$(<"$1") && printf '%s\n' "${text//;examples;/";$folder;"}" >"$to" ||
+    fail "The file $to can't be made."
 }
 
 # The simulated Coder at COM 1, with these options more.

@@ -98,12 +98,17 @@ void Hand::Choose(const QString& window, const QString& list, const QString& tex
 }
 
 void Hand::Type(const QString& window, const QString& box, const QString& text) const {
-  auto* line = qobject_cast<QLineEdit*>(&Control(window, box));
-  if (line == nullptr) Fail(box + " can't be typed in.");
-  line->setFocus(Qt::MouseFocusReason);
-  line->selectAll();
-  QTest::keyClicks(line, text);
-  QTest::keyClick(line, Qt::Key_Tab);
+  QWidget& widget = Control(window, box);
+  widget.setFocus(Qt::MouseFocusReason);
+  if (auto* line = qobject_cast<QLineEdit*>(&widget)) {
+    line->selectAll();
+  } else if (auto* memo = qobject_cast<QPlainTextEdit*>(&widget)) {
+    memo->selectAll();
+  } else {
+    Fail(box + " can't be typed in.");
+  }
+  QTest::keyClicks(&widget, text);
+  QTest::keyClick(&widget, Qt::Key_Tab);
 }
 
 void Hand::StepUp(const QString& window, const QString& spinner) const {

@@ -195,7 +195,7 @@ void Tour::ExpectHeld(const QString& item, const QString& should_be) {
 }
 
 QString Tour::Shown(const QString& control) const {
-  if (control.startsWith(QStringLiteral("Check"))) {
+  if (control.contains(QStringLiteral("Check"))) {
     const auto* box = qobject_cast<QAbstractButton*>(&hand_.Control(window_, control));
     return box != nullptr && box->isChecked() ? QStringLiteral("on") : QStringLiteral("off");
   }
