@@ -201,6 +201,12 @@ TEST_F(WindowsNetworksTest, APageIsChosenTypedAndFoundByHand) {
   EXPECT_EQ(hand.Shown(kChannels, "RichTextBox1"), "NEWS");
   hand.Click(kChannels, "Command16");
   EXPECT_EQ(ReadFile("news.txt").size(), 2050U);
+  // What is undone is never the text of another page.
+  ihData->SetPage(2, "NEWSPAPER");
+  hand.Choose(kChannels, "Combo1", "Page02");
+  QTest::mouseClick(text.viewport(), Qt::LeftButton);
+  QTest::keyClick(&text, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(ihData->Page(2).substr(0, 10), "NEWSPAPER ");
 
   hand.Click(kChannels, "Check1(1)");
   hand.Click(kChannels, "Command11");
@@ -239,6 +245,11 @@ TEST_F(WindowsNetworksTest, MessagesAreOfferedOnlyWhereTheyAreEnabled) {
   bar.setFocus();
   for (int i = 0; i < 3; ++i) Press(Qt::Key_Right);
   EXPECT_EQ(bar.currentIndex(), 1);
+  // A box of several lines leaves ESC to the screen too.
+  hand.Control(kChannels, "RichTextBox1").setFocus();
+  Press(Qt::Key_Escape);
+  QApplication::processEvents();
+  EXPECT_EQ(OnScreen(kChannels), nullptr);
 }
 
 }  // namespace

@@ -85,7 +85,9 @@ void MemoWidget::Draw() {
   if (const std::string& text = box_.Text(); shown_ != text || Plain() != Shown(text)) {
     const QString had = Plain();
     const QString has = Shown(text);
-    if (!had.isEmpty() && has.startsWith(had)) {
+    // A record that only grows stays as it is being looked at. What can be edited is begun anew, so
+    // that nobody undoes it into a text of before.
+    if (isReadOnly() && !had.isEmpty() && has.startsWith(had)) {
       QTextCursor end(document());
       end.movePosition(QTextCursor::End);
       end.insertText(has.mid(had.size()));
