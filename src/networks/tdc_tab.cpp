@@ -116,12 +116,7 @@ void TdcTab::SetGrid1Rules() {
   };
   DBGrid1.RowLeft = [this](int row) {
     if (!IsWhole(DBGrid1.Shown(row, kCommand0), kTdc0Bits)) return false;
-    const std::int32_t address = HexToLong(DBGrid1.Shown(row, kAddress));
-    if (address < 0) {
-      DBGrid1.DropEdit(kAddress);  // it is empty
-    } else if (DBGrid1.HasEdit(kAddress)) {
-      DBGrid1.PutEdit(kAddress, AddressText(address));
-    }
+    if (DBGrid1.Shown(row, kAddress).empty()) DBGrid1.DropEdit(kAddress);
     return true;
   };
   DBGrid1.Write = [](int row, int column, const std::string& text) {

@@ -108,6 +108,31 @@ TEST_F(NetworkListsTest, ValuesAreReadAndWritten) {
   }
 }
 
+TEST_F(NetworkListsTest, AnotherFileLeavesNothingOfTheOneBefore) {
+  StartOn(std::string(kSatellite) + "[Ih Pages]\nPage02=7;A;B;C\n");
+  eonData->SetTa(true, 0);
+  eonData->SetPi(1, 0);
+  eonData->SetAfA(88, 0, 0);
+  liData->SetLsn(1);
+  liData->SetLa(true);
+  tdc0Data->SetAddress(5, 1);
+  tdc0Data->SetActive(5, true);
+  tdcData->SetActive(5, true);
+  ihData->SetPage(2, "OLD");
+  tmcData->SetLtn(9);
+  tmcData->SetUrban(true);
+  tmcData->SetEvents(0, 5);
+  const auto stored = [this](const std::function<void()>& load) {
+    WriteFile(ProgramFile(), kSatellite);
+    configData->GetIni();
+    load();
+    Store();
+    return ReadFile(ProgramFile()) + ihData->Page(2);
+  };
+  const std::string again = stored([] { Lists::GetIni(); });
+  EXPECT_EQ(again, stored([this] { LoadLists(); }));
+}
+
 TEST_F(NetworkListsTest, TheListOnTheScreenGoesAround) {
   StartOn(std::string(kSatellite) + "[EON]\nMaxEonNum=3\n");
   for (const auto& [asked, shown] : {std::pair{-1, 2}, {-5, 2}, {3, 0}, {7, 1}, {2, 2}}) {

@@ -143,6 +143,12 @@ TEST_F(TdcTabTest, ALeftRowIsStored) {
     EXPECT_EQ(tdcData->Active(2), on);
     EXPECT_EQ(Second().Shown(2, kOn + kSecond), on ? "1" : "0");
   }
+  // An address that is rubbed out is the old one.
+  tdc0Data->SetAddress(2, 0xABC);
+  Strike(First(), 2, kAddress, "");
+  First().Clear();
+  EXPECT_TRUE(First().MoveTo(3, kAddress));
+  EXPECT_EQ(tdc0Data->Address(2), 0xABC);
   EXPECT_EQ(First().Shown(0, 0) + First().Shown(99, 0), "0099");
   EXPECT_EQ(Second().Shown(0, 0) + Second().Shown(30, 0), "0131");
   // The screen closes on what is being typed.
@@ -170,13 +176,22 @@ TEST_F(TdcTabTest, TheGridGoneIntoLastIsTheSelectedOne) {
   Tab().Command5.Press();
   EXPECT_EQ(Numbers(), std::vector<int>{34});
   EXPECT_EQ(Tab().TdcSelectedLabel.Caption(), "Channel 0, 03");
+  // Only what is stored is sent.
+  Strike(First(), 3, kOn, "0");
+  Tab().Command5.Press();
+  Tab().Command6.Press();
+  EXPECT_EQ(Held(0x11, 34).front(), '1');
+  EXPECT_TRUE(First().Escape());
   form->window.MoveFocus(&Second());
+  form->SSTab1.Choose(1);
   form->window.Close();
   form->Load();
+  EXPECT_EQ(form->SSTab1.Tab(), 0);
+  First().MoveTo(9, 0);
   Written();
   Tab().Command5.Press();
-  EXPECT_EQ(Numbers(), std::vector<int>{0});
-  EXPECT_EQ(Tab().Tdc0MarkLabel.Caption() + Tab().TdcMarkLabel.Caption(), "selected");
+  EXPECT_EQ(Numbers(), std::vector<int>{40});
+  EXPECT_EQ(Tab().Tdc0MarkLabel.Caption(), "selected");
 }
 
 TEST_F(TdcTabTest, AllRowsTravelInTheirOrderAndThePlaceIsKept) {
@@ -238,6 +253,7 @@ TEST_F(TdcTabTest, ABurstIsOnlyForAOneWayLink) {
   ExpectAddressRule({&Tab().Command4, &Tab().Command5, &Tab().Command6});
   Tab().Command4.Press();
   EXPECT_EQ(Numbers(), AllNumbers(2));
+  EXPECT_EQ(time.Elapsed(), 0);
   Tab().Command5.Press();
   Tab().Command6.Press();
   EXPECT_EQ(Numbers().size(), 132U);
