@@ -3,6 +3,7 @@
 
 #include <benchmark/benchmark.h>
 #include <time.h>
+#include <unistd.h>
 
 #include <QApplication>
 #include <QProcess>
@@ -14,11 +15,13 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <iterator>
 #include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
+#include "app/configuration.h"
 #include "desktop/program.h"
 #include "link/list_commands.h"
 #include "link/serial_management.h"
@@ -33,10 +36,11 @@ using Seconds = std::chrono::duration<double>;
 
 constexpr double kBitsPerByte = 11;  // one to start, eight, two to stop
 constexpr double kAckBytes = 1;
+constexpr int kUnpaced = -1;
 constexpr double kPause = 0.2;  // seconds after each list that is emptied, and each part of a page
 
 /// The program in folders of its own, with a Coder at COM 1: with a baud rate on a two-way line at
-/// that speed, else on a one-way path.
+/// that speed, or at none; else on a one-way path.
 class Station {
  public:
   explicit Station(const std::string& file, int baud = 0) {
@@ -47,11 +51,11 @@ class Station {
     std::filesystem::create_directories(folder + "/data/corvalis");
     std::ofstream(folder + "/data/corvalis/corvalis.rds")
         << "[Serial Setup]\nSatellite=" << (baud == 0 ? "On" : "Off")
-        << "\nBaudrate=" << (baud == 0 ? 9600 : baud) << "\n"
+        << "\nBaudrate=" << (baud <= 0 ? 9600 : baud) << "\n"
         << file;
     QStringList options{"--open", "--link",
                         QString::fromStdString(folder + "/config/corvalis/com1")};
-    if (baud != 0) options << "--pace";
+    if (baud > 0) options << "--pace";
     coder_.start(QStringLiteral(CORVALIS_CODER_PROGRAM), options);
     if (!coder_.waitForReadyRead()) throw std::runtime_error("the Coder does not start");
     program = std::make_unique<desktop::Program>();
@@ -171,6 +175,95 @@ void BM_ReadPage(benchmark::State& state) {
 }
 BENCHMARK(BM_ReadPage)->Arg(9600)->Iterations(1)->UseRealTime()->Unit(benchmark::kSecond);
 
+double ProcessorSeconds() {
+  timespec now{};
+  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
+  return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
+}
+
+// The example station with everything selected; the line's settings are those of the bench.
+std::string WholeStation(bool pages) {
+  std::ifstream example(CORVALIS_EXAMPLE);
+  std::string file(std::istreambuf_iterator<char>(example), {});
+  const std::size_t serial = file.find("[Serial Setup]");
+  file.erase(serial, file.find('[', serial + 1) - serial);
+  std::string flags = "[RDS Setup]\n";
+  for (const char* name : {"Psn", "Rt", "Pin", "Af", "Tdc", "Pi", "Ct", "Tp", "Di", "Ecc", "Lic",
+                           "Li", "Eon", "Ptyn", "Tmc"}) {
+    flags += std::string("Preset") + name + "=On\n";
+  }
+  if (pages) flags += "PresetIh=On\n";
+  return file.replace(file.find("[RDS Setup]\n"), 12, flags);
+}
+
+double ResidentMegabytes() {
+  std::ifstream status("/proc/self/statm");
+  double total = 0;
+  double resident = 0;
+  status >> total >> resident;
+  return resident * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
+}
+
+// The whole station there, by the button, over what its bytes and pauses take on the line; and what
+// of a processor the program takes meanwhile.
+void MeasureStation(benchmark::State& state, ConfigurationRun way) {
+  const int baud = static_cast<int>(state.range(0));
+  Station station(WholeStation(true), baud);
+  station.program->Menu().ConnectionButton.Press();
+  QApplication::processEvents();
+  ConnectionForm& form = *station.program->Menu().OpenedConnection();
+  const ConfigurationLoad load = LoadOfConfiguration(way);
+  double seconds = 0;
+  double processor = 0;
+  for (auto _ : state) {
+    const double used = ProcessorSeconds();
+    const auto begin = SteadyClock::now();
+    (way == ConfigurationRun::kSend ? form.Command11 : form.Command1).Press();
+    seconds = Seconds(SteadyClock::now() - begin).count();
+    processor = ProcessorSeconds() - used;
+  }
+  if (LinkError != kLinkOk) state.SkipWithError("a frame failed");
+  state.counters["items"] = load.items;
+  state.counters["over_line_and_pauses"] = seconds / load.seconds;
+  state.counters["processor_percent"] = 100 * processor / seconds;
+}
+
+void BM_SendStation(benchmark::State& state) { MeasureStation(state, ConfigurationRun::kSend); }
+BENCHMARK(BM_SendStation)
+    ->Arg(9600)
+    ->Arg(19200)
+    ->Iterations(1)
+    ->UseRealTime()
+    ->Unit(benchmark::kSecond);
+
+void BM_ReadStation(benchmark::State& state) { MeasureStation(state, ConfigurationRun::kRead); }
+BENCHMARK(BM_ReadStation)
+    ->Arg(9600)
+    ->Arg(19200)
+    ->Iterations(1)
+    ->UseRealTime()
+    ->Unit(benchmark::kSecond);
+
+// The memory at the end of a transfer in both ways, and after ten more, at no line's speed.
+void BM_MemoryOfTransfers(benchmark::State& state) {
+  Station station(WholeStation(false), kUnpaced);
+  station.program->Menu().ConnectionButton.Press();
+  QApplication::processEvents();
+  ConnectionForm& form = *station.program->Menu().OpenedConnection();
+  const auto both_ways = [&form] {
+    form.Command11.Press();
+    form.Command1.Press();
+  };
+  for (auto _ : state) {
+    both_ways();
+    state.counters["after_1_MB"] = ResidentMegabytes();
+    for (int i = 0; i < 10; ++i) both_ways();
+    state.counters["after_11_MB"] = ResidentMegabytes();
+  }
+  if (LinkError != kLinkOk) state.SkipWithError("a frame failed");
+}
+BENCHMARK(BM_MemoryOfTransfers)->Iterations(1)->UseRealTime()->Unit(benchmark::kSecond);
+
 // A station with something in each of `texts` radio texts, in 10 pages of 50 rows and 255 items.
 std::string FullLists(int texts) {
   std::string file;
@@ -193,12 +286,6 @@ std::string FullLists(int texts) {
     add("Pin%03d=%02d;%02d:%02d;%02d;On\n", item, item % 28 + 1, item % 24, item % 60, item % 32);
   }
   return file;
-}
-
-double ProcessorSeconds() {
-  timespec now{};
-  clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &now);
-  return static_cast<double>(now.tv_sec) + static_cast<double>(now.tv_nsec) * 1e-9;
 }
 
 void CountFrames(benchmark::State& state, const std::string& clock, std::vector<double> frames) {
