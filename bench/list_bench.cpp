@@ -187,13 +187,13 @@ std::string WholeStation(bool pages) {
   std::string file(std::istreambuf_iterator<char>(example), {});
   const std::size_t serial = file.find("[Serial Setup]");
   file.erase(serial, file.find('[', serial + 1) - serial);
-  std::string flags = "[RDS Setup]\n";
+  std::string flags;
   for (const char* name : {"Psn", "Rt", "Pin", "Af", "Tdc", "Pi", "Ct", "Tp", "Di", "Ecc", "Lic",
                            "Li", "Eon", "Ptyn", "Tmc"}) {
     flags += std::string("Preset") + name + "=On\n";
   }
   if (pages) flags += "PresetIh=On\n";
-  return file.replace(file.find("[RDS Setup]\n"), 12, flags);
+  return file.insert(file.find('\n', file.find("[RDS Setup]")) + 1, flags);
 }
 
 double ResidentMegabytes() {
