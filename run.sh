@@ -59,7 +59,7 @@ copy() {
 start_coder() {
   local link=$XDG_CONFIG_HOME/corvalis/com1
   [ -L "$link" ] && rm -f "$link"
-  build/release/coder/corvalis-coder --open --link "$link" --print --dump "$@" \
+  build/release/coder/corvalis-coder --link "$link" --print --dump "$@" \
     >"$log" 2>&1 9>&- &
   coder=$!
   until grep -q '^ready ' "$log" 2>/dev/null; do
