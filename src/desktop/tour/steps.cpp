@@ -280,6 +280,9 @@ const std::vector<Tour::Step>& Tour::Steps() {
       {&T::Enter, "PsnRtPinAfButton", "PsnRtPinAfForm"},
       {&T::Shows, "DBGrid1 5 2", "AT SIX  "},
       {&T::Leave},
+      {&T::Enter, "EonLiButton", "EonLiForm"},
+      {&T::Shows, "EonPsnText", "RIDGE 95"},
+      {&T::Leave},
 
       {&T::Title, "A one-way link: lists wait for an address, TA goes out in a burst"},
       {&T::Choose, "File1", "satellite.rds"},

@@ -38,8 +38,9 @@ TdcPage::TdcPage(TdcTab& tab, QWidget* parent) : QWidget(parent) {
   auto* tables = new QWidget(this);
   QHBoxLayout* halves = Row(tables);
   halves->setSpacing(kApart);
-  halves->addWidget(Table(tab.Tdc0Label, tab.Tdc0MarkLabel, tab.DBGrid1, tables), 1);
-  halves->addWidget(Table(tab.TdcLabel, tab.TdcMarkLabel, tab.DBGrid2, tables), 1);
+  // No equal parts: each takes what its columns need.
+  halves->addWidget(Table(tab.Tdc0Label, tab.Tdc0MarkLabel, tab.DBGrid1, tables));
+  halves->addWidget(Table(tab.TdcLabel, tab.TdcMarkLabel, tab.DBGrid2, tables));
   ListPage(this, tables,
            {&tab.Command2, &tab.Command3, &tab.Command5, &tab.Command6, &tab.Command4}, {},
            {SelectedRow(tab.TdcSelectedLabel, tables, this)});
