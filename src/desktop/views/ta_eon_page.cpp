@@ -54,6 +54,9 @@ TaEonPage::TaEonPage(TaEonTab& tab, QWidget* parent) : QWidget(parent) {
     QPalette quiet = name->palette();
     quiet.setColor(QPalette::WindowText, QColor(colours::kQuietText));
     name->setPalette(quiet);
+    QFont places = DigitsFont();  // so that the PIs stand below each other
+    places.setPointSizeF(name->font().pointSizeF());
+    name->setFont(places);
     name->Name(box);
     grid->addWidget(box, row, column);
     grid->addWidget(number, row, column + 1);
