@@ -1,6 +1,7 @@
 #include "config/ini_management.h"
 
 #include "config/config_data.h"
+#include "config/conversions.h"
 #include "platform/platform.h"
 
 namespace corvalis {
@@ -14,6 +15,14 @@ std::string ReadIniKey(std::string_view section, std::string_view key) {
 void WriteIniKey(std::string_view section, std::string_view key, std::string_view value) {
   Machine().profiles->Write(configData->FullFileName(), section, key, value);
   Machine().pump->RunPending();
+}
+
+bool ReadIniSwitch(std::string_view section, std::string_view key) {
+  return ReadIniKey(section, key) == OnOff(true);
+}
+
+void WriteIniSwitch(std::string_view section, std::string_view key, bool on) {
+  WriteIniKey(section, key, std::string(OnOff(on)));
 }
 
 }  // namespace corvalis

@@ -14,4 +14,8 @@ namespace corvalis {
 /// Writes one key, creating file and section where they are missing. A failure goes unnoticed.
 void WriteIniKey(std::string_view section, std::string_view key, std::string_view value);
 
+/// A switch of its own key: true for "On" alone. Written as "On" or "Off".
+[[nodiscard]] bool ReadIniSwitch(std::string_view section, std::string_view key);
+void WriteIniSwitch(std::string_view section, std::string_view key, bool on);
+
 }  // namespace corvalis

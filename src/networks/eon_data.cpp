@@ -69,14 +69,6 @@ std::optional<std::int32_t> HexValue(const std::string& text) {
 
 std::string Key(const char* name, int number) { return name + std::to_string(number); }
 
-bool ReadSwitch(const char* name, int number) {
-  return ReadIniKey(kSection, Key(name, number)) == OnOff(true);
-}
-
-void WriteSwitch(const char* name, int number, bool on) {
-  WriteIniKey(kSection, Key(name, number), std::string(OnOff(on)));
-}
-
 template <std::size_t kSize>
 void ReadFreqs(const char* name, int number, std::array<float, kSize>& freqs) {
   const std::string text = ReadIniKey(kSection, Key(name, number));
@@ -161,7 +153,7 @@ void EonData::GetIni() {
 
 // PIN and PTY come back as other numbers than they were written: files have always been so.
 void EonData::Load(EonList& list, int number) {
-  list.enable = ReadSwitch("Enable", number);
+  list.enable = ReadIniSwitch(kSection, Key("Enable", number));
   const std::string psn = ReadIniKey(kSection, Key("Psn", number));
   list.psn = Padded(psn.empty() ? kUnnamed : psn, kPsn);
   const std::string pi = ReadIniKey(kSection, Key("Pi", number));
@@ -172,8 +164,8 @@ void EonData::Load(EonList& list, int number) {
   if (value <= kSixteenBits) list.pin = value;
   const std::string pty = ReadIniKey(kSection, Key("Pty", number));
   list.pty = Narrow<std::uint8_t>(HexValue(pty).value_or(list.pty)).value_or(list.pty);
-  list.tp = ReadSwitch("Tp", number);
-  list.ta = ReadSwitch("Ta", number);
+  list.tp = ReadIniSwitch(kSection, Key("Tp", number));
+  list.ta = ReadIniSwitch(kSection, Key("Ta", number));
   ReadFreqs("AfMethodA", number, list.af_a);
   ReadFreqs("AfMethodB", number, list.af_b);
 }
@@ -184,13 +176,13 @@ void EonData::SetIni() const {
 }
 
 void EonData::Store(const EonList& list, int number) {
-  WriteSwitch("Enable", number, list.enable);
+  WriteIniSwitch(kSection, Key("Enable", number), list.enable);
   WriteIniKey(kSection, Key("Psn", number), JoinedWriter().Text(list.psn).Separated());
   WriteIniKey(kSection, Key("Pi", number), LongToHex(list.pi & kSixteenBits, 1));
   WriteIniKey(kSection, Key("Pin", number), LongToHex(list.pin & kSixteenBits, 1));
   WriteIniKey(kSection, Key("Pty", number), Digits(list.pty, 2));
-  WriteSwitch("Tp", number, list.tp);
-  WriteSwitch("Ta", number, list.ta);
+  WriteIniSwitch(kSection, Key("Tp", number), list.tp);
+  WriteIniSwitch(kSection, Key("Ta", number), list.ta);
   JoinedWriter by_a;
   for (const float freq : list.af_a) by_a.Real(freq, 3, 1);
   WriteIniKey(kSection, Key("AfMethodA", number), by_a.Ended());

@@ -17,10 +17,6 @@ constexpr const char* kSection = "LI";
 constexpr std::int16_t kNewLsn = 0x501;
 constexpr std::int16_t kMaxLsn = 0xFFF;
 
-bool ReadSwitch(const char* key) { return ReadIniKey(kSection, key) == OnOff(true); }
-
-void WriteSwitch(const char* key, bool on) { WriteIniKey(kSection, key, std::string(OnOff(on))); }
-
 }  // namespace
 
 LiData::LiData() { GetIni(); }
@@ -34,9 +30,9 @@ void LiData::GetOneRds() {
 void LiData::SetOneRds() const { SendLi(la_, egi_, il_, lsn_ & kMaxLsn); }
 
 void LiData::GetIni() {
-  egi_ = ReadSwitch("Egi");
-  la_ = ReadSwitch("La");
-  il_ = ReadSwitch("Il");
+  egi_ = ReadIniSwitch(kSection, "Egi");
+  la_ = ReadIniSwitch(kSection, "La");
+  il_ = ReadIniSwitch(kSection, "Il");
   const std::string lsn = ReadIniKey(kSection, "Lsn");
   if (lsn.empty()) {
     lsn_ = kNewLsn;
@@ -46,9 +42,9 @@ void LiData::GetIni() {
 }
 
 void LiData::SetIni() const {
-  WriteSwitch("Egi", egi_);
-  WriteSwitch("La", la_);
-  WriteSwitch("Il", il_);
+  WriteIniSwitch(kSection, "Egi", egi_);
+  WriteIniSwitch(kSection, "La", la_);
+  WriteIniSwitch(kSection, "Il", il_);
   WriteIniKey(kSection, "Lsn", LongToHex(lsn_ & kMaxLsn, 1));
 }
 

@@ -42,10 +42,6 @@ void ReadSixBits(const char* key, std::uint8_t& target) {
   if (value) target = static_cast<std::uint8_t>(*value & 63);
 }
 
-bool ReadSwitch(const char* key) { return ReadIniKey(kSection, key) == OnOff(true); }
-
-void WriteSwitch(const char* key, bool on) { WriteIniKey(kSection, key, std::string(OnOff(on))); }
-
 }  // namespace
 
 TmcData::TmcData()
@@ -110,10 +106,10 @@ void TmcData::SetOneRds(std::int16_t i) const {
 void TmcData::LoadSystem() {
   ReadSixBits("Ltn", ltn_);
   ReadSixBits("Sid", sid_);
-  international_ = ReadSwitch("International");
-  national_ = ReadSwitch("National");
-  regional_ = ReadSwitch("Regional");
-  urban_ = ReadSwitch("Urban");
+  international_ = ReadIniSwitch(kSection, "International");
+  national_ = ReadIniSwitch(kSection, "National");
+  regional_ = ReadIniSwitch(kSection, "Regional");
+  urban_ = ReadIniSwitch(kSection, "Urban");
 }
 
 // A location comes back as another number than it was written, and repetitions come back as 0:
@@ -137,10 +133,10 @@ void TmcData::SetIni() const {
   size_.Store();
   WriteIniKey(kSection, "Ltn", Digits(ltn_, 2));
   WriteIniKey(kSection, "Sid", Digits(sid_, 2));
-  WriteSwitch("International", international_);
-  WriteSwitch("National", national_);
-  WriteSwitch("Regional", regional_);
-  WriteSwitch("Urban", urban_);
+  WriteIniSwitch(kSection, "International", international_);
+  WriteIniSwitch(kSection, "National", national_);
+  WriteIniSwitch(kSection, "Regional", regional_);
+  WriteIniSwitch(kSection, "Urban", urban_);
   for (std::int16_t i = 0; i < MaxListNum(); ++i) {
     const TmcMessage& source = At(i);
     WriteIniKey(kSection, Key(i),
