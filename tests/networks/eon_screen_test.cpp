@@ -54,6 +54,8 @@ TEST_F(EonScreenTest, HexadecimalBoxesHoldTheirDigits) {
   EXPECT_EQ(Boxes().size(), 1U);
   EXPECT_EQ(eonData->Pi(0), 0xF1B2);
   Retype(eon.EonPiText, "F1B2");
+  Retype(eon.EonPinText, "00FF");
+  EXPECT_EQ(std::tuple(eonData->Pi(0), eonData->Pin(0)), std::tuple(0xF1B2, 0xFF));
 
   Retype(form->li.LiLsnText, "A1");
   EXPECT_FALSE(form->window.MoveFocus(&form->EONSSTab));
@@ -78,7 +80,7 @@ TEST_F(EonScreenTest, FrequenciesAreJudgedWhenTheirBoxIsLeft) {
   const Case cases[] = {
       {true, 0, "87.5", "087.5", false, 87.5F},    {true, 1, "107.975", "108.0", false, 107.975F},
       {true, 1, "108", "108.0", true, 99.F},       {true, 0, "0", "000.0", false, 0.F},
-      {true, 0, "", "000.0", true, 0.F},           {true, 0, "x9a8.1.2", "098.1", false, 98.1F},
+      {true, 0, "", "000.0", true, 0.F},           {true, 0, "x9a8.1\b3.2", "098.3", false, 98.3F},
       {false, 0, "107.9", "107.9", false, 107.9F}, {false, 8, "107.95", "108.0", true, 99.F},
       {false, 3, "153", "153.0", true, 99.F},      {false, 9, "160", "153", false, 153.F},
       {false, 9, "279", "279", false, 279.F},      {false, 9, "280", "280", true, 99.F},
@@ -126,6 +128,8 @@ TEST_F(EonScreenTest, SteppingChangesNoList) {
   EXPECT_EQ(eon.EonListText.Text(), "1");
   eon.EonListText.Edit("", 0);
   EXPECT_EQ(eonData->CurrentList(), 1);
+  Leave();
+  EXPECT_EQ(eon.EonListText.Text(), "1");
   eon.EonPtyCombo.Choose(3);
   EXPECT_EQ(eonData->Pty(1), 3);
 }
@@ -145,6 +149,7 @@ TEST_F(EonScreenTest, ByHandAnAnnouncementNeedsTheProgrammeFlag) {
   EXPECT_TRUE(eonData->Enable(0));
   Retype(eon.EonPsnText, "NINE CHARS");
   EXPECT_EQ(eonData->Psn(0), "NINE CHA");
+  EXPECT_EQ(eon.EonPsnText.Text(), "NINE CHA");
 }
 
 TEST_F(EonScreenTest, ButtonsOfAOneWayLink) {
@@ -218,6 +223,12 @@ TEST_F(EonScreenTest, SwitchesShowWhatWasClickedOrRead) {
   ta.ReadTaEonAllCommand.Press();
   EXPECT_EQ(Boxes().size(), 1U);
   EXPECT_TRUE(ta.TaEonCheck[0].Checked());
+  // Opened again, the switches are off, none is selected, and the lists are as they were.
+  form->window.Close();
+  form->Load();
+  EXPECT_FALSE(ta.TaEonCheck[0].Checked());
+  EXPECT_EQ(ta.TaEonSelectedLabel.Caption(), "-");
+  EXPECT_TRUE(eonData->Ta(0) && eonData->Ta(5));
 }
 
 TEST_F(EonScreenTest, SwitchesWithoutAListAreDisabled) {
@@ -247,6 +258,12 @@ TEST_F(EonScreenTest, ReadsShowWhatCameOrTheOldList) {
   form->li.LiILCheck.Press();
   form->li.SendLiCommand.Press();
   EXPECT_EQ(Held(0x1B), "010FFF");
+  form->li.LiEgiCheck.Press();
+  form->li.SendLiCommand.Press();
+  EXPECT_EQ(Held(0x1B), "000FFF");
+  const double before = time.Elapsed();
+  form->eon.ReadEonAllCommand.Press();
+  EXPECT_NEAR(time.Elapsed() - before, 0.2 * 12, 0.1);
   form->eon.EonPsnText.SetText("X");
   LinkOpen = false;
   form->eon.ReadEonAllCommand.Press();

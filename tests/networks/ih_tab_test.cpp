@@ -62,6 +62,7 @@ TEST_F(IhTabTest, APageIsChosenWhenItsListIsLeft) {
   EXPECT_EQ(Tab().RichTextBox1.Text(), "Default Page");
   EXPECT_EQ(Tab().CountLabel.Caption(), "12 of 2048");
   EXPECT_EQ(Tab().Text105.Text(), "two.txt");
+  EXPECT_EQ(Tab().PathLabel.Caption(), there + "/two.txt");  // one stroke between them
   EXPECT_EQ(Tab().File1.FileName(), "two.txt");
   GoToPage(2);  // where there is no folder
   EXPECT_EQ(Tab().PathLabel.Caption(), folder + "/no such folder/none.txt");
@@ -70,6 +71,11 @@ TEST_F(IhTabTest, APageIsChosenWhenItsListIsLeft) {
   EXPECT_EQ(ihData->Path(1), there + "/");
   EXPECT_EQ(ihData->Path(2), folder + "/no such folder");
   EXPECT_EQ(ihData->Drive(1), "");
+  ihData->SetPath(1, there + "/inner/");
+  GoToPage(1);
+  EXPECT_EQ(Tab().File1.Entries(), std::vector<std::string>{"deep.txt"});
+  EXPECT_EQ(ihData->Path(1), there + "/inner/");
+  GoToPage(2);
   Tab().Text105.SelectAll();
   Tab().Text105.Type("typed;name.txt");
   Go(Tab().Text105);
@@ -134,11 +140,21 @@ TEST_F(IhTabTest, FilesAreFoundInTheLists) {
   EXPECT_EQ(ihData->FileName(0), "deep.txt");
   EXPECT_EQ(ihData->Drive(0), Tab().Drive1.Drive());
   EXPECT_EQ(Tab().RichTextBox1.Text(), "ONE");  // not loaded
+  ihData->SetDrive(0, "");
   Go(Tab().Drive1);
   Tab().Drive1.Choose(0);
   EXPECT_EQ(ihData->Path(0), Tab().Drive1.Entry(0));
   EXPECT_EQ(ihData->Drive(0), Tab().Drive1.Entry(0));
   EXPECT_EQ(ihData->FileName(0), "deep.txt");
+  // A page whose folder is not there is given the one that is looked at.
+  Go(Tab().Dir1);
+  Tab().Dir1.SetPath(there);
+  GoToPage(2);
+  Go(Tab().File1);
+  Tab().File1.Choose(0);
+  Tab().File1.Open(0);
+  EXPECT_EQ(std::tuple(ihData->Path(2), ihData->FileName(2), ihData->Drive(2)),
+            std::tuple(there, "one.txt", Tab().Drive1.Drive()));
 }
 
 TEST_F(IhTabTest, TheTickedPagesTravel) {
@@ -153,7 +169,7 @@ TEST_F(IhTabTest, TheTickedPagesTravel) {
   EXPECT_EQ(SentPages(), "02");
   Tab().Command1.Press();
   EXPECT_EQ(SentPages(), "012");
-  ihData->SetPage(0, "");
+  Tab().RichTextBox1.Edit("", 0);
   ihData->SetPage(1, "");
   Tab().Command13.Press();
   EXPECT_EQ(Tab().RichTextBox1.Text(), "ONE");
@@ -161,7 +177,7 @@ TEST_F(IhTabTest, TheTickedPagesTravel) {
   Tab().Command7.Press();
   EXPECT_EQ(ihData->Page(1), Full("TWO\r\nLINES"));
   // The first page has come when the second fails, and is shown.
-  ihData->SetPage(0, "");
+  Tab().RichTextBox1.Edit("", 0);
   int frames = 0;
   port.Wrote = [&] {
     if (++frames == 18) port.line = nullptr;
@@ -169,9 +185,12 @@ TEST_F(IhTabTest, TheTickedPagesTravel) {
   Tab().Command7.Press();
   EXPECT_EQ(Boxes().size(), 1U);
   EXPECT_EQ(Tab().RichTextBox1.Text(), "ONE");
+  GoToPage(1);
   form->window.Close();
   form->Load();
   EXPECT_FALSE(Tab().Check1[0].Checked());
+  EXPECT_EQ(Tab().Combo1.Index(), 0);
+  EXPECT_EQ(Tab().RichTextBox1.Text(), "ONE");
 }
 
 TEST_F(IhTabTest, OneWayPagesGoInABurst) {

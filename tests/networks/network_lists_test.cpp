@@ -170,6 +170,19 @@ TEST_F(NetworkListsTest, TheCoderIsAskedForItsCountsWhereItCanAnswer) {
   }
 }
 
+TEST_F(NetworkListsTest, ACoderThatFallsSilentHasTheListsOfOtherNetworksItHad) {
+  Start(std::string(kLocal) + "[RDS Setup]\nEON Enable=On\nTMC Enable=On\n");
+  Open();
+  LoadLists();
+  port.line = nullptr;
+  Lists::GetIni();
+  EXPECT_EQ(eonData->MaxListNum(), 3);
+  EXPECT_EQ(tmcData->MaxListNum(), 10);
+  LinkOpen = false;
+  Lists::GetIni();
+  EXPECT_EQ(eonData->MaxListNum(), 10);
+}
+
 TEST_F(NetworkListsTest, FramesCarryTheItems) {
   StartOn(std::string(kSatellite) +
           "[EON]\nPsn1=OTHER\nPi1=ABCD\nPin1=4660\nPty1=1F\nTp1=On\nEnable1=On\n"
@@ -214,6 +227,12 @@ TEST_F(NetworkListsTest, FramesCarryTheItems) {
       {[] { tmcData->SetOneRds(1); }, "000FFFF00006"},  // the low digits of what is too wide
       {[] { tmcData->SetOneRds(2); }, "7FFFFFF170A0"}};
   for (const auto& [send, body] : cases) EXPECT_EQ(BodyOf(send), body);
+  tdc0Data->SetAddress(1, -1);  // as a bad answer leaves it
+  EXPECT_EQ(BodyOf([] { tdc0Data->SendOneRds(1); }), "0FFF00000");
+  eonData->SetPi(-1, 0);
+  eonData->SetPin(-1, 0);
+  EXPECT_EQ(BodyOf([] { eonData->SetOneRds(0); }),
+            "EON PSN 0000FFFF" + Times(11, "CD") + "00FFFF0");
   // The numbers of the channels: 0 stands for two rows, 31 for none.
   port.written.clear();
   for (const std::int16_t row : std::initializer_list<std::int16_t>{0, 1, 99})
@@ -265,6 +284,17 @@ TEST_F(NetworkListsTest, AnswersFillTheItems) {
   EXPECT_EQ(std::tuple(eonData->AfA(2, 0), eonData->AfA(2, 1), eonData->AfB(2, 0),
                        eonData->AfB(2, 1), eonData->AfB(2, 2), eonData->AfB(2, 9)),
             std::tuple(87.5F, 0.F, 107.9F, 87.6F, 0.F, 0.F));
+  for (const auto& [code, khz] : {std::pair{"00", 0.F},
+                                  {"01", 153.F},
+                                  {"0F", 279.F},
+                                  {"10", 531.F},
+                                  {"87", 1602.F},
+                                  {"88", 0.F}}) {
+    Hold(0x16, "NEWNAME 01000000" + Times(11, "CD") + code + "51580", 2);
+    eonData->SetAfB(1.F, 2, 9);
+    eonData->GetOneRds(2);
+    EXPECT_EQ(eonData->AfB(2, 9), khz) << code;
+  }
   Hold(0x18, "0", 2);
   eonData->GetTaRds(2);
   EXPECT_FALSE(eonData->Ta(2));
@@ -355,7 +385,7 @@ TEST_F(NetworkListsTest, PagesLiveInTheirFiles) {
 }
 
 TEST_F(NetworkListsTest, PagesTravelWhole) {
-  Start(kLocal);
+  Start(std::string(kLocal) + "[Ih Pages]\nPage02=7;;no such folder;none.txt;\n");
   Open();
   LoadLists();
   std::string page;
@@ -363,7 +393,9 @@ TEST_F(NetworkListsTest, PagesTravelWhole) {
   ihData->SetPage(2, page + "beyond");
   port.written.clear();
   ihData->SetOneRds(2);
-  ASSERT_EQ(Written().size(), 17U);
+  const std::vector<Bytes> frames = Written();
+  ASSERT_EQ(frames.size(), 17U);
+  EXPECT_EQ(std::string(frames[16].begin() + 3, frames[16].end() - 2), "0020007");
   ihData->SetPage(2, "");
   ihData->GetOneRds(2);
   EXPECT_EQ(ihData->Page(2), page);

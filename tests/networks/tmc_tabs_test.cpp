@@ -58,6 +58,15 @@ TEST_F(TmcTabsTest, TheNumbersGoRoundAndTheScopesAreStoredAtOnce) {
   EXPECT_EQ(tab.LtnText.Text() + " " + tab.SidText.Text(), "10 11");
   EXPECT_TRUE(!tab.InternationalCheck.Checked() && tab.NationalCheck.Checked() &&
               !tab.RegionalCheck.Checked() && tab.UrbanCheck.Checked());
+  Step(tab.LtnVScroll, -1);
+  tab.SidText.Type("5");
+  EXPECT_EQ(tab.LtnText.Text() + " " + tab.SidText.Text(), "9 11");
+  for (const auto& [box, body] :
+       {std::pair{&tab.NationalCheck, "090B0001"}, {&tab.UrbanCheck, "090B0000"}}) {
+    box->Press();
+    tab.SendTmcSystemCommand.Press();
+    EXPECT_EQ(Held(0x21), body);
+  }
   EXPECT_EQ(Boxes(), no_boxes);
 }
 
@@ -192,6 +201,7 @@ TEST_F(TmcTabsTest, OnAOneWayLinkOnlyBurstsAreSent) {
   tmc.SendAllBurstTmcCommand.Press();
   const std::vector<Bytes> frames = Written();
   EXPECT_EQ(frames.size(), 3 * passes);
+  EXPECT_NEAR(time.Elapsed(), 0.2 * static_cast<double>(4 * passes), 0.01);
   EXPECT_EQ(Body(frames.back()), "009000000000");
 
   OpenScreen(kLocal);
