@@ -105,10 +105,14 @@ bool Travels(const Step& step, ConfigurationRun run) {
          (run == ConfigurationRun::kRead || step.send != nullptr);
 }
 
+// With pages alone. A burst takes the plan along whether it is in use or not. That is meant.
 bool PlanTravels(ConfigurationRun run) {
-  return configData->PsnPagesEnable() &&
-         // A burst takes the plan along whether it is in use or not. That is meant.
-         (run == ConfigurationRun::kBurst || configData->PsnPlanEnable());
+  return run == ConfigurationRun::kBurst || configData->PsnPlanEnable();
+}
+
+// The lists that method A leaves to none, as many as there are without it.
+int OtherLists() {
+  return (configData->Satellite() ? AfAData::kMostLists : afBData->MaxAfBListNum()) - 1;
 }
 
 void RunPage(ConfigurationRun run, std::uint8_t page) {
@@ -229,8 +233,11 @@ std::string Names() {
   if (!configData->PsnPagesEnable()) return Counted(psnData->MaxPsnNum(), "names");
   std::string text = Counted(psnPageData->MaxPsnPageNum(), "pages of ") +
                      Counted(psnPageData->MaxPsnNum(), "names");
-  if (PlanTravels(configData->Satellite() ? ConfigurationRun::kBurst : ConfigurationRun::kSend)) {
-    text += ", " + Counted(psnPageData->MaxPsnPlanNum(), "rows of the plan");
+  const std::string plan = Counted(psnPageData->MaxPsnPlanNum(), "rows of the plan");
+  if (PlanTravels(ConfigurationRun::kSend)) {
+    text += ", " + plan;
+  } else if (configData->Satellite()) {
+    text += ", in a burst " + plan;
   }
   return text;
 }
@@ -260,7 +267,7 @@ ConfigurationLoad LoadOfConfiguration(ConfigurationRun run) {
     if (!Travels(step, run)) continue;
     meter.Add(step.code, step.count());
     const bool clears = step.offered == MethodA && run != ConfigurationRun::kRead;
-    if (clears && !afAData->OtherListsCleared()) meter.AddClearing(afBData->MaxAfBListNum() - 1);
+    if (clears && !afAData->OtherListsCleared()) meter.AddClearing(OtherLists());
   }
   return meter.Load();
 }

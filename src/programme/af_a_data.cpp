@@ -17,7 +17,6 @@ namespace {
 constexpr const char* kSection = "AF Method A";
 constexpr const char* kKey = "FreqList";
 constexpr std::uint8_t kList = 0;
-constexpr std::int16_t kMostLists = 100;
 constexpr float kClearPause = 0.2F;
 
 }  // namespace

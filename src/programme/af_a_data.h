@@ -28,6 +28,8 @@ class AfAData {
   /// fails, it is done again after the next send.
   void SetOneRds();
   [[nodiscard]] bool OtherListsCleared() const { return other_lists_cleared_; }
+  /// The lists of a Coder that can't be asked how many it has.
+  static constexpr std::int16_t kMostLists = 100;
 
   /// Loads the list from the file. A missing key empties it; a field that can't be converted leaves
   /// its entry.

@@ -4,12 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <limits>
 #include <sstream>
 
 #include "app/configuration.h"
 #include "app/single_instance.h"
+#include "busy/transfer_bracket.h"
 #include "config/language_data.h"
 #include "networks/eon_data.h"
 #include "networks/ih_data.h"
@@ -75,7 +77,7 @@ class ConnectionTest : public StationScreenTest<ConnectionForm> {
     return file +
            "[PSN Pages]\nMaxPsnNum=3\nMaxPsnPagesNum=2\n[PSN Plan]\nMaxPsnPlanNum=2\n"
            "[RT]\nMaxRtNum=3\n[PIN]\nMaxPinNum=3\n[AF Method B]\nMaxAfBListNum=3\n"
-           "[EON]\nMaxEonNum=2\n[TMC]\nMaxListNum=2\n[Ih Pages]\nPage Count=2\n";
+           "[EON]\nMaxEonNum=3\n[TMC]\nMaxListNum=3\n[Ih Pages]\nPage Count=2\n";
   }
   static constexpr const char* kAll = "Psn Rt Pin Af Tdc Ih Pi Ct Tp Di Ecc Lic Li Eon Ptyn Tmc";
 
@@ -131,6 +133,18 @@ TEST_F(ConnectionTest, TicksAreTheFlagsOfTheRecord) {
       "EON Enable=Off\nECC Enable=Off\nPTYN Enable=Off\nLIC Enable=Off\nTMC Enable=Off\n";
   for (const std::string& setup : {std::string(), off}) {
     OpenScreen(File(kLocal, kAll, setup));
+    if (setup == off) {
+      // A disabled box stops nothing; the counts are the file's then.
+      configData->SetAfMethodA(false);
+      port.answer = [](const Bytes&) { return Bytes{0x06}; };
+      form->Command11.Press();
+      port.answer = nullptr;
+      const Runs runs = Codes();
+      for (const auto& run : Runs{{kEcc, 1}, {kLic, 1}, {kLi, 1}, {kPtyn, 32}, {kTmc, 3}}) {
+        EXPECT_NE(std::find(runs.begin(), runs.end(), run), runs.end()) << run.first;
+      }
+      Boxes();
+    }
     for (const TickCase& tick : kTicks) {
       CheckBox& box = (*form).*tick.box;
       SCOPED_TRACE(box.Name());
@@ -187,7 +201,7 @@ TEST_F(ConnectionTest, CoderIds) {
     AddressSent = false;
     button->Press();
     const std::vector<Bytes> frames = Written();
-    ASSERT_EQ(frames.size(), 1U);  // whatever a burst would be
+    ASSERT_EQ(frames.size(), 1U);
     EXPECT_EQ(frames[0][1], kAddress);
     EXPECT_EQ(frames[0][2], index);
     const Bytes body = Body(frames[0]);
@@ -195,6 +209,15 @@ TEST_F(ConnectionTest, CoderIds) {
   }
   EXPECT_EQ(form->Text1.Text(), "A1C");
   Boxes();
+  OpenScreen(File(kSatellite, ""));
+  for (Button* button : {&form->Command4, &form->Command5}) {
+    AddressSent = false;
+    button->Press();
+    EXPECT_EQ(Written().size(), 1U);  // whatever a burst would be
+    EXPECT_TRUE(AddressSent);
+  }
+  EXPECT_EQ(Boxes(), no_boxes);
+  OpenScreen(File(kLocal, ""));
   Refuse([](const Bytes&) { return false; });
   form->Command5.Press();
   EXPECT_TRUE(AddressSent);
@@ -207,7 +230,6 @@ TEST_F(ConnectionTest, CoderIds) {
 
 TEST_F(ConnectionTest, AllItemsTravelInTheirOrder) {
   const std::string names = "PSN Pages Enable=Off\nAF Method A=Off\n";
-  const Runs middle = {{kTdc, 131}};
   const Runs end = {{kPi, 1}, {kCt, 1},  {kTp, 1},    {kDi, 1},        {kEcc, 1}, {kLic, 1},
                     {kLi, 1}, {kEon, 2}, {kPtyn, 32}, {kTmcSystem, 1}, {kTmc, 2}};
   const auto all = [&](const Runs& first, int pages) {
@@ -217,10 +239,22 @@ TEST_F(ConnectionTest, AllItemsTravelInTheirOrder) {
     runs.insert(runs.end(), end.begin(), end.end());
     return runs;
   };
+  const auto shows_the_record = [this] {
+    EXPECT_EQ(form->AFAOption.Chosen(), configData->AfMethodA());
+    EXPECT_EQ(form->AFBOption.Chosen(), !configData->AfMethodA());
+    EXPECT_EQ(form->PSNPagesCheck.Checked(), configData->PsnPagesEnable());
+  };
   OpenScreen(File(kLocal, kAll, names));
-  configData->SetAfMethodA(false);
+  shows_the_record();
   Refuse([](const Bytes&) { return false; });
+  int shown = 0;
+  time.After(0, [&] { shown = TransferScreenStands() ? 1 : 0; });
   form->Command11.Press();
+  EXPECT_EQ(shown, 1);
+  const auto first_tdc = std::find_if(port.written.begin(), port.written.end(),
+                                      [](const Bytes& frame) { return frame[1] == kTdc; });
+  ASSERT_NE(first_tdc, port.written.end());
+  EXPECT_EQ((first_tdc + 1)->at(2), 32);    // the subchannels go before the channels
   EXPECT_EQ(Codes(), all({{kPsn, 3}}, 0));  // in-house pages are not sent: meant
   port.answer = nullptr;
   form->Command1.Press();
@@ -228,10 +262,15 @@ TEST_F(ConnectionTest, AllItemsTravelInTheirOrder) {
   EXPECT_EQ(Boxes(), no_boxes);
 
   OpenScreen(File(kLocal, kAll, "PSN Plan Enable=On\n"));
-  configData->SetAfMethodA(false);
+  shows_the_record();
+  form->AFBOption.Press();
   form->Command1.Press();
   EXPECT_EQ(Codes(), all({{kPage, 6}, {kPlan, 2}}, 2));
+  OpenScreen(File(kLocal, "Psn", "PSN Plan Enable=Off\n"));
+  form->Command1.Press();
+  EXPECT_EQ(Codes(), (Runs{{kPage, 6}}));
   OpenScreen(File(kLocal, "", names));
+  shows_the_record();
   form->Command11.Press();
   form->Command1.Press();
   EXPECT_EQ(Codes(), Runs{});
@@ -242,18 +281,48 @@ TEST_F(ConnectionTest, BurstsRepeatAllOfIt) {
   OpenScreen(File(kSatellite, "Psn Pi Ct Ih", "PSN Plan Enable=Off\n"));
   EXPECT_FALSE(form->Command1.Visible());
   EXPECT_TRUE(form->Command12.Visible());
-  const DateTime then = configData->DateValue();
+  using std::chrono::local_days;
+  const DateTime then = local_days{std::chrono::year{2027} / 3 / 1} + std::chrono::hours(4) +
+                        std::chrono::minutes(30);
+  configData->SetDateValue(then);
+  configData->SetDayOfWeek(1);
   ExpectAddressRule({&form->Command11, &form->Command12});
   form->Command12.Press();
+  const auto clock_of = [](const Bytes& frame) {
+    const Bytes body = Body(frame);
+    return std::string(body.begin(), body.begin() + 11);
+  };
+  for (const Bytes& frame : port.written) {
+    if (frame[1] != kCt) continue;
+    EXPECT_EQ(clock_of(frame), "27030110430");
+  }
   const Runs pass = {{kPage, 6}, {kPlan, 2}, {kPi, 1}, {kCt, 1}};  // the plan goes along: meant
   Runs passes;
   for (int i = 0; i < 3; ++i) passes.insert(passes.end(), pass.begin(), pass.end());
   EXPECT_EQ(Codes(), passes);
   EXPECT_EQ(configData->DateValue(), then);
   form->Command11.Press();
+  EXPECT_EQ(clock_of(port.written.back()).substr(6, 1),
+            std::to_string(WeekdayFromMonday(machine.clock->Now())));
+  EXPECT_NE(clock_of(port.written.back()), "27030110430");
   EXPECT_EQ(Codes(), (Runs{{kPage, 6}, {kPi, 1}, {kCt, 1}}));
   EXPECT_EQ(configData->DateValue(), machine.clock->Now());
   EXPECT_EQ(configData->DayOfWeek(), WeekdayFromMonday(machine.clock->Now()));
+
+  // An abort ends the passes.
+  for (const int code : {kPage, kPi}) {
+    port.Wrote = [this, code] {
+      if (port.written.back()[1] == code) EscPressed = true;
+    };
+    form->Command12.Press();
+    const Runs runs = Codes();
+    EXPECT_EQ(runs.back(), std::pair(code, 1));
+    EXPECT_EQ(
+        std::count_if(runs.begin(), runs.end(), [](const auto& run) { return run.first == kPage; }),
+        1);
+    EXPECT_FALSE(EscPressed);
+  }
+  EXPECT_EQ(Boxes(), no_boxes);
 }
 
 // What a page and the plan do after a failure, in each way.
@@ -272,6 +341,10 @@ TEST_F(ConnectionTest, ThePagesGoOnInAWayOfTheirOwn) {
   form->Command1.Press();
   EXPECT_EQ(Codes(), (Runs{{kPage, 1}, {kPlan, 1}}));
   EXPECT_EQ(Boxes().size(), 2U);
+  Refuse(first_row);
+  form->Command1.Press();
+  EXPECT_EQ(Codes(), (Runs{{kPage, 1}, {kPlan, 2}, {kPi, 1}}));
+  EXPECT_EQ(Boxes().size(), 1U);
 
   // The operator's abort ends all, also there.
   for (Button* button : {&form->Command1, &form->Command11}) {
@@ -397,6 +470,17 @@ TEST_F(ConnectionTest, WhatTravelsStandsInWords) {
   form->Check3.Press();
   EXPECT_NE(form->SendLoadLabel.Caption(), before);
   EXPECT_EQ(form->Check3.ToolTip(), languageData->ConnectionRTTip() + ":\n3 radio texts");
+  // Method A leaves no other list: 2 of this Coder, 99 where nobody can ask; once.
+  const double without = LoadOfConfiguration(ConfigurationRun::kSend).seconds;
+  form->AFAOption.Press();
+  EXPECT_NEAR(LoadOfConfiguration(ConfigurationRun::kSend).seconds - without, 2 * 0.2, 1e-9);
+  OpenScreen(File(kSatellite, "Af"));
+  EXPECT_NEAR(LoadOfConfiguration(ConfigurationRun::kSend).seconds,
+              57 * 11 / 9600.0 + 99 * (0.2 + 57 * 11 / 9600.0), 1e-9);
+  EXPECT_EQ(form->SendLoadLabel.Caption(), "To send: 1 item, about 30 seconds");
+  AddressSent = true;
+  form->Command11.Press();
+  EXPECT_EQ(form->SendLoadLabel.Caption(), "To send: 1 item, about a second");
   for (const auto& [seconds, words] : {std::pair(0.2, "about a second"),
                                        {4.2, "about 5 seconds"},
                                        {41., "about 50 seconds"},

@@ -12,6 +12,7 @@
 #include <regex>
 #include <sstream>
 
+#include "config/config_data.h"
 #include "desktop/own_line.h"
 #include "desktop/running_program.h"
 #include "link/serial_management.h"
@@ -93,6 +94,13 @@ TEST_F(WindowsConnectionTest, AStationComesBackFromItsCoder) {
   StartWithCoder({"--count", "af=1,ih=1"}, Example("station.rds"));
   hand.Click(kMain, "ConnectionButton");
   TickAll();
+  // One of the two methods, by the mouse and by the keyboard.
+  hand.Click(kConnection, "AFBOption");
+  EXPECT_FALSE(configData->AfMethodA());
+  hand.Control(kConnection, "AFAOption").setFocus();
+  Press(Qt::Key_Space);
+  EXPECT_TRUE(configData->AfMethodA());
+  EXPECT_FALSE(hand.Window(kConnection).findChild<QAbstractButton*>("AFBOption")->isChecked());
   hand.Click(kConnection, "Command11");
   // The Coder has not been addressed: each page tries its first row, and so does the plan.
   EXPECT_EQ(Boxes(), Lines(10, "PSNPage: [RDS] before send address  ") +

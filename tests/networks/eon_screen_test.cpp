@@ -229,6 +229,11 @@ TEST_F(EonScreenTest, SwitchesShowWhatWasClickedOrRead) {
   EXPECT_FALSE(ta.TaEonCheck[0].Checked());
   EXPECT_EQ(ta.TaEonSelectedLabel.Caption(), "-");
   EXPECT_TRUE(eonData->Ta(0) && eonData->Ta(5));
+  // The names beside the switches are those of now.
+  Retype(form->eon.EonPsnText, "NOW");
+  Retype(form->eon.EonPiText, "00A1");
+  form->EONSSTab.Choose(2);
+  EXPECT_EQ(ta.TaEonNameLabel[0].Caption(), "NOW       PI 00A1");
 }
 
 TEST_F(EonScreenTest, SwitchesWithoutAListAreDisabled) {
