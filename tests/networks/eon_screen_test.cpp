@@ -145,6 +145,12 @@ TEST_F(EonScreenTest, ByHandAnAnnouncementNeedsTheProgrammeFlag) {
   eon.EonTpCheck.Press();
   EXPECT_EQ(std::tuple(eon.EonTaCheck.Checked(), eonData->Tp(0), eonData->Ta(0)),
             std::tuple(false, false, false));
+  // Also one that the switches have set, and that is not shown here.
+  eon.EonTpCheck.Press();
+  form->ta_eon.TaEonCheck[0].Press();
+  EXPECT_EQ(std::tuple(eon.EonTaCheck.Checked(), eonData->Ta(0)), std::tuple(false, true));
+  eon.EonTpCheck.Press();
+  EXPECT_FALSE(eonData->Ta(0));
   eon.EonEnableCheck.Press();
   EXPECT_TRUE(eonData->Enable(0));
   Retype(eon.EonPsnText, "NINE CHARS");
