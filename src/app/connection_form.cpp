@@ -5,7 +5,6 @@
 
 #include "app/configuration.h"
 #include "config/config_data.h"
-#include "config/conversions.h"
 #include "config/language_data.h"
 #include "link/list_commands.h"
 #include "link/transfer.h"
@@ -74,10 +73,6 @@ void HoldCoderId(TextBox& box, void (ConfigData::*store)(const std::string& id))
   box.Change = [&box, store] { (configData->*store)(box.Text()); };
 }
 
-void SendCoderId(const std::string& id, bool is_new) {
-  SendAddress(Padded(id, kCoderIdCharacters), is_new);
-}
-
 std::string LoadInWords(ConfigurationRun run) {
   const ConfigurationLoad load = LoadOfConfiguration(run);
   if (load.items == 0) return "nothing";
@@ -114,10 +109,10 @@ ConnectionForm::ConnectionForm(Window& main_menu) : main_menu_(main_menu) {
 
   // The way to address a Coder can't ask that it has been addressed.
   Command4.Click = [this] {
-    RunLive(window, [] { SendCoderId(configData->PresetPassword(), false); });
+    RunLive(window, [] { SendAddress(configData->PresetPassword(), false); });
   };
   Command5.Click = [this] {
-    RunLive(window, [] { SendCoderId(configData->PresetNewPassword(), true); });
+    RunLive(window, [] { SendAddress(configData->PresetNewPassword(), true); });
   };
   Command1.Click = [this] { RunRead(window, [] { RunConfiguration(ConfigurationRun::kRead); }); };
   Command11.Click = [this] { RunSend(window, [] { RunConfiguration(ConfigurationRun::kSend); }); };
