@@ -10,6 +10,9 @@ namespace corvalis {
 /// two-way line.
 [[nodiscard]] bool CoderCanBeAsked();
 
+/// An item's number is one byte of a frame: beyond, it would be another item's.
+inline constexpr std::int16_t kItemNumbers = 256;
+
 /// The size of a list: the Coder's count if it answered, else the file's, else a fixed one.
 class ListSize {
  public:

@@ -85,6 +85,7 @@ EonData::EonData()
              .key = "MaxEonNum",
              .fallback = 10,
              .read_count = ReadEonNum,
+             .limit = kItemNumbers,
              .keeps_answer = true}) {
   GetIni();
 }

@@ -79,6 +79,7 @@ void IhData::GetIni() {
         .Text(target.drive)
         .Text(target.path)
         .Text(target.file_name);
+    SetPage(i, "");  // not the text of a page of another file
     ReadFile(i);
   }
 }

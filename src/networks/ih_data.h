@@ -48,8 +48,8 @@ class IhData {
   void GetOneRds(std::int16_t i);
   void SetOneRds(std::int16_t i) const;
 
-  /// Loads the pages, as many as the Coder or the file says, and their texts from their files. A
-  /// missing key gives a page as it is when new.
+  /// Loads the pages, as many as the Coder or the file says, and their texts from their files; a
+  /// file that can't be read gives blanks. A missing key gives a page as it is when new.
   void GetIni();
   void SetIni() const;
 

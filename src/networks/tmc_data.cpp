@@ -45,7 +45,11 @@ void ReadSixBits(const char* key, std::uint8_t& target) {
 }  // namespace
 
 TmcData::TmcData()
-    : size_({.section = kSection, .key = "MaxListNum", .fallback = 10, .read_count = ReadTmcNum}) {
+    : size_({.section = kSection,
+             .key = "MaxListNum",
+             .fallback = 10,
+             .read_count = ReadTmcNum,
+             .limit = kItemNumbers}) {
   GetIni();
 }
 

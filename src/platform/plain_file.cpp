@@ -70,7 +70,9 @@ bool WritePlainFile(const std::string& path, std::string_view bytes) {
   if (place == Place::kPlainFile) {
     // A file that is write-protected could still be replaced, but that isn't what its owner wants.
     if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0) return false;
-    before = OpenFile(path, O_RDONLY).Read(std::string::npos).value_or("");
+    // To be put back if it can only be written in place, and that fails.
+    constexpr std::size_t kMostKept = 1 << 20;
+    before = OpenFile(path, O_RDONLY).Read(kMostKept).value_or("");
   }
   return ProfileFolder(FollowLinks(path), std::chrono::seconds(1)).Put(bytes, before);
 }

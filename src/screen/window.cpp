@@ -62,6 +62,7 @@ bool Window::Unload() {
   if (cancel) return false;
   if (Unloading) Unloading();
   Hide();
+  focus_ = nullptr;  // a box that could not be left must not hold the window when it comes again
   if (std::exchange(modal_, false)) {
     owner_->SetEnabled(true);
     owner_->SetFocus();

@@ -282,5 +282,16 @@ TEST_F(EonScreenTest, ReadsShowWhatCameOrTheOldList) {
   EXPECT_EQ(form->eon.EonPsnText.Text(), "X       ");
 }
 
+TEST_F(EonScreenTest, AScreenClosedFromAShortBoxComesAgainFree) {
+  OpenScreen(kLocal + std::string("[LI]\nLsn=A1\n"));
+  form->window.MoveFocus(&form->li.LiLsnText);
+  form->window.Close();
+  EXPECT_EQ(Boxes().size(), 1U);
+  form->Load();
+  form->EONSSTab.Choose(2);
+  EXPECT_EQ(form->EONSSTab.Tab(), 2);
+  EXPECT_EQ(Boxes(), no_boxes);
+}
+
 }  // namespace
 }  // namespace corvalis::test

@@ -1,6 +1,7 @@
 // What the lists of other networks and data channels make of the file and of the line.
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <filesystem>
 #include <functional>
@@ -56,6 +57,7 @@ TEST_F(NetworkListsTest, ValuesAreReadAndWritten) {
   const Case cases[] = {
       {"EON", "MaxEonNum", "3", "3"},  // stays as it is: another key is written
       {"EON", "MaxListNum", "5", "10"},
+      {"TMC", "MaxListNum", "300", "256"},  // as many as a frame has numbers
       {"EON", "Enable0", "On", "On"},
       {"EON", "Enable0", "on", "Off"},  // exactly
       {"EON", "Psn9", "", "EON PSN"},
@@ -376,7 +378,14 @@ TEST_F(NetworkListsTest, PagesLiveInTheirFiles) {
     EXPECT_TRUE(ihData->WriteFile(page));
   EXPECT_EQ(ReadFile(there + "/long.txt"), std::string(2048, 'L') + "\r\n");
   EXPECT_EQ(ReadFile(there + "/short.txt").size(), 2050U);
-  for (const std::int16_t page : std::initializer_list<std::int16_t>{3, 4}) {
+  // Neither a folder nor a pipe is read, waited for or replaced; a page of theirs is blank.
+  ihData->SetPage(3, "OF ANOTHER STATION");
+  ihData->GetIni();
+  EXPECT_EQ(ihData->Page(3), std::string(2048, ' '));
+  ASSERT_EQ(mkfifo((there + "/pipe.txt").c_str(), 0600), 0);
+  ihData->SetFileName(5, "pipe.txt");
+  ihData->SetPath(5, there);
+  for (const std::int16_t page : std::initializer_list<std::int16_t>{3, 4, 5}) {
     EXPECT_FALSE(ihData->WriteFile(page));
     EXPECT_FALSE(ihData->ReadFile(page));
   }
