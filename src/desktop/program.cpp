@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QMessageBox>
 
 #include "desktop/text.h"
 #include "desktop/views/views.h"
@@ -45,6 +46,7 @@ Program::Program() {
   platform_.settings_folder = OwnFolder("XDG_CONFIG_HOME", QStringLiteral("/.config"));
   InstallPlatform(&platform_);
   RegisterViews(host_);
+  dialogs_.HelpAsked = [this](const QMessageBox& box) { guide_.OpenFor(box); };
 }
 
 Program::~Program() {

@@ -6,6 +6,7 @@
 #include "desktop/machine/qt_dialogs.h"
 #include "desktop/machine/qt_serial_port.h"
 #include "desktop/machine/qt_time.h"
+#include "desktop/views/guide.h"
 #include "desktop/widgets/screen_host.h"
 #include "platform/platform.h"
 
@@ -30,6 +31,7 @@ class Program {
   ProfileStore profiles_;
   Platform platform_;
   QtScreenHost host_;
+  Guide guide_;  // after the host, so that it sees a key before it
   std::unique_ptr<MainForm> menu_;
 };
 

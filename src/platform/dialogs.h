@@ -12,7 +12,7 @@ struct Box {
   std::string text;
   std::string title;
   BoxStyle style = BoxStyle::kCritical;
-  std::string help_file;  ///< named with the box; no help file comes with the program
+  std::string help_file;  ///< of a box with help; empty for none
   int help_context = 0;
 };
 

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QMessageBox>
 #include <QPointer>
+#include <QPushButton>
 
 #include "desktop/text.h"
 #include "desktop/widgets/front_window.h"
@@ -32,6 +33,13 @@ void QtDialogs::Show(const Box& box) {
       new QMessageBox(IconOf(box.style), FromBytes(box.title), FromBytes(box.text), QMessageBox::Ok,
                       FrontWindow(QApplication::activeWindow()));
   shown->setTextFormat(Qt::PlainText);
+  if (HelpAsked && !box.help_file.empty()) {
+    QPushButton* help = shown->addButton(QMessageBox::Help);
+    help->disconnect(SIGNAL(clicked(bool)));  // the toolkit would take it for an answer
+    QObject::connect(help, &QPushButton::clicked, help, [this, shown] { HelpAsked(*shown); });
+    shown->setDefaultButton(QMessageBox::Ok);
+    shown->setEscapeButton(QMessageBox::Ok);
+  }
   shown->exec();
   delete shown.data();
 }

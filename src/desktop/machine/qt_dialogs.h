@@ -1,15 +1,22 @@
 #pragma once
 
+#include <functional>
+
 #include "platform/dialogs.h"
+
+class QMessageBox;
 
 namespace corvalis::desktop {
 
-/// Message boxes of Qt, in front of the window that is in use. They have no help button, as no help
-/// file comes with the program.
+/// Message boxes of Qt, in front of the window that is in use. Those that name a help file have a
+/// help button, if somebody helps.
 class QtDialogs : public Dialogs {
  public:
   void Show(const Box& box) override;
   void Beep() override;
+
+  /// The help button of a box has been pressed; the box stays unanswered.
+  std::function<void(const QMessageBox& box)> HelpAsked;
 };
 
 }  // namespace corvalis::desktop

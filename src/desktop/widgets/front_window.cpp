@@ -4,13 +4,22 @@
 #include <QWidget>
 #include <QWindow>
 
+#include "desktop/widgets/guide_window.h"
+
 namespace corvalis::desktop {
 
+namespace {
+
+bool IsGuide(const QWidget* window) { return dynamic_cast<const GuideWindow*>(window) != nullptr; }
+
+}  // namespace
+
 QWidget* FrontWindow(QWidget* beneath) {
-  QWidget* front = beneath;
+  QWidget* front = IsGuide(beneath) ? nullptr : beneath;
   for (QWidget* window : QApplication::topLevelWidgets()) {
     if (!window->isVisible() || window->windowHandle() == nullptr) continue;
-    if (window->windowType() == Qt::Popup || window->windowType() == Qt::ToolTip) continue;
+    if (IsGuide(window) || window->windowType() == Qt::Popup || window->windowType() == Qt::ToolTip)
+      continue;
     if (front == nullptr ||
         front->windowHandle()->isAncestorOf(window->windowHandle(), QWindow::IncludeTransients)) {
       front = window;

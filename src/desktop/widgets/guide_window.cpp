@@ -1,0 +1,153 @@
+#include "desktop/widgets/guide_window.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QPixmap>
+#include <QPushButton>
+#include <QScreen>
+#include <QScrollBar>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTextDocument>
+#include <QUrl>
+#include <QWindow>
+
+#include "desktop/widgets/front_window.h"
+#include "desktop/widgets/style.h"
+
+namespace corvalis::desktop {
+
+namespace {
+
+constexpr Length kWidth{1000};
+constexpr Length kHeight{760};
+
+/// A page whose pictures are no wider than it is.
+class GuidePage : public QTextBrowser {
+ public:
+  explicit GuidePage(QWidget* parent) : QTextBrowser(parent) {
+    setAccessibleName(QStringLiteral("Page of the guide"));
+    document()->setDocumentMargin(kApart);
+    setFrameShape(QFrame::NoFrame);
+  }
+
+ protected:
+  QVariant loadResource(int type, const QUrl& name) override {
+    QVariant found = QTextBrowser::loadResource(type, name);
+    if (type != QTextDocument::ImageResource) return found;
+    QPixmap picture;
+    if (!picture.loadFromData(found.toByteArray())) return found;
+    const int room = viewport()->width() - 2 * kApart - kGap;
+    if (picture.width() > room) picture = picture.scaledToWidth(room, Qt::SmoothTransformation);
+    return picture;
+  }
+
+  // A page that isn't there is said in place of it, whether a key or a link has led here.
+  void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override {
+    const QString file = url.toLocalFile();
+    if (QFile(file).open(QIODevice::ReadOnly)) {
+      QTextBrowser::doSetSource(url, type);
+      return;
+    }
+    setPlainText(QStringLiteral("The guide is not there: the file %1 can't be read.\n\n"
+                                "It comes with the program. Install the program again, or put the "
+                                "folder of the guide back in its place.")
+                     .arg(file));
+  }
+};
+
+}  // namespace
+
+GuideWindow::GuideWindow(const QString& folder) : folder_(folder), page_(new GuidePage(this)) {
+  setObjectName(QStringLiteral("GuideWindow"));
+  auto* contents = new QPushButton(QStringLiteral("&Contents"), this);
+  auto* back = new QPushButton(QStringLiteral("&Back"), this);
+  auto* close = new QPushButton(QStringLiteral("C&lose"), this);
+  back->setEnabled(false);
+  connect(contents, &QPushButton::clicked, this, [this] { Open(QStringLiteral("index.md"), {}); });
+  connect(back, &QPushButton::clicked, page_, &QTextBrowser::backward);
+  connect(page_, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
+  connect(close, &QPushButton::clicked, this, &QWidget::close);
+  connect(page_, &QTextBrowser::sourceChanged, this, [this] { ShowTitle(); });
+
+  auto* row = new QHBoxLayout;
+  row->addWidget(contents);
+  row->addWidget(back);
+  row->addStretch();
+  row->addWidget(close);
+  auto* column = new QVBoxLayout(this);
+  column->addLayout(row);
+  column->addWidget(page_, 1);
+  setTabOrder(page_, contents);
+  setTabOrder(contents, back);
+  setTabOrder(back, close);
+  resize(QSize(kWidth, kHeight).boundedTo(screen()->availableSize()));
+}
+
+void GuideWindow::Open(const QString& file, const QString& about) {
+  Present();  // first, so that the pictures know their room
+  page_->setSource(QUrl::fromLocalFile(folder_ + u'/' + file), QTextDocument::MarkdownResource);
+  ShowTitle();
+  GoToHeading(about);
+  page_->setFocus();
+}
+
+void GuideWindow::ShowTitle() {
+  const QTextBlock first = page_->document()->begin();
+  const QString title =
+      first.blockFormat().headingLevel() > 0 ? first.text() : QStringLiteral("not there");
+  setWindowTitle(QStringLiteral("Guide: ") + title);
+}
+
+void GuideWindow::GoToHeading(const QString& about) {
+  const QString wanted = about.simplified();
+  QTextBlock found;
+  for (QTextBlock block = page_->document()->begin(); block.isValid(); block = block.next()) {
+    if (block.blockFormat().headingLevel() < 2 || !wanted.contains(block.text())) continue;
+    if (!found.isValid() || block.length() > found.length()) found = block;
+  }
+  if (!found.isValid()) return;
+  page_->setTextCursor(QTextCursor(found));
+  page_->verticalScrollBar()->setValue(page_->verticalScrollBar()->value() +
+                                       page_->cursorRect().top() - kNear);
+}
+
+void GuideWindow::Present() {
+  // While a box stands, the toolkit gives input to what stands before the box alone.
+  QWidget* box = QApplication::activeModalWidget();
+  QWindow* owner = box == nullptr ? nullptr : box->windowHandle();
+  winId();  // a window of the system must be there to be tied to another
+  if (windowHandle()->transientParent() != owner) {
+    hide();
+    windowHandle()->setTransientParent(owner);
+  }
+  if (isMinimized()) showNormal();
+  show();
+  raise();
+  activateWindow();
+}
+
+void GuideWindow::keyPressEvent(QKeyEvent* event) {
+  if (event->key() != Qt::Key_Escape || event->modifiers() != Qt::NoModifier) {
+    QWidget::keyPressEvent(event);
+  } else if (!event->isAutoRepeat()) {
+    close();
+  }
+}
+
+// Not every window system gives the keyboard back by itself, and it can't before the window is
+// gone.
+void GuideWindow::closeEvent(QCloseEvent* event) {
+  QWidget::closeEvent(event);
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        QWidget* front = FrontWindow(nullptr);
+        if (isHidden() && front != nullptr) front->activateWindow();
+      },
+      Qt::QueuedConnection);
+}
+
+}  // namespace corvalis::desktop

@@ -1,0 +1,177 @@
+// The operator's guide: its pages, and F1 in the real windows.
+
+#include "desktop/views/guide.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QTabBar>
+#include <QTest>
+#include <QTextBlock>
+#include <QTextBrowser>
+#include <QTextDocument>
+#include <set>
+
+#include "desktop/running_program.h"
+#include "desktop/widgets/guide_window.h"
+#include "link/link_error.h"
+
+namespace corvalis::test {
+namespace {
+
+const QString kGuide = QStringLiteral("GuideWindow");
+
+QString PageText(const QString& file) {
+  QFile page(desktop::GuideFolder() + u'/' + file);
+  return page.open(QIODevice::ReadOnly) ? QString::fromUtf8(page.readAll()) : QString();
+}
+
+class GuideTest : public RunningProgram {
+ protected:
+  static QTextBrowser& Page() { return *OnScreen(kGuide)->findChild<QTextBrowser*>(); }
+  // The heading that the page has been opened at.
+  static std::string Heading() { return Page().textCursor().block().text().toStdString(); }
+  static void PressF1(const QString& window) {
+    QWidget* shown = OnScreen(window);
+    ASSERT_NE(shown, nullptr) << window.toStdString();
+    QWidget* focus = shown->focusWidget();
+    QTest::keyClick(focus == nullptr ? shown : focus, Qt::Key_F1);
+  }
+};
+
+TEST(GuidePagesTest, EveryLinkAndPictureIsThereAndEveryPageIsReached) {
+  const QDir folder(desktop::GuideFolder());
+  std::set<QString> reached{QStringLiteral("index.md")};
+  const QStringList pages = folder.entryList({QStringLiteral("*.md")});
+  EXPECT_GT(pages.size(), 0);
+  static const QRegularExpression link(QStringLiteral("\\]\\(([^)]+)\\)"));
+  for (const QString& page : pages) {
+    const QString text = PageText(page);
+    EXPECT_TRUE(text.startsWith(u"# ")) << page.toStdString();
+    for (auto found = link.globalMatch(text); found.hasNext();) {
+      const QString to = found.next().captured(1);
+      EXPECT_TRUE(folder.exists(to)) << page.toStdString() << " names " << to.toStdString();
+      reached.insert(to);
+    }
+  }
+  for (const QString& page : pages) EXPECT_TRUE(reached.contains(page)) << page.toStdString();
+}
+
+TEST(GuidePagesTest, EveryTextOfALinkErrorIsExplained) {
+  const QString text = PageText(QStringLiteral("link-errors.md"));
+  for (std::int16_t error = -1; error <= 27; ++error) {
+    const std::string_view said = LinkErrorText(error);
+    const QString words =
+        QString::fromLatin1(said.data(), static_cast<int>(said.size())).simplified();
+    EXPECT_TRUE(text.contains(words)) << error << words.toStdString();
+  }
+}
+
+TEST(GuidePagesTest, AGuideThatIsNotThereIsSaidInTheWindow) {
+  desktop::GuideWindow window(QStringLiteral("/nowhere"));
+  window.Open(QStringLiteral("setup.md"), {});
+  const auto* page = window.findChild<QTextBrowser*>();
+  EXPECT_TRUE(page->toPlainText().contains(QStringLiteral("/nowhere/setup.md can't be read")));
+}
+
+TEST_F(GuideTest, F1ShowsThePageOfEachWindowAndOfEachTab) {
+  StartWithCoder({"--open"}, std::string(kLocalFile) + "[RDS Setup]\nGroups Enable=On\n");
+  PressF1(kMain);
+  ASSERT_NE(OnScreen(kGuide), nullptr);
+  EXPECT_EQ(OnScreen(kGuide)->windowTitle(), "Guide: Main menu");
+  for (const auto& [button, window] : {std::pair("TaPtyMsButton", kOnAir),
+                                       {"PsnRtPinAfButton", kTexts},
+                                       {"CtTpDiPiButton", kStation},
+                                       {"EonLiButton", kNetworks},
+                                       {"TdcIhButton", kChannels},
+                                       {"EditGroupsButton", kGroups},
+                                       {"ConnectionButton", kConnection},
+                                       {"RS232CButton", kSetup}}) {
+    SCOPED_TRACE(button);
+    const QString title = QStringLiteral("Guide: ") + hand.Shown(kMain, button).remove(u'&');
+    hand.Click(kMain, button);
+    const auto* tabs = hand.Window(window).findChild<QTabBar*>();
+    for (int tab = 0; tab < (tabs == nullptr ? 1 : tabs->count()); ++tab) {
+      if (tabs != nullptr && !tabs->isTabVisible(tab)) continue;
+      if (tabs != nullptr) hand.TurnToTab(window, tab);
+      PressF1(window);
+      EXPECT_EQ(OnScreen(kGuide)->windowTitle(), title);
+      if (tabs == nullptr) continue;
+      EXPECT_EQ(Heading(), tabs->tabText(tab).remove(u'&').toStdString());
+    }
+    hand.Close(window);
+  }
+}
+
+TEST_F(GuideTest, TheScreenUnderItStaysAsItIs) {
+  StartWithCoder({"--open"});
+  OpenIdentity();
+  auto* pi = qobject_cast<QLineEdit*>(&hand.Control(kStation, "PiText"));
+  pi->setFocus();
+  pi->selectAll();
+  hand.Strike("12");  // too short to be left
+  PressF1(kStation);
+  EXPECT_EQ(Heading(), "PI-ECC-LIC");
+  ASSERT_TRUE(QTest::qWaitForWindowActive(OnScreen(kGuide)));
+  QTest::keyClick(&Page(), Qt::Key_Tab);
+  QTest::keyClick(&Page(), Qt::Key_Escape);
+  EXPECT_EQ(OnScreen(kGuide), nullptr);
+  ASSERT_NE(OnScreen(kStation), nullptr);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(OnScreen(kStation)));
+  EXPECT_EQ(Focus(), "PiText");
+  EXPECT_EQ(pi->text(), "12");
+  EXPECT_EQ(beeps, 0);
+}
+
+TEST_F(GuideTest, ABoxHelpsWithoutBeingAnswered) {
+  Plug("/dev/corvalis-unplugged");
+  int helped = 0;
+  during_box = [&] {
+    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    ASSERT_NE(box, nullptr);
+    QAbstractButton* help = box->button(QMessageBox::Help);
+    ASSERT_NE(help, nullptr);
+    if (helped % 2 == 0) {
+      QTest::mouseClick(help, Qt::LeftButton);
+    } else {
+      QTest::keyClick(box, Qt::Key_F1);
+    }
+    ++helped;
+    EXPECT_TRUE(box->isVisible());
+    ASSERT_NE(OnScreen(kGuide), nullptr);
+    EXPECT_EQ(Heading(), helped == 1 ? "No such file or directory" : "[ TX ] serial unconnected");
+    // It takes input in front of the box.
+    QTest::mouseClick(OnScreen(kGuide)->findChild<QPushButton*>(), Qt::LeftButton);
+    EXPECT_EQ(OnScreen(kGuide)->windowTitle(), "Guide: The operator's guide");
+    if (helped == 1) return;  // the guide stays when the box goes
+    QTest::keyClick(&Page(), Qt::Key_Escape);
+    EXPECT_EQ(OnScreen(kGuide), nullptr);
+    EXPECT_TRUE(box->isVisible());
+  };
+  Start(kLocalFile);
+  EXPECT_EQ(Boxes(), Lines{"COM 1 (/dev/corvalis-unplugged): No such file or directory"});
+  EXPECT_NE(OnScreen(kGuide), nullptr);
+  hand.Click(kMain, "TaPtyMsButton");
+  hand.Click(kOnAir, "Command2");
+  EXPECT_EQ(Boxes(), Lines{"TA: [ TX ] serial unconnected  "});
+  EXPECT_EQ(helped, 2);
+}
+
+TEST_F(GuideTest, ATransferGoesOnWhileF1IsPressed) {
+  StartWithCoder({"--open", "--late", "40"});
+  OpenIdentity();
+  during_transfer = [] {
+    PressF1(kTransfer);
+    PressF1(kStation);
+    EXPECT_EQ(OnScreen(kGuide), nullptr);
+  };
+  hand.Click(kStation, "SendPiCommand");
+  EXPECT_EQ(Held("PI 00"), "5000");
+}
+
+}  // namespace
+}  // namespace corvalis::test
