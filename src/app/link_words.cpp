@@ -1,5 +1,8 @@
 #include "app/link_words.h"
 
+#include <filesystem>
+#include <system_error>
+
 #include "config/config_data.h"
 #include "config/language_data.h"
 #include "link/serial_management.h"
@@ -29,9 +32,13 @@ std::string OtherWay(const SerialPort& port) {
   return {};
 }
 
-}  // namespace
+// True as long as nobody has said how the Coder is reached: there is no file yet.
+bool IsDefaultOneWay() {
+  std::error_code error;
+  return configData->Satellite() && !std::filesystem::exists(configData->FullFileName(), error);
+}
 
-std::string LinkInWords(const SerialPort& port) {
+std::string Words(const SerialPort& port) {
   if (!port.PortOpen()) return Mode() + ": " + PortName(configData->CommPort()) + " is not open";
   const std::string name = PortName(port.CommPort());
   if (const std::string other = OtherWay(port); !other.empty()) {
@@ -43,6 +50,14 @@ std::string LinkInWords(const SerialPort& port) {
     words += *CoderAnswered ? "the Coder answered, " : "the Coder did not answer, ";
   }
   return words + (AddressSent ? "address sent" : "no address sent");
+}
+
+}  // namespace
+
+std::string LinkInWords(const SerialPort& port) {
+  const std::string words = Words(port);
+  if (!IsDefaultOneWay()) return words;
+  return words + "; one way, unless " + languageData->MainSetupKey() + " says Local or Modem";
 }
 
 }  // namespace corvalis

@@ -68,6 +68,16 @@ std::vector<std::string> ListPlaces() {
       places.push_back(std::string(parent).append("/").append(name));
     }
   }
+  // The sample stations, where the program has been installed.
+  const char* data = std::getenv("XDG_DATA_DIRS");
+  std::string rest = data != nullptr && data[0] != '\0' ? data : "/usr/local/share:/usr/share";
+  for (std::size_t end = 0; end != std::string::npos; rest.erase(0, end + 1)) {
+    end = rest.find(':');
+    const std::string samples = TidyPath(rest.substr(0, end)) + "/corvalis/examples";
+    std::error_code error;
+    if (samples.front() == '/' && fs::is_directory(samples, error)) places.push_back(samples);
+    if (end == std::string::npos) break;
+  }
   std::sort(places.begin(), places.end());
   places.erase(std::unique(places.begin(), places.end()), places.end());
   return places;

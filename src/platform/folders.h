@@ -19,8 +19,9 @@ namespace corvalis {
 [[nodiscard]] std::optional<std::vector<std::string>> ListFiles(const std::string& folder,
                                                                 std::string_view extension);
 
-/// The places where an operator looks for files first: the root, the home folder, and each medium
-/// that is mounted under /media, /run/media and /mnt.
+/// The places where an operator looks for files first: the root, the home folder, each medium that
+/// is mounted under /media, /run/media and /mnt, and the sample stations that were installed
+/// (corvalis/examples in a folder of $XDG_DATA_DIRS).
 [[nodiscard]] std::vector<std::string> ListPlaces();
 
 /// The entry of `places`, a list of folders, that is `folder` or holds it most closely; -1 if none.

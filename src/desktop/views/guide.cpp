@@ -44,7 +44,7 @@ const Page* PageOf(const QString& form) {
 
 QString GuideFolder() {
   const QString installed =
-      QCoreApplication::applicationDirPath() + QStringLiteral("/../share/doc/corvalis/guide");
+      QCoreApplication::applicationDirPath() + QStringLiteral("/../share/corvalis/guide");
   const QString built = QStringLiteral(CORVALIS_GUIDE);
   return QFileInfo::exists(installed) || !QFileInfo::exists(built) ? QDir::cleanPath(installed)
                                                                    : built;
