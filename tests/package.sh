@@ -26,6 +26,7 @@ done
     fail "its page lacks $option"
 done || exit 1
 [ -f "$share/corvalis/examples/station.rds" ] || fail "no sample station"
+[ -f "$share/corvalis/guide/index.md" ] || fail "no guide"
 
 # Waits until the menu is there, and the language file that the first start writes.
 cat >"$folder/start" <<'START'
