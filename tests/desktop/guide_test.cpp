@@ -76,6 +76,7 @@ TEST(GuidePagesTest, AGuideThatIsNotThereIsSaidInTheWindow) {
   window.Open(QStringLiteral("setup.md"), {});
   const auto* page = window.findChild<QTextBrowser*>();
   EXPECT_TRUE(page->toPlainText().contains(QStringLiteral("/nowhere/setup.md can't be read")));
+  EXPECT_EQ(window.windowTitle(), "Guide: This page is not there");
 }
 
 TEST_F(GuideTest, F1ShowsThePageOfEachWindowAndOfEachTab) {

@@ -24,37 +24,34 @@ namespace {
 constexpr Length kWidth{1000};
 constexpr Length kHeight{760};
 
-/// A page whose pictures are no wider than it is.
+/// A page whose pictures are no wider than it is. In place of one that isn't there it says so,
+/// whether a key or a link has led there.
 class GuidePage : public QTextBrowser {
  public:
   explicit GuidePage(QWidget* parent) : QTextBrowser(parent) {
     setAccessibleName(QStringLiteral("Page of the guide"));
-    document()->setDocumentMargin(kApart);
     setFrameShape(QFrame::NoFrame);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // pictures know their room beforehand
+    document()->setDocumentMargin(kApart);
+    document()->setIndentWidth(2 * kGap);
   }
 
  protected:
   QVariant loadResource(int type, const QUrl& name) override {
-    QVariant found = QTextBrowser::loadResource(type, name);
-    if (type != QTextDocument::ImageResource) return found;
-    QPixmap picture;
-    if (!picture.loadFromData(found.toByteArray())) return found;
-    const int room = viewport()->width() - 2 * kApart - kGap;
-    if (picture.width() > room) picture = picture.scaledToWidth(room, Qt::SmoothTransformation);
-    return picture;
-  }
-
-  // A page that isn't there is said in place of it, whether a key or a link has led here.
-  void doSetSource(const QUrl& url, QTextDocument::ResourceType type) override {
-    const QString file = url.toLocalFile();
-    if (QFile(file).open(QIODevice::ReadOnly)) {
-      QTextBrowser::doSetSource(url, type);
-      return;
+    const QString path = document()->baseUrl().resolved(name).toLocalFile();
+    QFile file(path);
+    if (type == QTextDocument::ImageResource) {
+      QPixmap picture(path);
+      const int room = viewport()->width() - 2 * kApart;
+      if (picture.width() > room) picture = picture.scaledToWidth(room, Qt::SmoothTransformation);
+      return picture;
     }
-    setPlainText(QStringLiteral("The guide is not there: the file %1 can't be read.\n\n"
-                                "It comes with the program. Install the program again, or put the "
-                                "folder of the guide back in its place.")
-                     .arg(file));
+    if (file.open(QIODevice::ReadOnly)) return file.readAll();
+    return QStringLiteral(
+               "# This page is not there\n\nThe file %1 can't be read.\n\n"
+               "The guide comes with the program. Install the program again, or put the "
+               "folder of the guide back in its place.\n")
+        .arg(path);
   }
 };
 
@@ -70,7 +67,7 @@ GuideWindow::GuideWindow(const QString& folder) : folder_(folder), page_(new Gui
   connect(back, &QPushButton::clicked, page_, &QTextBrowser::backward);
   connect(page_, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
   connect(close, &QPushButton::clicked, this, &QWidget::close);
-  connect(page_, &QTextBrowser::sourceChanged, this, [this] { ShowTitle(); });
+  connect(page_, &QTextBrowser::sourceChanged, this, [this] { Dress(); });
 
   auto* row = new QHBoxLayout;
   row->addWidget(contents);
@@ -89,16 +86,17 @@ GuideWindow::GuideWindow(const QString& folder) : folder_(folder), page_(new Gui
 void GuideWindow::Open(const QString& file, const QString& about) {
   Present();  // first, so that the pictures know their room
   page_->setSource(QUrl::fromLocalFile(folder_ + u'/' + file), QTextDocument::MarkdownResource);
-  ShowTitle();
   GoToHeading(about);
   page_->setFocus();
 }
 
-void GuideWindow::ShowTitle() {
-  const QTextBlock first = page_->document()->begin();
-  const QString title =
-      first.blockFormat().headingLevel() > 0 ? first.text() : QStringLiteral("not there");
-  setWindowTitle(QStringLiteral("Guide: ") + title);
+void GuideWindow::Dress() {
+  setWindowTitle(QStringLiteral("Guide: ") + page_->document()->begin().text());
+  QTextBlockFormat apart;
+  apart.setTopMargin(kApart);
+  for (QTextBlock block = page_->document()->begin(); block.isValid(); block = block.next()) {
+    if (block.blockFormat().headingLevel() > 1) QTextCursor(block).mergeBlockFormat(apart);
+  }
 }
 
 void GuideWindow::GoToHeading(const QString& about) {
@@ -111,7 +109,7 @@ void GuideWindow::GoToHeading(const QString& about) {
   if (!found.isValid()) return;
   page_->setTextCursor(QTextCursor(found));
   page_->verticalScrollBar()->setValue(page_->verticalScrollBar()->value() +
-                                       page_->cursorRect().top() - kNear);
+                                       page_->cursorRect().top() - kTight);
 }
 
 void GuideWindow::Present() {

@@ -23,7 +23,8 @@ class GuideWindow : public QWidget {
   void closeEvent(QCloseEvent* event) override;
 
  private:
-  void ShowTitle();
+  // A page has come up.
+  void Dress();
   void GoToHeading(const QString& about);
   void Present();
 
