@@ -17,6 +17,7 @@
 #include <set>
 
 #include "desktop/running_program.h"
+#include "desktop/widgets/front_window.h"
 #include "desktop/widgets/guide_window.h"
 #include "link/link_error.h"
 
@@ -77,6 +78,13 @@ TEST(GuidePagesTest, AGuideThatIsNotThereIsSaidInTheWindow) {
   const auto* page = window.findChild<QTextBrowser*>();
   EXPECT_TRUE(page->toPlainText().contains(QStringLiteral("/nowhere/setup.md can't be read")));
   EXPECT_EQ(window.windowTitle(), "Guide: This page is not there");
+}
+
+TEST(GuidePagesTest, NothingHangsOnTheGuide) {
+  desktop::GuideWindow window(desktop::GuideFolder());
+  window.Open(QStringLiteral("index.md"), {});
+  EXPECT_EQ(desktop::FrontWindow(nullptr), nullptr);
+  EXPECT_EQ(desktop::FrontWindow(&window), nullptr);
 }
 
 TEST_F(GuideTest, F1ShowsThePageOfEachWindowAndOfEachTab) {

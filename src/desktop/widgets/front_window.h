@@ -5,8 +5,8 @@ class QWidget;
 namespace corvalis::desktop {
 
 /// The window that stands before all others of the program that `beneath` owns, boxes included;
-/// `beneath` itself if there is none. With null, the one before all others. The
-/// guide is none of them: nothing may hang on a window that the operator closes at will.
+/// `beneath` itself if there is none. With null, the one before all others. The guide is none of
+/// them: nothing may hang on a window that the operator closes at will.
 [[nodiscard]] QWidget* FrontWindow(QWidget* beneath);
 
 }  // namespace corvalis::desktop
