@@ -55,9 +55,8 @@ std::string Words(const SerialPort& port) {
 }  // namespace
 
 std::string LinkInWords(const SerialPort& port) {
-  const std::string words = Words(port);
-  if (!IsDefaultOneWay()) return words;
-  return words + "; one way, unless " + languageData->MainSetupKey() + " says Local or Modem";
+  if (!IsDefaultOneWay()) return Words(port);
+  return Words(port) + "; one way, unless " + languageData->MainSetupKey() + " says Local or Modem";
 }
 
 }  // namespace corvalis

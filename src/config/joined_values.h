@@ -42,8 +42,8 @@ class JoinedReader {
  public:
   /// `text` is not copied.
   explicit JoinedReader(std::string_view text) : rest_(text) {}
-  template <std::same_as<std::string> Temporary>
-  explicit JoinedReader(Temporary&& text) = delete;
+  explicit JoinedReader(const char* text) : JoinedReader(std::string_view(text)) {}
+  explicit JoinedReader(std::string&& text) = delete;
 
   /// The next field as it stands.
   std::string_view Next();

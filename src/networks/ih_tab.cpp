@@ -200,9 +200,8 @@ void IhTab::InitCaptions() {
 
 void IhTab::Open() {
   buttons_.Show();
-  std::vector<std::string> pages;
-  for (int i = 0; i < ihData->PagesCount(); ++i) pages.push_back("Page" + Digits(i, 2));
-  Combo1.Fill(pages);
+  Combo1.Clear();
+  for (int i = 0; i < ihData->PagesCount(); ++i) Combo1.Add("Page" + Digits(i, 2));
   for (int i = 0; i < kBoxes; ++i) {
     Check1[i].SetChecked(false);
     Check1[i].SetEnabled(i < ihData->PagesCount());

@@ -20,6 +20,12 @@ constexpr int kButtonWords = 3;  // "Off"
 constexpr double kButtonCorner = 3;
 constexpr double kGroupGap = 0.6;  // places between two groups
 
+// The gaps, in places, before a place.
+double GapsBefore(qsizetype place, int group) {
+  const qsizetype gaps = group > 0 ? place / group : 0;
+  return static_cast<double>(gaps) * kGroupGap;
+}
+
 bool IsOn(const QString& word) { return word.compare(u"on", Qt::CaseInsensitive) == 0; }
 
 }  // namespace
@@ -53,7 +59,7 @@ int GridDelegate::ColumnWidth(int column) const {
   const bool button = of.kind == GridColumn::Kind::kButton;
   // One place more, as capitals are wider than digits, and for the caret behind the last place.
   const int places = button ? std::max(of.width, kButtonWords) : of.width + 1;
-  const double gaps = of.group > 0 ? (of.width - 1) / of.group * kGroupGap : 0;
+  const double gaps = GapsBefore(of.width - 1, of.group);
   const double text = (places + gaps) * metrics.horizontalAdvance(u'0');
   const double heading = QFontMetricsF(HeadingFont()).horizontalAdvance(FromBytes(of.heading));
   return static_cast<int>(std::ceil(std::max(text + (button ? kNear : 0), heading))) + kApart;
@@ -112,8 +118,7 @@ void GridDelegate::DrawPlaces(QPainter& painter, const QRect& rect, const QStrin
   if (even) painter.drawText(QPointF(rect.left(), base), text);
   QRectF dot(0, 0, kDot, kDot);
   for (int i = 0; i < text.size(); ++i) {
-    const double gaps = group > 0 ? i / group * kGroupGap : 0;
-    const double left = rect.left() + (i + gaps) * place;
+    const double left = rect.left() + (i + GapsBefore(i, group)) * place;
     if (text[i] == u' ') {
       dot.moveCenter({left + place / 2, rect.center().y() + 0.5});
       painter.fillRect(dot, QColor(colours::kBorder));
