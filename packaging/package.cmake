@@ -4,8 +4,8 @@ include(GNUInstallDirs)
 set(made ${CMAKE_CURRENT_BINARY_DIR}/packaging)
 configure_file(packaging/corvalis.1.in ${made}/corvalis.1 @ONLY)
 configure_file(packaging/corvalis-coder.1.in ${made}/corvalis-coder.1 @ONLY)
-configure_file(packaging/org.corvalis.corvalis.metainfo.xml.in
-  ${made}/org.corvalis.corvalis.metainfo.xml @ONLY)
+configure_file(packaging/org.example.corvalis.metainfo.xml.in
+  ${made}/org.example.corvalis.metainfo.xml @ONLY)
 configure_file(packaging/changelog.in ${made}/changelog @ONLY)
 # Compressed without a name and a time, so that two builds are alike.
 foreach(page corvalis.1 corvalis-coder.1 changelog)
@@ -16,7 +16,7 @@ install(TARGETS corvalis corvalis-coder RUNTIME)
 install(FILES ${made}/corvalis.1.gz ${made}/corvalis-coder.1.gz
   DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES packaging/corvalis.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${made}/org.corvalis.corvalis.metainfo.xml
+install(FILES ${made}/org.example.corvalis.metainfo.xml
   DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
 install(FILES packaging/corvalis.svg DESTINATION ${icons}/scalable/apps)
@@ -33,7 +33,7 @@ install(FILES packaging/copyright ${made}/changelog.gz CHANGELOG.md DESTINATION 
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME corvalis)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
-set(CPACK_PACKAGE_CONTACT "The Corvalis developers <developers@corvalis.org>")
+set(CPACK_PACKAGE_CONTACT "The Corvalis developers <corvalis@example.org>")
 set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "prepare what an RDS encoder puts on the air")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "A broadcast engineer prepares here everything that an RDS encoder at an FM
