@@ -13,6 +13,7 @@
 #include <QTextDocument>
 #include <QUrl>
 #include <QWindow>
+#include <algorithm>
 
 #include "desktop/widgets/front_window.h"
 #include "desktop/widgets/style.h"
@@ -42,8 +43,11 @@ class GuidePage : public QTextBrowser {
     QFile file(path);
     if (type == QTextDocument::ImageResource) {
       QPixmap picture(path);
-      const int room = viewport()->width() - 2 * kApart;
+      const qreal dots = devicePixelRatioF();
+      const int room = static_cast<int>((viewport()->width() - 2 * kApart) * dots);
       if (picture.width() > room) picture = picture.scaledToWidth(room, Qt::SmoothTransformation);
+      // Where the screen has more dots than places, the picture stays sharp.
+      picture.setDevicePixelRatio(std::clamp(picture.width() * dots / room, 1.0, dots));
       return picture;
     }
     if (file.open(QIODevice::ReadOnly)) return file.readAll();
