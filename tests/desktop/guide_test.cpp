@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QScrollBar>
 #include <QTabBar>
 #include <QTest>
 #include <QTextBlock>
@@ -109,6 +110,7 @@ TEST_F(GuideTest, F1ShowsThePageOfEachWindowAndOfEachTab) {
       if (tabs != nullptr) hand.TurnToTab(window, tab);
       PressF1(window);
       EXPECT_EQ(OnScreen(kGuide)->windowTitle(), title);
+      EXPECT_EQ(Page().horizontalScrollBar()->maximum(), 0);
       if (tabs == nullptr) continue;
       EXPECT_EQ(Heading(), tabs->tabText(tab).remove(u'&').toStdString());
     }
