@@ -24,7 +24,15 @@ foreach(size 16 32 48 64 128 256)
   install(FILES packaging/icons/${size}.png DESTINATION ${icons}/${size}x${size}/apps
     RENAME corvalis.png)
 endforeach()
-install(DIRECTORY examples/ DESTINATION ${CMAKE_INSTALL_DATADIR}/corvalis/examples)
+# The sample station says where the files of its in-house pages are.
+set(samples ${CMAKE_INSTALL_DATADIR}/corvalis/examples)
+execute_process(
+  COMMAND sed "s#;examples;#;${CMAKE_INSTALL_PREFIX}/${samples};#"
+    ${CMAKE_CURRENT_SOURCE_DIR}/examples/station.rds
+  OUTPUT_FILE ${made}/station.rds)
+set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS examples/station.rds)
+install(DIRECTORY examples/ DESTINATION ${samples} PATTERN station.rds EXCLUDE)
+install(FILES ${made}/station.rds DESTINATION ${samples})
 # Where the program looks for it.
 install(DIRECTORY docs/guide DESTINATION ${CMAKE_INSTALL_DATADIR}/corvalis
   FILES_MATCHING PATTERN "*.md" PATTERN "*.png")

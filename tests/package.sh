@@ -25,7 +25,9 @@ done
   zcat "$share/man/man1/corvalis-coder.1.gz" | tr -d '\\' | grep -q -e "$option" ||
     fail "its page lacks $option"
 done || exit 1
-[ -f "$share/corvalis/examples/station.rds" ] || fail "no sample station"
+grep -q '^Page00=.*;/usr.*/corvalis/examples;harbour.txt;' "$share/corvalis/examples/station.rds" ||
+  fail "the sample station does not know where its pages are"
+[ -f "$share/corvalis/examples/harbour.txt" ] || fail "no sample page"
 [ -f "$share/corvalis/guide/index.md" ] || fail "no guide"
 
 # Waits until the menu is there, and the language file that the first start writes.
