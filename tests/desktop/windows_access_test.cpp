@@ -2,16 +2,20 @@
 // every state is in words, and every text has room in letters of any size.
 
 #include <QAbstractButton>
+#include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QApplication>
+#include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTabBar>
 #include <QTableView>
 #include <QTest>
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <set>
@@ -205,6 +209,25 @@ TEST_F(WindowsAccessTest, TabGoesThroughEveryWindowAsItReads) {
       const bool upwards = b.bottom() < a.top() && b.left() <= a.right();
       EXPECT_FALSE(backwards || upwards)
           << before->objectName().toStdString() << ", then " << stop->objectName().toStdString();
+    }
+  });
+}
+
+TEST_F(WindowsAccessTest, TabReachesEveryControlThatTakesAHand) {
+  ForEachPage([](const QWidget& window) {
+    const std::vector<QWidget*> stops = Stops(window);
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+      const bool takes_a_hand = qobject_cast<QAbstractButton*>(widget) != nullptr ||
+                                qobject_cast<QLineEdit*>(widget) != nullptr ||
+                                qobject_cast<QComboBox*>(widget) != nullptr ||
+                                qobject_cast<QAbstractItemView*>(widget) != nullptr ||
+                                qobject_cast<QPlainTextEdit*>(widget) != nullptr ||
+                                qobject_cast<QTabBar*>(widget) != nullptr;
+      const bool control = takes_a_hand && !widget->objectName().isEmpty() &&
+                           !widget->objectName().startsWith(u"qt_") && widget->window() == &window;
+      if (!control || !widget->isVisible() || !widget->isEnabled()) continue;
+      EXPECT_NE(std::find(stops.begin(), stops.end(), widget), stops.end())
+          << window.objectName().toStdString() << ' ' << widget->objectName().toStdString();
     }
   });
 }
