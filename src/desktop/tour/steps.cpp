@@ -327,15 +327,13 @@ const std::vector<Tour::Step>& Tour::Steps() {
       {&T::Leave},
       {&T::Shows, "SaveButton", "SPEICHERN"},
       {&T::Picture, "main-deutsch"},
-      {&T::Enter, "EonLiButton", "EonLiForm"},
-      {&T::Picture, "eon-deutsch"},
-      {&T::Tab, "TA EON"},
-      {&T::Picture, "ta-eon-deutsch"},
-      {&T::Leave},
-      {&T::Enter, "TdcIhButton", "TdcIhForm"},
-      {&T::Tab, "IH"},
-      {&T::Picture, "ih-deutsch"},
-      {&T::Leave},
+      {&T::EveryPage, "TaPtyMsButton", "TaPtyMsForm", "-deutsch"},
+      {&T::EveryPage, "PsnRtPinAfButton", "PsnRtPinAfForm", "-deutsch"},
+      {&T::EveryPage, "CtTpDiPiButton", "CtTpDiPiForm", "-deutsch"},
+      {&T::EveryPage, "EonLiButton", "EonLiForm", "-deutsch"},
+      {&T::EveryPage, "TdcIhButton", "TdcIhForm", "-deutsch"},
+      {&T::EveryPage, "EditGroupsButton", "EditGroupsForm", "-deutsch"},
+      {&T::EveryPage, "ConnectionButton", "ConnectionForm", "-deutsch"},
   };
   return steps;
 }

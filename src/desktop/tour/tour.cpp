@@ -5,6 +5,7 @@
 #include <QDeadlineTimer>
 #include <QMessageBox>
 #include <QRegularExpression>
+#include <QTabBar>
 #include <QTextStream>
 #include <QTimer>
 #include <filesystem>
@@ -147,6 +148,17 @@ void Tour::Burst(const Step& step) {
 }
 
 void Tour::Picture(const Step& step) { hand_.Picture(window_, Text(step.on)); }
+
+void Tour::EveryPage(const Step& step) {
+  Enter(step);
+  const auto* tabs = hand_.Window(window_).findChild<QTabBar*>();
+  for (int tab = 0; tab < (tabs == nullptr ? 1 : tabs->count()); ++tab) {
+    if (tabs != nullptr && !(tabs->isTabVisible(tab) && tabs->isTabEnabled(tab))) continue;
+    if (tabs != nullptr) hand_.TurnToTab(window_, tab);
+    hand_.Picture(window_, window_ + u'-' + QString::number(tab) + Text(step.gives));
+  }
+  Leave(step);
+}
 
 // The machine's time, as the screen shows it and the Coder holds it.
 void Tour::SendClock(const Step& step) {

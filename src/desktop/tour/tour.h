@@ -47,6 +47,9 @@ class Tour {
   void Refused(const Step& step);  ///< presses a button; a box comes up, and nothing is sent
   void Burst(const Step& step);    ///< presses a button; a line arrives so many times
   void Picture(const Step& step);  ///< takes a picture
+  /// Enters a window, takes a picture of each of its tabs, called by the window, the tab's number
+  /// and the third word, and leaves.
+  void EveryPage(const Step& step);
 
   void SendClock(const Step& step);
   void MoveLine(const Step& step);
