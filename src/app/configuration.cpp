@@ -2,6 +2,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <functional>
 
 #include "link/command_table.h"
 #include "link/link_error.h"
@@ -115,14 +116,16 @@ int OtherLists() {
   return (configData->Satellite() ? AfAData::kMostLists : afBData->MaxAfBListNum()) - 1;
 }
 
+// The items of a list, read or sent as the run goes.
+void RunList(ConfigurationRun run, int count, const std::function<void(int)>& read,
+             const std::function<void(int)>& send) {
+  RunItems(count, run == ConfigurationRun::kRead ? read : send);
+}
+
 void RunPage(ConfigurationRun run, std::uint8_t page) {
-  RunItems(psnPageData->MaxPsnNum(), [run, page](int row) {
-    if (run == ConfigurationRun::kRead) {
-      psnPageData->GetOneRds(page, Index(row));
-    } else {
-      psnPageData->SetOneRds(page, Index(row));
-    }
-  });
+  RunList(
+      run, psnPageData->MaxPsnNum(), [page](int row) { psnPageData->GetOneRds(page, Index(row)); },
+      [page](int row) { psnPageData->SetOneRds(page, Index(row)); });
 }
 
 // The pages go on where others end. A page that could not be sent ends alone: the next one starts
@@ -136,27 +139,16 @@ void RunPages(ConfigurationRun run) {
     if (LinkError != kLinkOk && run == ConfigurationRun::kRead) break;
   }
   if (!PlanTravels(run)) return;
-  RunItems(psnPageData->MaxPsnPlanNum(), [run](int row) {
-    if (run == ConfigurationRun::kRead) {
-      psnPageData->GetOneRdsPlan(Index(row));
-    } else {
-      psnPageData->SetOneRdsPlan(Index(row));
-    }
-  });
+  RunList(
+      run, psnPageData->MaxPsnPlanNum(), [](int row) { psnPageData->GetOneRdsPlan(Index(row)); },
+      [](int row) { psnPageData->SetOneRdsPlan(Index(row)); });
 }
 
 void RunNames(ConfigurationRun run) {
-  if (configData->PsnPagesEnable()) {
-    RunPages(run);
-    return;
-  }
-  RunItems(psnData->MaxPsnNum(), [run](int row) {
-    if (run == ConfigurationRun::kRead) {
-      psnData->GetOneRds(Index(row));
-    } else {
-      psnData->SetOneRds(Index(row));
-    }
-  });
+  if (configData->PsnPagesEnable()) return RunPages(run);
+  RunList(
+      run, psnData->MaxPsnNum(), [](int row) { psnData->GetOneRds(Index(row)); },
+      [](int row) { psnData->SetOneRds(Index(row)); });
 }
 
 int PassesOfBurst() { return configData->Burst() + 1; }
@@ -251,7 +243,7 @@ void RunConfiguration(ConfigurationRun run) {
     if (LinkError != kLinkOk) return;
     if (!Travels(step, run)) continue;
     if (step.code == CommandCode::kCt && run == ConfigurationRun::kSend) TakePresentTime();
-    RunItems(step.count(), run == ConfigurationRun::kRead ? step.read : step.send);
+    RunList(run, step.count(), step.read, step.send);
   }
 }
 

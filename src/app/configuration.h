@@ -8,7 +8,7 @@ namespace corvalis {
 
 /// The whole configuration: every item that is selected for it, in the order in which they travel.
 
-/// A flag of the record that selects one kind of item.
+/// A flag of the record, such as one that selects one kind of item.
 using PresetFlag = bool (ConfigData::*)() const;
 
 enum class ConfigurationRun {

@@ -15,17 +15,16 @@ namespace corvalis {
 
 namespace {
 
-using Flag = bool (ConfigData::*)() const;
 using Text = const std::string& (LanguageData::*)() const;
 
 // A tick and the flag that it stands for.
 struct Tick {
   CheckBox ConnectionForm::*box;
-  Flag preset;
+  PresetFlag preset;
   void (ConfigData::*set_preset)(bool preset);
   Text key;
   Text tip;
-  Flag enabled = nullptr;  // null: always
+  PresetFlag enabled = nullptr;  // null: always
 };
 
 constexpr Tick kTicks[] = {
@@ -123,8 +122,7 @@ ConnectionForm::ConnectionForm(Window& main_menu) : main_menu_(main_menu) {
 void ConnectionForm::Load() {
   InitCaptions();
   ShowRecord();
-  Command1.SetVisible(!configData->Satellite());
-  Command12.SetVisible(configData->Satellite());
+  ShowTransferButtons({{&Command1}, {&Command11}, {&Command12}});
   ShowLoad();
   window.ShowModal(main_menu_);
 }

@@ -11,6 +11,12 @@
 
 namespace corvalis {
 
+ListItems OneItem(ListItems items) {
+  items.count = [] { return 1; };
+  items.selected = [] { return std::vector<int>{0}; };
+  return items;
+}
+
 ListButtons::ListButtons(Window& screen, const Buttons& buttons, const ListRules& rules,
                          std::vector<ListItems> tables)
     : screen_(screen), buttons_(buttons), rules_(rules), tables_(std::move(tables)) {

@@ -49,6 +49,9 @@ struct ListItems {
   Grid* grid = nullptr;
 };
 
+/// What there is one of, not a list: `items` without count and selection.
+[[nodiscard]] ListItems OneItem(ListItems items);
+
 /// The five buttons of a list. Each press is the whole road of a transfer: see transfer.h.
 class ListButtons {
  public:

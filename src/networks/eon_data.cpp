@@ -27,34 +27,18 @@ constexpr std::int32_t kUnknownPi = 0x5158;
 constexpr std::int32_t kSixteenBits = 0xFFFF;
 constexpr int kPsn = kPsnCharacters;
 
-// LF and MF frequencies by codes of 9 kHz steps.
-constexpr std::int32_t kAmStep = 9;
-constexpr std::int32_t kBelowLf = 144;  // one step below code 1
-constexpr std::int32_t kBelowMf = 522;  // one step below the first code of MF
-constexpr std::int32_t kLastLfCode = 15;
-constexpr std::int32_t kLastMfCode = 135;
+std::uint8_t FmCode(float value) { return value == kNoFreq ? kAfFiller : AfFreqCode(value); }
 
-std::int32_t FmCode(float value) {
-  return value == kNoFreq ? kAfFiller
-                          : static_cast<std::int32_t>(std::lround(double{value} * 10 - 875));
-}
-
-std::int32_t AmCode(float value) {
-  const auto khz = static_cast<std::int32_t>(std::lround(value));
-  if (IsLf(static_cast<float>(khz))) return (khz - kBelowLf) / kAmStep;
-  if (IsMf(static_cast<float>(khz))) return (khz - kBelowMf) / kAmStep + kLastLfCode;
-  return 0;
+std::uint8_t AmCode(float value) {
+  const float khz = std::round(value);
+  return IsLf(khz) || IsMf(khz) ? AmFreqCode(khz) : 0;
 }
 
 float FmFreq(std::uint8_t code) { return code == kAfFiller ? kNoFreq : AfCodeFreq(code); }
 
 float AmFreq(std::uint8_t code) {
-  if (code == 0 || code > kLastMfCode) return kNoFreq;
-  return static_cast<float>(code <= kLastLfCode ? code * kAmStep + kBelowLf
-                                                : (code - kLastLfCode) * kAmStep + kBelowMf);
+  return code == 0 || code > kLastAmCode ? kNoFreq : AmCodeFreq(code);
 }
-
-std::uint8_t LowByte(std::int32_t value) { return static_cast<std::uint8_t>(value); }
 
 // What is no code leaves the frequency.
 void ReadFreq(BodyReader& body, float& value, float (*freq)(std::uint8_t code)) {
@@ -127,10 +111,10 @@ void EonData::SetOneRds(std::int16_t list) const {
       .Flag(source.ta)
       .Hex(source.pty, 2)
       .Hex(source.pin & kSixteenBits, 4);
-  for (const float freq : source.af_a) body.Hex(LowByte(FmCode(freq)), 2);
+  for (const float freq : source.af_a) body.Hex(FmCode(freq), 2);
   for (std::size_t i = 0; i < kEonAfB; ++i) {
     const float freq = source.af_b.at(i);
-    body.Hex(LowByte(i == kEonAm ? AmCode(freq) : FmCode(freq)), 2);
+    body.Hex(i == kEonAm ? AmCode(freq) : FmCode(freq), 2);
   }
   body.Hex(source.pi & kSixteenBits, 4).Flag(source.enable);
   SendEon(static_cast<std::uint8_t>(list), payload);

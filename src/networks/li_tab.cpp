@@ -22,11 +22,9 @@ LiTab::LiTab(Window& window)
           window,
           {.read_one = &ReadLiCommand, .send_one = &SendLiCommand, .burst = &SendLiBurstCommand},
           {.pause_burst = 0.2F, .extra_passes = 1},
-          {{.count = [] { return 1; },
-            .selected = [] { return std::vector<int>{0}; },
-            .read = [](int /*item*/) { liData->GetOneRds(); },
-            .send = [](int /*item*/) { liData->SetOneRds(); },
-            .refresh = [this] { RefreshLiTab(); }}}) {
+          {OneItem({.read = [](int /*item*/) { liData->GetOneRds(); },
+                    .send = [](int /*item*/) { liData->SetOneRds(); },
+                    .refresh = [this] { RefreshLiTab(); }})}) {
   // To set them from the data stores what is there already.
   LiLaCheck.Click = [this] { liData->SetLa(LiLaCheck.Checked()); };
   LiEgiCheck.Click = [this] { liData->SetEgi(LiEgiCheck.Checked()); };

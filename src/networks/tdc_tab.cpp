@@ -3,7 +3,6 @@
 #include <cctype>
 #include <cstdint>
 #include <string>
-#include <string_view>
 
 #include "config/conversions.h"
 #include "config/language_data.h"
@@ -42,19 +41,14 @@ GridColumn Bits(int bits) {
           .width = bits,
           .max_length = bits,
           .every_place = true,
+          .keys = "01",
           .group = kBitsOfDigit};
 }
 
-// The keys of a column that has only some, by its heading: they are the same in both grids.
-std::string_view KeysOf(const GridColumn& column) {
-  if (column.heading == "Addr") return "0123456789ABCDEFabcdef";
-  return column.heading == "Command" ? "01" : "";
-}
-
 bool Refused(const GridColumn& column, int key) {
-  const std::string_view keys = KeysOf(column);
   const bool types = key >= kFirstCharacter || key == kKeyBackspace || key == kKeyPaste;
-  return !keys.empty() && types && keys.find(static_cast<char>(key)) == std::string_view::npos;
+  return !column.keys.empty() && types &&
+         column.keys.find(static_cast<char>(key)) == std::string::npos;
 }
 
 // A command that is too short is not taken: the row can't be left with it.
@@ -73,7 +67,8 @@ TdcTab::TdcTab(Window& window)
                {.heading = "Addr",
                 .kind = GridColumn::Kind::kText,
                 .width = 5,
-                .max_length = kAddressDigits},
+                .max_length = kAddressDigits,
+                .keys = "0123456789ABCDEFabcdef"},
                Bits(kTdc0Bits),
                {.heading = "On", .kind = GridColumn::Kind::kText, .width = 3}}),
       DBGrid2(window, "DBGrid2",
@@ -160,8 +155,8 @@ void TdcTab::SetTypingRules(Grid& grid) {
                       cell.Text().size() >= static_cast<std::size_t>(of.max_length);
     if (full || Refused(of, key)) {
       RefuseKey(key);
-    } else if (of.heading == "Addr") {
-      key = std::toupper(key);
+    } else if (!of.keys.empty()) {
+      key = std::toupper(key);  // digits have no other case
     }
   };
 }

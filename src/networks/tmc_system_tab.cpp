@@ -15,11 +15,9 @@ TmcSystemTab::TmcSystemTab(Window& window)
                 .send_one = &SendTmcSystemCommand,
                 .burst = &SendTmcSystemBurstCommand},
                {.pause_burst = 0.2F, .extra_passes = 1, .sends_one_way = false},
-               {{.count = [] { return 1; },
-                 .selected = [] { return std::vector<int>{0}; },
-                 .read = [](int /*item*/) { tmcData->GetOneSystemRds(); },
-                 .send = [](int /*item*/) { tmcData->SetOneSystemRds(); },
-                 .refresh = [this] { RefreshTmcSystemTab(); }}}) {
+               {OneItem({.read = [](int /*item*/) { tmcData->GetOneSystemRds(); },
+                         .send = [](int /*item*/) { tmcData->SetOneSystemRds(); },
+                         .refresh = [this] { RefreshTmcSystemTab(); }})}) {
   LtnText.SetLocked(true);
   SidText.SetLocked(true);
   LtnVScroll.StepUp = [this] { StepLtn(1); };

@@ -12,6 +12,20 @@
 
 namespace corvalis {
 
+bool ReadUpTo(int file, std::size_t size, std::string& bytes) {
+  bytes.resize(size);
+  std::size_t done = 0;
+  while (done < size) {
+    const ssize_t got = ::read(file, bytes.data() + done, size - done);
+    if (got < 0 && errno == EINTR) continue;
+    if (got < 0) return false;
+    if (got == 0) break;
+    done += static_cast<std::size_t>(got);
+  }
+  bytes.resize(done);
+  return true;
+}
+
 namespace {
 
 // An open file, for as long as it is needed.
@@ -28,16 +42,9 @@ class OpenFile {
   [[nodiscard]] std::optional<std::string> Read(std::size_t limit) const {
     struct stat status {};
     if (file_ < 0 || ::fstat(file_, &status) != 0 || !S_ISREG(status.st_mode)) return std::nullopt;
-    std::string bytes(std::min(limit, static_cast<std::size_t>(status.st_size)), '\0');
-    std::size_t done = 0;
-    while (done < bytes.size()) {
-      const ssize_t got = ::read(file_, bytes.data() + done, bytes.size() - done);
-      if (got < 0 && errno == EINTR) continue;
-      if (got < 0) return std::nullopt;
-      if (got == 0) break;
-      done += static_cast<std::size_t>(got);
-    }
-    bytes.resize(done);
+    std::string bytes;
+    const std::size_t size = std::min(limit, static_cast<std::size_t>(status.st_size));
+    if (!ReadUpTo(file_, size, bytes)) return std::nullopt;
     return bytes;
   }
 

@@ -10,6 +10,9 @@ namespace corvalis {
 /// Whole files of bytes. What is no plain file (a folder, a device, a pipe) is not touched, and
 /// nobody waits for it. A path is from the root.
 
+/// Up to `size` bytes of an open file; fewer if it ends before. False on an error.
+[[nodiscard]] bool ReadUpTo(int file, std::size_t size, std::string& bytes);
+
 /// The first `limit` bytes of a file; a missing one is made, empty. nullopt if it can't be read.
 [[nodiscard]] std::optional<std::string> ReadPlainFile(const std::string& path, std::size_t limit);
 

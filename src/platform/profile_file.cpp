@@ -7,25 +7,12 @@
 #include <ctime>
 #include <utility>
 
+#include "platform/plain_file.h"
 #include "platform/profile_folder.h"
 
 namespace corvalis {
 
 namespace {
-
-bool ReadAll(int file, off_t size, std::string& text) {
-  text.resize(static_cast<std::size_t>(size));
-  std::size_t done = 0;
-  while (done < text.size()) {
-    const ssize_t got = ::read(file, text.data() + done, text.size() - done);
-    if (got < 0 && errno == EINTR) continue;
-    if (got < 0) return false;
-    if (got == 0) break;
-    done += static_cast<std::size_t>(got);
-  }
-  text.resize(done);
-  return true;
-}
 
 /// The clock from which the file system takes its times.
 timespec FileClock() {
@@ -102,8 +89,8 @@ bool ProfileFile::Load() {
   if (file < 0) return false;
   struct stat status {};
   std::string text;
-  const bool read =
-      ::fstat(file, &status) == 0 && S_ISREG(status.st_mode) && ReadAll(file, status.st_size, text);
+  const bool read = ::fstat(file, &status) == 0 && S_ISREG(status.st_mode) &&
+                    ReadUpTo(file, static_cast<std::size_t>(status.st_size), text);
   ::close(file);
   if (!read) return false;
 

@@ -47,16 +47,14 @@ AfATab::AfATab(Window& window)
     : window_(window),
       buttons_(window, {.read_one = &Command13, .send_one = &Command11, .burst = &Command12},
                {.pause_burst = 0.2F},
-               {{.count = [] { return 1; },
-                 .selected = [] { return std::vector<int>{0}; },
-                 .read =
-                     [this](int /*list*/) {
-                       afAData->GetOneRds();
-                       ShowAvailability(AvailableBoxes());
-                     },
-                 .send = [](int /*list*/) { afAData->SetOneRds(); },
-                 .prepare = [] { afAData->ArrangeAfList(); },
-                 .refresh = [this] { ShowBoxes(); }}}) {
+               {OneItem({.read =
+                             [this](int /*list*/) {
+                               afAData->GetOneRds();
+                               ShowAvailability(AvailableBoxes());
+                             },
+                         .send = [](int /*list*/) { afAData->SetOneRds(); },
+                         .prepare = [] { afAData->ArrangeAfList(); },
+                         .refresh = [this] { ShowBoxes(); }})}) {
   for (int i = 0; i < kAfEntries; ++i) {
     TextBox& box = Text39[i];
     box.KeyPress = [&box](int& key) {

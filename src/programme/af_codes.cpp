@@ -44,30 +44,30 @@ float StepOf(float value) {
   return static_cast<float>(std::floor(double{value} * 10 + 0.0001) / 10);
 }
 
-// Rounded, as 87.6 is a little less in a float.
-std::uint8_t FmCode(float step) {
-  return static_cast<std::uint8_t>(std::lround(double{step} * 10 - kFirstFmStep));
-}
-
 double AmSteps(float value, double below) { return std::floor((double{value} - below) / kAmStep); }
-
-std::uint8_t AmCode(float value) {
-  const double code =
-      IsLf(value) ? AmSteps(value, kBelowLf) : AmSteps(value, kBelowMf) + kLastLfCode;
-  return static_cast<std::uint8_t>(code);
-}
-
-float AmFreq(std::uint8_t code) {
-  const bool lf = code >= 1 && code <= kLastLfCode;
-  return static_cast<float>(lf ? code * kAmStep + kBelowLf
-                               : (code - kLastLfCode) * kAmStep + kBelowMf);
-}
 
 float FmFreq(std::uint8_t code, double first) { return static_cast<float>(code * kFmStep + first); }
 
 }  // namespace
 
 float AfCodeFreq(std::uint8_t code) { return FmFreq(code, kFirstFm); }
+
+// Rounded, as 87.6 is a little less in a float.
+std::uint8_t AfFreqCode(float value) {
+  return static_cast<std::uint8_t>(std::lround(double{value} * 10 - kFirstFmStep));
+}
+
+std::uint8_t AmFreqCode(float value) {
+  const double code =
+      IsLf(value) ? AmSteps(value, kBelowLf) : AmSteps(value, kBelowMf) + kLastLfCode;
+  return static_cast<std::uint8_t>(code);
+}
+
+float AmCodeFreq(std::uint8_t code) {
+  const bool lf = code >= 1 && code <= kLastLfCode;
+  return static_cast<float>(lf ? code * kAmStep + kBelowLf
+                               : (code - kLastLfCode) * kAmStep + kBelowMf);
+}
 
 bool FreqHasOffset(float value) { return IsLf(value) || IsMf(value) || StepOf(value) != value; }
 
@@ -93,7 +93,9 @@ std::optional<float> AfTextValue(std::string_view text) {
   return value;
 }
 
-float OnAfRaster(float value) { return IsLf(value) || IsMf(value) ? AmFreq(AmCode(value)) : value; }
+float OnAfRaster(float value) {
+  return IsLf(value) || IsMf(value) ? AmCodeFreq(AmFreqCode(value)) : value;
+}
 
 void ArrangeAfList(AfFrequencies& list) {
   for (std::size_t i = 0; i + 1 < kEntries; ++i) {
@@ -142,14 +144,14 @@ AfCodes AfACodes(const AfFrequencies& list) {
     const float offset = value - step;
     if (IsLf(value) || IsMf(value)) {
       if (at == kLastByte) break;  // no room for two
-      pair(kLfOrMfNext, AmCode(value));
+      pair(kLfOrMfNext, AmFreqCode(value));
       ++count;  // once: the Coder's count of these is one
       ++i;
     } else if (!IsFm(value)) {
       ++at;
       ++i;
     } else if (Covers(kOnRaster, offset)) {
-      codes[at++] = FmCode(step);
+      codes[at++] = AfFreqCode(step);
       ++count;
       ++i;
     } else {
@@ -161,7 +163,7 @@ AfCodes AfACodes(const AfFrequencies& list) {
         ++at;  // a filler that counts, and the same entry again
         ++count;
       } else {
-        pair(marker->code, FmCode(step));
+        pair(marker->code, AfFreqCode(step));
         count += 2;
         ++i;
       }
@@ -184,7 +186,7 @@ AfFrequencies AfAFrequencies(const AfCodes& codes) {
     }
     if (at > kLastByte) break;  // the second byte is missing: no frequency
     const std::uint8_t next = codes[at++];
-    list[i] = code == kLfOrMfNext ? AmFreq(next) : FmFreq(next, marker->first);
+    list[i] = code == kLfOrMfNext ? AmCodeFreq(next) : FmFreq(next, marker->first);
   }
   return list;
 }

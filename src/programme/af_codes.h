@@ -36,6 +36,13 @@ inline constexpr std::uint8_t kAfFiller = 205;
 inline constexpr std::uint8_t kAfCount = 224;  ///< byte 0 of a list: this and a number
 /// What a code byte of an FM frequency stands for, whatever its value.
 [[nodiscard]] float AfCodeFreq(std::uint8_t code);
+/// The code byte of an FM frequency, rounded to 0.1 MHz.
+[[nodiscard]] std::uint8_t AfFreqCode(float value);
+// Of LF and MF frequencies, 1 to 15 and 16 to 135, in steps of 9 kHz.
+inline constexpr std::uint8_t kLastAmCode = 135;
+[[nodiscard]] float AmCodeFreq(std::uint8_t code);
+/// Down to the step; the frequency is one of LF or MF.
+[[nodiscard]] std::uint8_t AmFreqCode(float value);
 
 /// True if the entry takes two bytes: LF, MF, and whatever is not on the 100 kHz raster.
 [[nodiscard]] bool FreqHasOffset(float value);

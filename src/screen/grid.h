@@ -25,7 +25,8 @@ struct GridColumn {
   int width = 8;             ///< characters that it has room for
   int max_length = 0;        ///< bytes that an open cell holds; 0: no end
   bool every_place = false;  ///< a text whose blanks and places count is shown place by place
-  int group = 0;             ///< of such a text: places that stand together to be read; 0: all
+  std::string keys = {};  ///< what its cells are made of, for the form's rule of keys; empty: all
+  int group = 0;          ///< of such a text: places that stand together to be read; 0: all
 };
 
 /// A grid that holds no data: it asks its rows by index and keeps only the edits of the current row

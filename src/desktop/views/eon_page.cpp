@@ -8,13 +8,13 @@
 #include "desktop/widgets/layout.h"
 #include "desktop/widgets/spinner_widget.h"
 #include "desktop/widgets/style.h"
+#include "link/list_commands.h"
 
 namespace corvalis::desktop {
 
 namespace {
 
 constexpr int kListDigits = 3;
-constexpr int kPsnCharacters = 8;
 constexpr int kHexDigits = 4;
 constexpr int kFrequency = 5;
 

@@ -51,9 +51,7 @@ TaEonPage::TaEonPage(TaEonTab& tab, QWidget* parent) : QWidget(parent) {
     auto* number = new LabelWidget(tab.Text2[i], panel);
     number->setBuddy(box);
     auto* name = new LabelWidget(tab.TaEonNameLabel[i], panel);
-    QPalette quiet = name->palette();
-    quiet.setColor(QPalette::WindowText, QColor(colours::kQuietText));
-    name->setPalette(quiet);
+    SetInk(*name, colours::kQuietText);
     QFont places = DigitsFont();  // so that the PIs stand below each other
     places.setPointSizeF(name->font().pointSizeF());
     name->setFont(places);

@@ -21,9 +21,7 @@ QWidget* Table(Label& caption, Label& mark, Grid& grid, QWidget* parent) {
   title->Name(list);
   auto* word = new LabelWidget(mark, head);
   word->setFont(Bold(word->font()));
-  QPalette accent = word->palette();
-  accent.setColor(QPalette::WindowText, QColor(colours::kAccent));
-  word->setPalette(accent);
+  SetInk(*word, colours::kAccent);
   row->addWidget(title);
   row->addWidget(word);
   row->addStretch();

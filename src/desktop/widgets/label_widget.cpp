@@ -40,9 +40,7 @@ LabelledGroup::LabelledGroup(Label& label, QWidget* parent) : QGroupBox(parent) 
 
 QLabel* QuietText(const QString& text, QWidget* parent) {
   auto* label = new QLabel(text, parent);
-  QPalette palette = label->palette();
-  palette.setColor(QPalette::WindowText, QColor(colours::kQuietText));
-  label->setPalette(palette);
+  SetInk(*label, colours::kQuietText);
   return label;
 }
 

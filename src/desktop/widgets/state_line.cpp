@@ -11,9 +11,7 @@ namespace corvalis::desktop {
 StateLine::StateLine(Label& label, TextBox::Content content, QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  QPalette quiet = palette();
-  quiet.setColor(QPalette::WindowText, QColor(colours::kQuietText));
-  setPalette(quiet);
+  SetInk(*this, colours::kQuietText);
   Bind(*this, label, [this, &label, content] {
     whole_ = FromContent(label.Caption(), content);
     setAccessibleName(whole_);

@@ -410,6 +410,12 @@ void ApplyStyle(QApplication& application) {
   application.setEffectEnabled(Qt::UI_AnimateCombo, false);
 }
 
+void SetInk(QWidget& widget, QRgb ink) {
+  QPalette palette = widget.palette();
+  palette.setColor(QPalette::WindowText, QColor(ink));
+  widget.setPalette(palette);
+}
+
 QFont Bold(QFont base) {
   base.setWeight(QFont::DemiBold);
   return base;

@@ -84,6 +84,9 @@ void ApplyStyle(QApplication& application);
 /// For values that are read digit by digit, at a distance.
 [[nodiscard]] QFont DigitsFont();
 
+/// Writes a widget's text in a colour.
+void SetInk(QWidget& widget, QRgb ink);
+
 /// The frame and the ground of a field, as every box of the program has it.
 struct FieldLook {
   bool enabled = true;
