@@ -11,7 +11,6 @@
 #include "link/serial_management.h"
 #include "networks/eon_data.h"
 #include "networks/li_data.h"
-#include "platform/folders.h"
 #include "programme/af_a_data.h"
 #include "programme/af_b_data.h"
 #include "programme/psn_data.h"
@@ -308,19 +307,6 @@ TEST_F(MainFormTest, OnTheFirstStartTheLinkSaysThatItIsOneWayAndHowToChooseAnoth
   EXPECT_EQ(form->LinkLabel.Caption(), "Satellite, COM 1, 9600,N,8,2: no address sent" + hint);
   form->SaveButton.Press();
   EXPECT_EQ(form->LinkLabel.Caption(), "Satellite, COM 1, 9600,N,8,2: no address sent");
-}
-
-TEST_F(MainFormTest, SampleStationsThatWereInstalledAreAPlace) {
-  const std::string samples = folder + "/share/corvalis/examples";
-  setenv("XDG_DATA_DIRS", ("relative:" + folder + "/none:" + folder + "/share/").c_str(), 1);
-  const auto has = [&samples] {
-    const std::vector<std::string> places = ListPlaces();
-    return std::find(places.begin(), places.end(), samples) != places.end();
-  };
-  EXPECT_FALSE(has());
-  std::filesystem::create_directories(samples);
-  EXPECT_TRUE(has());
-  unsetenv("XDG_DATA_DIRS");
 }
 
 TEST_F(MainFormTest, FileOperationsRunOnADisabledMenu) {

@@ -158,34 +158,6 @@ TEST_F(EonScreenTest, ByHandAnAnnouncementNeedsTheProgrammeFlag) {
   EXPECT_EQ(eon.EonPsnText.Text(), "NINE CHA");
 }
 
-TEST_F(EonScreenTest, ButtonsOfAOneWayLink) {
-  OpenScreen(OneWay("[EON]\nMaxEonNum=12\nTa3=On\n"));
-  for (Button* read :
-       {&form->eon.ReadEonCommand, &form->eon.ReadEonAllCommand, &form->li.ReadLiCommand,
-        &form->ta_eon.ReadTaEonCommand, &form->ta_eon.ReadTaEonAllCommand}) {
-    EXPECT_FALSE(read->Visible()) << read->Name();
-  }
-  // Two live sends need no address. That is meant.
-  form->ta_eon.TaEonCheck[3].Press();  // on by the file, off here: pressed on
-  form->ta_eon.SendTaEonCommand.Press();
-  form->ta_eon.SendTaEonAllCommand.Press();
-  EXPECT_EQ(Written().size(), 11U);
-  ExpectAddressRule({&form->eon.SendEonCommand, &form->eon.SendEonAllCommand,
-                     &form->eon.SendEonBurstCommand, &form->li.SendLiCommand,
-                     &form->li.SendLiBurstCommand, &form->ta_eon.SendTaEonAllBurstCommand});
-  const std::tuple<Button*, std::size_t, int> cases[] = {
-      {&form->eon.SendEonCommand, 1, 0},        {&form->eon.SendEonAllCommand, 12, 12},
-      {&form->eon.SendEonBurstCommand, 36, 36}, {&form->li.SendLiCommand, 1, 0},
-      {&form->li.SendLiBurstCommand, 3, 3},     {&form->ta_eon.SendTaEonAllBurstCommand, 30, 30}};
-  for (const auto& [button, frames, pauses] : cases) {
-    SCOPED_TRACE(button->Name());
-    const double before = time.Elapsed();
-    button->Press();
-    EXPECT_EQ(Written().size(), frames);
-    EXPECT_NEAR(time.Elapsed() - before, 0.2 * pauses, 0.1);
-  }
-}
-
 TEST_F(EonScreenTest, AnAbortInAPauseTakesEffectWithTheNextFrame) {
   OpenScreen(OneWay());
   AddressSent = true;

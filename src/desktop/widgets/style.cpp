@@ -17,7 +17,6 @@ namespace {
 
 constexpr double kCorner = 4;
 constexpr double kRing = 2;
-constexpr double kDigitsScale = 1.5;  // of a code that is read digit by digit
 constexpr Length kArrowWidth{28};
 constexpr Length kSquare{18};  // of a check box
 constexpr int kFirstRepeatMs = 400;
@@ -112,34 +111,6 @@ void DrawSpinner(QPainter& painter, const QStyleOptionSpinBox& spinner, const QR
   if (spinner.frame && spinner.state.testFlag(QStyle::State_HasFocus)) {
     DrawFocusRing(painter, spinner.rect);
   }
-}
-
-QPalette LightPalette() {
-  QPalette palette;
-  const auto set = [&palette](QPalette::ColorRole role, QRgb colour) {
-    palette.setColor(role, QColor(colour));
-  };
-  set(QPalette::Window, colours::kWindow);
-  set(QPalette::WindowText, colours::kText);
-  set(QPalette::Base, colours::kField);
-  set(QPalette::AlternateBase, colours::kCard);
-  set(QPalette::Text, colours::kText);
-  set(QPalette::Button, colours::kField);
-  set(QPalette::ButtonText, colours::kText);
-  set(QPalette::Dark, colours::kBorder);
-  set(QPalette::Highlight, colours::kAccent);
-  set(QPalette::HighlightedText, colours::kField);
-  set(QPalette::ToolTipBase, colours::kText);
-  set(QPalette::ToolTipText, colours::kField);
-  set(QPalette::PlaceholderText, colours::kDisabledText);
-  set(QPalette::Link, colours::kAccent);
-  for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
-    palette.setColor(QPalette::Disabled, role, QColor(colours::kDisabledText));
-  }
-  palette.setColor(QPalette::Disabled, QPalette::Highlight, QColor(colours::kFaintBorder));
-  palette.setColor(QPalette::Disabled, QPalette::HighlightedText, QColor(colours::kDisabledText));
-  palette.setColor(QPalette::Disabled, QPalette::Base, QColor(colours::kWindow));
-  return palette;
 }
 
 }  // namespace
@@ -398,33 +369,6 @@ int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* 
     default:
       return QProxyStyle::styleHint(hint, option, widget, data);
   }
-}
-
-void ApplyStyle(QApplication& application) {
-  QApplication::setStyle(new Style);
-  QApplication::setPalette(LightPalette());
-  QToolTip::setPalette(LightPalette());
-  QFont font = QApplication::font();
-  if (QFontDatabase::hasFamily(QStringLiteral("Inter"))) font.setFamily(QStringLiteral("Inter"));
-  QApplication::setFont(font);
-  application.setEffectEnabled(Qt::UI_AnimateCombo, false);
-}
-
-void SetInk(QWidget& widget, QRgb ink) {
-  QPalette palette = widget.palette();
-  palette.setColor(QPalette::WindowText, QColor(ink));
-  widget.setPalette(palette);
-}
-
-QFont Bold(QFont base) {
-  base.setWeight(QFont::DemiBold);
-  return base;
-}
-
-QFont DigitsFont() {
-  QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-  font.setPointSizeF(kDigitsScale * QFontInfo(QApplication::font()).pointSizeF());
-  return font;
 }
 
 }  // namespace corvalis::desktop
