@@ -6,45 +6,45 @@
 #include <algorithm>
 #include <array>
 
-#include "programme/af_b_codes.h"
-#include "programme/af_codes.h"
+#include "air/af_b_codes.h"
+#include "air/af_codes.h"
 
 namespace corvalis {
 namespace {
 
 // Every kind of entry in a bad order, as many as there is room for.
-AfFrequencies FullList() {
-  AfFrequencies list{};
+air::AfFrequencies FullList() {
+  air::AfFrequencies list{};
   constexpr std::array kSome = {153.F, 0.F, 87.525F, 531.F, 107.975F, 99.05F};
   std::copy(kSome.begin(), kSome.end(), list.begin());
-  for (std::size_t i = kSome.size(); i < kAfEntries - 5; ++i) {
+  for (std::size_t i = kSome.size(); i < air::kAfEntries - 5; ++i) {
     list.at(i) = 88.F + static_cast<float>(i);
   }
   return list;
 }
 
 void ArrangeAndCodeMethodA(benchmark::State& state) {
-  const AfFrequencies full = FullList();
+  const air::AfFrequencies full = FullList();
   for (auto run : state) {
-    AfFrequencies list = full;
-    ArrangeAfList(list);
-    benchmark::DoNotOptimize(AfACodes(list));
+    air::AfFrequencies list = full;
+    air::ArrangeAfList(list);
+    benchmark::DoNotOptimize(air::AfACodes(list));
   }
 }
 BENCHMARK(ArrangeAndCodeMethodA)->Unit(benchmark::kMicrosecond);
 
 void ReadMethodA(benchmark::State& state) {
-  const AfCodes codes = AfACodes(FullList());
-  for (auto run : state) benchmark::DoNotOptimize(AfAFrequencies(codes));
+  const air::AfCodes codes = air::AfACodes(FullList());
+  for (auto run : state) benchmark::DoNotOptimize(air::AfAFrequencies(codes));
 }
 BENCHMARK(ReadMethodA)->Unit(benchmark::kMicrosecond);
 
 void CodeMethodB(benchmark::State& state) {
-  AfBFrequencies list{.main = 100};
-  for (std::size_t i = 0; i < AfBFrequencies::kShown; ++i) {
+  air::AfBFrequencies list{.main = 100};
+  for (std::size_t i = 0; i < air::AfBFrequencies::kShown; ++i) {
     list.others.at(i) = 94.F + static_cast<float>(i);
   }
-  for (auto run : state) benchmark::DoNotOptimize(AfBCodes(list));
+  for (auto run : state) benchmark::DoNotOptimize(air::AfBCodes(list));
 }
 BENCHMARK(CodeMethodB)->Unit(benchmark::kMicrosecond);
 

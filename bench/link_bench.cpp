@@ -20,10 +20,10 @@
 #include <vector>
 
 #include "config/config_data.h"
-#include "desktop/machine/qt_dialogs.h"
-#include "desktop/machine/qt_serial_port.h"
-#include "desktop/machine/qt_time.h"
+#include "desktop/qt_dialogs.h"
 #include "link/serial_management.h"
+#include "machine/qt_serial_port.h"
+#include "machine/qt_time.h"
 #include "platform/platform.h"
 
 namespace corvalis {
@@ -123,10 +123,10 @@ class LinkBench {
   LinkBench& operator=(const LinkBench&) = delete;
 
  private:
-  desktop::QtTime time_;
+  machine::QtTime time_;
   desktop::QtDialogs dialogs_;
   ProfileStore profiles_;
-  desktop::QtSerialPort port_;
+  machine::QtSerialPort port_;
   Platform machine_;
 };
 
@@ -187,7 +187,7 @@ void AckToNextFramePlain(benchmark::State& state) {
 BENCHMARK(AckToNextFramePlain)->Iterations(3)->Unit(benchmark::kMillisecond);
 
 void RunPendingWithNothingPending(benchmark::State& state) {
-  desktop::QtTime time;
+  machine::QtTime time;
   for (auto _ : state) time.RunPending();
 }
 BENCHMARK(RunPendingWithNothingPending);

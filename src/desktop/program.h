@@ -3,11 +3,11 @@
 #include <memory>
 
 #include "app/main_form.h"
-#include "desktop/machine/qt_dialogs.h"
-#include "desktop/machine/qt_serial_port.h"
-#include "desktop/machine/qt_time.h"
+#include "desktop/qt_dialogs.h"
 #include "desktop/views/guide.h"
 #include "desktop/widgets/screen_host.h"
+#include "machine/qt_serial_port.h"
+#include "machine/qt_time.h"
 #include "platform/platform.h"
 
 namespace corvalis::desktop {
@@ -25,9 +25,9 @@ class Program {
   [[nodiscard]] MainForm& Menu() const { return *menu_; }
 
  private:
-  QtTime time_;
+  machine::QtTime time_;
   QtDialogs dialogs_;
-  QtSerialPort port_;
+  machine::QtSerialPort port_;
   ProfileStore profiles_;
   Platform platform_;
   QtScreenHost host_;

@@ -198,13 +198,13 @@ void ReadPin(std::int16_t index, std::int16_t& day, std::chrono::minutes& time, 
   });
 }
 
-void SendAf(std::uint8_t list, const AfCodes& codes) {
+void SendAf(std::uint8_t list, const air::AfCodes& codes) {
   SendItem(CommandCode::kAf, list, "AF", [&](BodyWriter& body) {
     for (const std::uint8_t code : codes) body.Hex(code, 2);
   });
 }
 
-void ReadAf(std::uint8_t list, AfCodes& codes) {
+void ReadAf(std::uint8_t list, air::AfCodes& codes) {
   ReadItem(CommandCode::kAf, list, "AF", [&](BodyReader& body) {
     for (std::uint8_t& code : codes) code = Narrow<std::uint8_t>(body.Hex(2)).value_or(code);
   });

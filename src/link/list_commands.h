@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "air/af_codes.h"
+
 namespace corvalis {
 
 /// The commands of the Coder that carry an item of a list or a longer text, and those that ask how
@@ -18,7 +20,6 @@ namespace corvalis {
 inline constexpr int kPsnCharacters = 8;
 inline constexpr int kRtCharacters = 64;
 inline constexpr int kPtynCharacters = 8;
-inline constexpr int kAfCodes = 26;
 inline constexpr int kPlanFields = 14;
 inline constexpr int kEonPayload = 45;
 inline constexpr int kTmcSystemPayload = 8;
@@ -61,9 +62,8 @@ void ReadPin(std::int16_t index, std::int16_t& day, std::chrono::minutes& time, 
              bool& issued);
 
 /// A list of alternative frequencies in the Coder's code bytes.
-using AfCodes = std::array<std::uint8_t, kAfCodes>;
-void SendAf(std::uint8_t list, const AfCodes& codes);
-void ReadAf(std::uint8_t list, AfCodes& codes);
+void SendAf(std::uint8_t list, const air::AfCodes& codes);
+void ReadAf(std::uint8_t list, air::AfCodes& codes);
 
 /// A list of another network, and its announcement switch.
 void SendEon(std::uint8_t list, std::string_view payload);

@@ -5,6 +5,7 @@
 #include <optional>
 #include <utility>
 
+#include "air/af_codes.h"
 #include "config/config_data.h"
 #include "config/conversions.h"
 #include "config/ini_management.h"
@@ -12,7 +13,6 @@
 #include "link/body.h"
 #include "link/list_commands.h"
 #include "link/serial_management.h"
-#include "programme/af_codes.h"
 
 namespace corvalis {
 
@@ -27,17 +27,21 @@ constexpr std::int32_t kUnknownPi = 0x5158;
 constexpr std::int32_t kSixteenBits = 0xFFFF;
 constexpr int kPsn = kPsnCharacters;
 
-std::uint8_t FmCode(float value) { return value == kNoFreq ? kAfFiller : AfFreqCode(value); }
+std::uint8_t FmCode(float value) {
+  return value == air::kNoFreq ? air::kAfFiller : air::AfFreqCode(value);
+}
 
 std::uint8_t AmCode(float value) {
   const float khz = std::round(value);
-  return IsLf(khz) || IsMf(khz) ? AmFreqCode(khz) : 0;
+  return air::IsLf(khz) || air::IsMf(khz) ? air::AmFreqCode(khz) : 0;
 }
 
-float FmFreq(std::uint8_t code) { return code == kAfFiller ? kNoFreq : AfCodeFreq(code); }
+float FmFreq(std::uint8_t code) {
+  return code == air::kAfFiller ? air::kNoFreq : air::AfCodeFreq(code);
+}
 
 float AmFreq(std::uint8_t code) {
-  return code == 0 || code > kLastAmCode ? kNoFreq : AmCodeFreq(code);
+  return code == 0 || code > air::kLastAmCode ? air::kNoFreq : air::AmCodeFreq(code);
 }
 
 // What is no code leaves the frequency.

@@ -6,13 +6,12 @@
 #include <utility>
 #include <vector>
 
+#include "air/af_b_codes.h"
 #include "config/conversions.h"
 #include "config/language_data.h"
 #include "config/programme_types.h"
 #include "link/list_commands.h"
 #include "networks/network_boxes.h"
-#include "programme/af_a_data.h"
-#include "programme/af_b_data.h"
 
 namespace corvalis {
 
@@ -26,19 +25,19 @@ std::int16_t Current() { return eonData->CurrentList(); }
 
 // The upper ends of the two methods differ. That is meant.
 std::optional<float> MethodA(float value) {
-  const bool fm = value >= AfAData::GetMinFreq() && value <= AfAData::GetMaxFreq();
+  const bool fm = value >= air::kMinFreq && value <= air::kMaxFreq;
   return fm ? std::optional(value) : std::nullopt;
 }
 
 std::optional<float> MethodB(float value) {
-  const bool fm = value >= AfBData::GetMinFreq() && value <= AfBData::GetMaxFreq();
+  const bool fm = value >= air::kMinFreq && value <= air::kMaxFreqB;
   return fm ? std::optional(value) : std::nullopt;
 }
 
 std::optional<float> LfOrMf(float value) {
-  const bool lf = value >= AfAData::GetMinLFFreq() && value <= AfAData::GetMaxLFFreq();
-  const bool mf = value >= AfAData::GetMinMFFreq() && value <= AfAData::GetMaxMFFreq();
-  return lf || mf ? std::optional(OnAfRaster(value)) : std::nullopt;
+  const bool lf = value >= air::kMinLfFreq && value <= air::kMaxLfFreq;
+  const bool mf = value >= air::kMinMfFreq && value <= air::kMaxMfFreq;
+  return lf || mf ? std::optional(air::OnAfRaster(value)) : std::nullopt;
 }
 
 int DecimalsOfB(int index) { return index == kEonAm ? 0 : 1; }

@@ -5,6 +5,7 @@
 #include "config/config_data.h"
 #include "config/ini_management.h"
 #include "config/joined_values.h"
+#include "link/list_commands.h"
 #include "link/serial_management.h"
 #include "link/transfer.h"
 
@@ -24,13 +25,13 @@ constexpr float kClearPause = 0.2F;
 AfAData::AfAData() { GetIni(); }
 
 void AfAData::GetOneRds() {
-  AfCodes codes{};
+  air::AfCodes codes{};
   ReadAf(kList, codes);
-  freq_ = AfAFrequencies(codes);
+  freq_ = air::AfAFrequencies(codes);
 }
 
 void AfAData::SetOneRds() {
-  SendAf(kList, AfACodes(freq_));
+  SendAf(kList, air::AfACodes(freq_));
   if (LinkError != kLinkOk || !LinkOpen || other_lists_cleared_) return;
   ClearAfLists();
   other_lists_cleared_ = LinkError == kLinkOk;
@@ -38,8 +39,8 @@ void AfAData::SetOneRds() {
 
 // Every list but that of method A. A one-way link can't tell how many there are.
 void AfAData::ClearAfLists() {
-  AfCodes empty;
-  empty.fill(kAfFiller);
+  air::AfCodes empty;
+  empty.fill(air::kAfFiller);
   LinkError = kLinkOk;
   std::int16_t lists = kMostLists;
   if (!configData->Satellite()) {
@@ -61,9 +62,9 @@ void AfAData::GetIni() {
 void AfAData::SetIni() const {
   JoinedWriter fields;
   for (const float value : freq_) {
-    if (IsLf(value) || IsMf(value)) {
+    if (air::IsLf(value) || air::IsMf(value)) {
       fields.Real(value, 3, 0);
-    } else if (IsFm(value)) {
+    } else if (air::IsFm(value)) {
       fields.Real(value, 3, 3);
     } else {
       fields.Add("000.000");

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "programme/af_codes.h"
+#include "air/af_codes.h"
 
 namespace corvalis {
 
@@ -36,24 +36,24 @@ class AfAData {
   void GetIni();
   void SetIni() const;
 
-  [[nodiscard]] static constexpr std::int16_t GetMaxAfNum() { return kAfEntries; }
-  [[nodiscard]] static constexpr float GetMinFreq() { return kMinFreq; }
-  [[nodiscard]] static constexpr float GetMaxFreq() { return kMaxFreq; }
-  [[nodiscard]] static constexpr float GetMinLFFreq() { return kMinLfFreq; }
-  [[nodiscard]] static constexpr float GetMaxLFFreq() { return kMaxLfFreq; }
-  [[nodiscard]] static constexpr float GetMinMFFreq() { return kMinMfFreq; }
-  [[nodiscard]] static constexpr float GetMaxMFFreq() { return kMaxMfFreq; }
-  [[nodiscard]] static constexpr float GetNoFreq() { return kNoFreq; }
+  [[nodiscard]] static constexpr std::int16_t GetMaxAfNum() { return air::kAfEntries; }
+  [[nodiscard]] static constexpr float GetMinFreq() { return air::kMinFreq; }
+  [[nodiscard]] static constexpr float GetMaxFreq() { return air::kMaxFreq; }
+  [[nodiscard]] static constexpr float GetMinLFFreq() { return air::kMinLfFreq; }
+  [[nodiscard]] static constexpr float GetMaxLFFreq() { return air::kMaxLfFreq; }
+  [[nodiscard]] static constexpr float GetMinMFFreq() { return air::kMinMfFreq; }
+  [[nodiscard]] static constexpr float GetMaxMFFreq() { return air::kMaxMfFreq; }
+  [[nodiscard]] static constexpr float GetNoFreq() { return air::kNoFreq; }
 
   /// How many entries take two bytes.
-  [[nodiscard]] int AfByteCount() const { return corvalis::AfByteCount(freq_); }
+  [[nodiscard]] int AfByteCount() const { return air::AfByteCount(freq_); }
   /// Puts the entries in the order for sending.
-  void ArrangeAfList() { corvalis::ArrangeAfList(freq_); }
+  void ArrangeAfList() { air::ArrangeAfList(freq_); }
 
  private:
   static void ClearAfLists();
 
-  AfFrequencies freq_{};
+  air::AfFrequencies freq_{};
   bool other_lists_cleared_ = false;
 };
 

@@ -8,6 +8,7 @@
 #include "config/language_data.h"
 #include "link/utility.h"
 #include "programme/af_a_data.h"
+#include "programme/af_text.h"
 
 namespace corvalis {
 
@@ -18,14 +19,14 @@ constexpr int kBoxCharacters = 7;
 std::int16_t Index(int box) { return static_cast<std::int16_t>(box); }
 
 std::string BoxText(float value) {
-  const bool fm = IsFm(value) || value == kNoFreq;
+  const bool fm = air::IsFm(value) || value == air::kNoFreq;
   return FixedPoint(value, 3, fm ? 3 : 0);
 }
 
 // Boxes that there is room for: each entry of two bytes costs one at the end of the list.
-int AvailableBoxes() { return kAfEntries - afAData->AfByteCount(); }
+int AvailableBoxes() { return air::kAfEntries - afAData->AfByteCount(); }
 
-std::array<std::string, kAfEntries> Tips(const LanguageData& texts) {
+std::array<std::string, air::kAfEntries> Tips(const LanguageData& texts) {
   return {texts.AFAAlternativeFreq00Tip(), texts.AFAAlternativeFreq01Tip(),
           texts.AFAAlternativeFreq02Tip(), texts.AFAAlternativeFreq03Tip(),
           texts.AFAAlternativeFreq04Tip(), texts.AFAAlternativeFreq05Tip(),
@@ -55,7 +56,7 @@ AfATab::AfATab(Window& window)
                          .send = [](int /*list*/) { afAData->SetOneRds(); },
                          .prepare = [] { afAData->ArrangeAfList(); },
                          .refresh = [this] { ShowBoxes(); }})}) {
-  for (int i = 0; i < kAfEntries; ++i) {
+  for (int i = 0; i < air::kAfEntries; ++i) {
     TextBox& box = Text39[i];
     box.KeyPress = [&box](int& key) {
       FrequencyKeyFilter(box.Text(), key, kBoxCharacters, box.SelLength(), box.SelStart(), true);
@@ -73,13 +74,13 @@ void AfATab::LeaveBox(int box) {
   Text39[box].SetText(text);
   const auto typed = AfTextValue(text);
   if (!typed) return Refuse(box);
-  const float value = OnAfRaster(*typed);
+  const float value = air::OnAfRaster(*typed);
   // The pair would have no room at the end of the list.
-  if (FreqHasOffset(value) && box >= AvailableBoxes() - 1) return Refuse(box);
+  if (air::FreqHasOffset(value) && box >= AvailableBoxes() - 1) return Refuse(box);
   afAData->SetFreq(Index(box), value);
   // A pair among those that go makes room again, but only for the next entry.
   const int available = AvailableBoxes();
-  for (int i = available; i < kAfEntries; ++i) afAData->SetFreq(Index(i), kNoFreq);
+  for (int i = available; i < air::kAfEntries; ++i) afAData->SetFreq(Index(i), air::kNoFreq);
   ShowBoxes();
   ShowAvailability(available);
 }
@@ -93,7 +94,7 @@ void AfATab::Refuse(int box) {
 }
 
 bool AfATab::MayClose() {
-  for (int i = 0; i < kAfEntries; ++i) {
+  for (int i = 0; i < air::kAfEntries; ++i) {
     TextBox& box = Text39[i];
     // The focus has been asked to go: this box has just refused what it holds.
     if (box.HasFocus()) return false;
@@ -110,22 +111,23 @@ bool AfATab::MayClose() {
 void AfATab::ShowAfBox(int box) { Text39[box].SetText(BoxText(afAData->Freq(Index(box)))); }
 
 void AfATab::ShowBoxes() {
-  for (int i = 0; i < kAfEntries; ++i) ShowAfBox(i);
+  for (int i = 0; i < air::kAfEntries; ++i) ShowAfBox(i);
   ShowBand();
 }
 
 void AfATab::ShowAvailability(int available) {
-  for (int i = 0; i < kAfEntries; ++i) Text39[i].SetEnabled(i < available);
+  for (int i = 0; i < air::kAfEntries; ++i) Text39[i].SetEnabled(i < available);
 }
 
 void AfATab::ShowBand() {
   std::vector<BandMark> marks;
   std::vector<std::string> beside;
-  for (int i = 0; i < kAfEntries; ++i) {
+  for (int i = 0; i < air::kAfEntries; ++i) {
     const float value = afAData->Freq(Index(i));
-    if (IsFm(value)) {
-      marks.push_back({.mhz = value, .text = FixedPoint(value, 1, FreqHasOffset(value) ? 3 : 1)});
-    } else if (IsLf(value) || IsMf(value)) {
+    if (air::IsFm(value)) {
+      marks.push_back(
+          {.mhz = value, .text = FixedPoint(value, 1, air::FreqHasOffset(value) ? 3 : 1)});
+    } else if (air::IsLf(value) || air::IsMf(value)) {
       beside.push_back(FixedPoint(value, 1, 0) + " kHz");
     }
   }
@@ -137,7 +139,7 @@ void AfATab::InitCaptions() {
   const LanguageData& texts = *languageData;
   AlternativeFreqLabel.SetCaption(texts.AFAAlternativeFreqKey());
   const auto tips = Tips(texts);
-  for (int i = 0; i < kAfEntries; ++i) {
+  for (int i = 0; i < air::kAfEntries; ++i) {
     Text39[i].SetToolTip(tips.at(static_cast<std::size_t>(i)));
   }
   Command13.SetTexts(texts.AFAReadKey(), texts.AFAReadTip());

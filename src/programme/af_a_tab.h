@@ -3,8 +3,8 @@
 #include <functional>
 #include <string>
 
+#include "air/af_codes.h"
 #include "link/list_buttons.h"
-#include "programme/af_codes.h"
 #include "screen/band_strip.h"
 #include "screen/button.h"
 #include "screen/control.h"
@@ -34,7 +34,7 @@ class AfATab {
 
  public:
   Label AlternativeFreqLabel{window_, "AlternativeFreqLabel"};
-  ControlArray<TextBox, kAfEntries> Text39{window_, "Text39"};
+  ControlArray<TextBox, air::kAfEntries> Text39{window_, "Text39"};
   BandStrip AfABandStrip{window_, "AfABandStrip"};
   Button Command13{window_, "Command13"};  ///< read
   Button Command11{window_, "Command11"};  ///< send

@@ -3,6 +3,7 @@
 #include "config/conversions.h"
 #include "config/ini_management.h"
 #include "config/joined_values.h"
+#include "link/list_commands.h"
 
 namespace corvalis {
 
@@ -24,13 +25,13 @@ AfBData::AfBData()
 
 void AfBData::GetOneRds(std::int16_t list) {
   List& target = At(list);
-  AfCodes codes{};
+  air::AfCodes codes{};
   ReadAf(static_cast<std::uint8_t>(list), codes);
-  target.freq = AfBFrequenciesOf(codes);
+  target.freq = air::AfBFrequenciesOf(codes);
 }
 
 void AfBData::SetOneRds(std::int16_t list) const {
-  SendAf(static_cast<std::uint8_t>(list), AfBCodes(At(list).freq));
+  SendAf(static_cast<std::uint8_t>(list), air::AfBCodes(At(list).freq));
 }
 
 void AfBData::GetIni() {
@@ -55,7 +56,8 @@ void AfBData::SetIni() const {
   for (std::int16_t list = 0; list < MaxAfBListNum(); ++list) {
     JoinedWriter fields;
     fields.Real(MainFreq(list), 3, 1);
-    for (std::int16_t i = 0; i < AfBFrequencies::kShown; ++i) fields.Real(ListFreq(list, i), 3, 1);
+    for (std::int16_t i = 0; i < air::AfBFrequencies::kShown; ++i)
+      fields.Real(ListFreq(list, i), 3, 1);
     WriteIniKey(kSection, Key(list), fields.Text(Descr(list)).Separated());
   }
 }

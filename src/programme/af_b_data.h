@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "air/af_b_codes.h"
 #include "link/list_size.h"
-#include "programme/af_b_codes.h"
 
 namespace corvalis {
 
@@ -45,14 +45,16 @@ class AfBData {
   void SetIni() const;
 
   /// The main frequency and the alternatives of the screen.
-  [[nodiscard]] static constexpr std::int16_t GetMaxAfNum() { return AfBFrequencies::kShown + 1; }
-  [[nodiscard]] static constexpr float GetMinFreq() { return 87.5F; }
-  [[nodiscard]] static constexpr float GetMaxFreq() { return 107.9F; }
-  [[nodiscard]] static constexpr float GetNoFreq() { return 0; }
+  [[nodiscard]] static constexpr std::int16_t GetMaxAfNum() {
+    return air::AfBFrequencies::kShown + 1;
+  }
+  [[nodiscard]] static constexpr float GetMinFreq() { return air::kMinFreq; }
+  [[nodiscard]] static constexpr float GetMaxFreq() { return air::kMaxFreqB; }
+  [[nodiscard]] static constexpr float GetNoFreq() { return air::kNoFreq; }
 
  private:
   struct List {
-    AfBFrequencies freq;
+    air::AfBFrequencies freq;
     std::string descr;
   };
   [[nodiscard]] const List& At(std::int16_t list) const {

@@ -10,7 +10,7 @@
 #include <functional>
 #include <memory>
 
-#include "desktop/machine/qt_dialogs.h"
+#include "desktop/qt_dialogs.h"
 
 namespace corvalis::desktop {
 namespace {

@@ -18,9 +18,9 @@
 #include <stdexcept>
 #include <tuple>
 
-#include "desktop/machine/port_names.h"
-#include "desktop/machine/qt_serial_port.h"
 #include "desktop/own_line.h"
+#include "machine/port_names.h"
+#include "machine/qt_serial_port.h"
 #include "platform/platform.h"
 
 namespace corvalis::test {
@@ -28,7 +28,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-using desktop::QtSerialPort;
+using machine::QtSerialPort;
 
 // An administrator may open everything, so the tests of what may not be opened are somebody else.
 class AsNobody {
@@ -86,7 +86,7 @@ class PortTest : public testing::Test {
 TEST_F(PortTest, NamesTheDeviceOfEachPort) {
   const std::string devices = folder + "/dev";
   fs::create_directory(devices);
-  const auto device = [&](int number) { return desktop::DeviceOfPort(number, folder, devices); };
+  const auto device = [&](int number) { return machine::DeviceOfPort(number, folder, devices); };
   EXPECT_EQ(device(4), devices + "/ttyS3");
   std::ofstream(devices + "/ttyUSB3").flush();
   EXPECT_EQ(device(4), devices + "/ttyUSB3");

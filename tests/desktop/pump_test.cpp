@@ -7,7 +7,7 @@
 #include <chrono>
 #include <limits>
 
-#include "desktop/machine/qt_time.h"
+#include "machine/qt_time.h"
 
 namespace corvalis::desktop {
 namespace {
@@ -15,7 +15,7 @@ namespace {
 constexpr double kNever = std::numeric_limits<double>::infinity();
 
 TEST(PumpTest, TheClockShowsLocalTime) {
-  const QtTime time;
+  const machine::QtTime time;
   const DateTime now = time.Now();
   const std::chrono::duration<double> since_midnight =
       now - std::chrono::floor<std::chrono::days>(now);
@@ -25,7 +25,7 @@ TEST(PumpTest, TheClockShowsLocalTime) {
 }
 
 TEST(PumpTest, AnEventEndsAWait) {
-  QtTime time;
+  machine::QtTime time;
   time.RunPending();
   for (const double deadline : {time.Steady() + 60, kNever}) {
     bool ran = false;
@@ -36,7 +36,7 @@ TEST(PumpTest, AnEventEndsAWait) {
 }
 
 TEST(PumpTest, AWaitEndsPastItsDeadlineAndNotBefore) {
-  QtTime time;
+  machine::QtTime time;
   const double deadline = time.Steady() + 0.005;
   int rounds = 0;
   while (time.Steady() <= deadline) {

@@ -20,7 +20,7 @@ struct Values {
   std::string text = {};
   std::int16_t number = 0;
   PlanFields plan = {};
-  AfCodes codes = {};
+  air::AfCodes codes = {};
   std::int16_t day = 0;
   minutes time = 0min;
   std::int32_t type = 0;
@@ -35,8 +35,8 @@ Bytes WholeFrame(int code, int index, const std::string& body) {
   return Sealed(frame);
 }
 
-AfCodes Codes(std::uint8_t first, std::uint8_t others, std::uint8_t last) {
-  AfCodes codes;
+air::AfCodes Codes(std::uint8_t first, std::uint8_t others, std::uint8_t last) {
+  air::AfCodes codes;
   codes.fill(others);
   codes.front() = first;
   codes.back() = last;

@@ -188,7 +188,7 @@ TEST_F(AfTabsTest, TheFileKeepsTheLists) {
   std::string stored = "087.600;107.975;161;1602;";
   for (const char* rest : {"000.000;", "000.000;", "000.000;", "000.000;", "100.100;"})
     stored += rest;
-  for (int i = 9; i < kAfEntries; ++i) stored += "000.000;";
+  for (int i = 9; i < air::kAfEntries; ++i) stored += "000.000;";
   EXPECT_EQ(ReadIniKey("AF Method A", "FreqList"), stored);
   // What can't be converted leaves its entry; a missing key empties the list.
   WriteIniKey("AF Method A", "FreqList", "x;99.9;");

@@ -19,7 +19,7 @@ AfAPage::AfAPage(AfATab& tab, QWidget* parent) : QWidget(parent) {
   auto* grid = new QGridLayout(group);
   grid->setHorizontalSpacing(kNear);
   grid->setVerticalSpacing(kNear);
-  for (int i = 0; i < kAfEntries; ++i) {
+  for (int i = 0; i < air::kAfEntries; ++i) {
     AddNumbered(*grid, i + 1, kInLine, QStringLiteral("Frequency"),
                 FixedBox(tab.Text39[i], kCharacters, group));
   }

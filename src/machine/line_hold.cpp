@@ -1,4 +1,4 @@
-#include "desktop/machine/line_hold.h"
+#include "machine/line_hold.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -9,7 +9,7 @@
 
 #include <cerrno>
 
-namespace corvalis::desktop {
+namespace corvalis::machine {
 
 namespace {
 
@@ -63,4 +63,4 @@ bool LineHold::Alive() const {
          (line.revents & (POLLERR | POLLHUP | POLLNVAL)) == 0;
 }
 
-}  // namespace corvalis::desktop
+}  // namespace corvalis::machine

@@ -5,7 +5,7 @@
 #include "platform/clock.h"
 #include "platform/pump.h"
 
-namespace corvalis::desktop {
+namespace corvalis::machine {
 
 /// The computer's clock, and Qt's event loop as the pump.
 class QtTime : public Clock, public Pump {
@@ -20,4 +20,4 @@ class QtTime : public Clock, public Pump {
 /// Sleeps until something came and was run, or `time` is over.
 void RunEventsFor(std::chrono::milliseconds time);
 
-}  // namespace corvalis::desktop
+}  // namespace corvalis::machine

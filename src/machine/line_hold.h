@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace corvalis::desktop {
+namespace corvalis::machine {
 
 /// Keeps a serial line for this program, beside whoever reads and writes it. Two programs never
 /// hold the same line, whatever their user; and when the line is given back, the modem lines stay
@@ -28,4 +28,4 @@ class LineHold {
   int descriptor_ = -1;
 };
 
-}  // namespace corvalis::desktop
+}  // namespace corvalis::machine

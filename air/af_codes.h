@@ -1,16 +1,17 @@
 #pragma once
 
 #include <array>
-#include <optional>
-#include <string_view>
+#include <cstdint>
 
-#include "link/list_commands.h"
-
-namespace corvalis {
+namespace corvalis::air {
 
 /// The arithmetic of an AF list of method A: from frequencies to the Coder's 26 code bytes and
 /// back. All frequencies are 32-bit floats, FM in MHz, LF and MF in kHz, and 0 for none; what is
 /// computed from them is computed in 64 bits and narrowed once.
+
+/// The bytes of a list as a Coder holds it: the count, and 25 codes.
+inline constexpr int kAfCodes = 26;
+using AfCodes = std::array<std::uint8_t, kAfCodes>;
 
 inline constexpr int kAfEntries = 25;
 using AfFrequencies = std::array<float, kAfEntries>;
@@ -32,8 +33,10 @@ inline constexpr float kMaxMfFreq = 1602;
 }
 
 // The code bytes that both methods share. 1 to 204 are FM frequencies, 87.5 MHz + 0.1 MHz each.
+inline constexpr std::uint8_t kLastFmCode = 204;
 inline constexpr std::uint8_t kAfFiller = 205;
-inline constexpr std::uint8_t kAfCount = 224;  ///< byte 0 of a list: this and a number
+inline constexpr std::uint8_t kAfCount = 224;     ///< byte 0 of a list: this and a number
+inline constexpr std::uint8_t kLfOrMfNext = 250;  ///< the next byte is a code of LF or MF
 /// What a code byte of an FM frequency stands for, whatever its value.
 [[nodiscard]] float AfCodeFreq(std::uint8_t code);
 /// The code byte of an FM frequency, rounded to 0.1 MHz.
@@ -50,13 +53,6 @@ inline constexpr std::uint8_t kLastAmCode = 135;
 /// How many of the entries take two bytes.
 [[nodiscard]] int AfByteCount(const AfFrequencies& list);
 
-/// The frequency that an operator's text stands for: FM in steps of 25 kHz, LF, MF or 0, with a "."
-/// for the point; nullopt for anything else. Decimals beyond the third are dropped.
-[[nodiscard]] std::optional<float> AfTextValue(std::string_view text);
-[[nodiscard]] inline bool CheckAfText(std::string_view text) {
-  return AfTextValue(text).has_value();
-}
-
 /// LF and MF brought down onto the 9 kHz raster; any other value as it is.
 [[nodiscard]] float OnAfRaster(float value);
 
@@ -71,4 +67,4 @@ void ArrangeAfList(AfFrequencies& list);
 /// The list that the bytes stand for; a filler is an empty entry. The count byte is not looked at.
 [[nodiscard]] AfFrequencies AfAFrequencies(const AfCodes& codes);
 
-}  // namespace corvalis
+}  // namespace corvalis::air

@@ -1,4 +1,4 @@
-#include "desktop/machine/qt_serial_port.h"
+#include "machine/qt_serial_port.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -8,12 +8,12 @@
 #include <string_view>
 #include <utility>
 
-#include "desktop/machine/port_names.h"
-#include "desktop/machine/qt_time.h"
-#include "desktop/text.h"
+#include "machine/port_names.h"
+#include "machine/qt_text.h"
+#include "machine/qt_time.h"
 #include "platform/platform.h"
 
-namespace corvalis::desktop {
+namespace corvalis::machine {
 
 namespace {
 
@@ -240,4 +240,4 @@ PortError QtSerialPort::DeviceError(int number, const QString& words) const {
                       "): " + ToBytes(words)};
 }
 
-}  // namespace corvalis::desktop
+}  // namespace corvalis::machine

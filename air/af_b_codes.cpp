@@ -1,11 +1,9 @@
-#include "programme/af_b_codes.h"
+#include "air/af_b_codes.h"
 
 #include <cmath>
 #include <cstddef>
 
-#include "programme/af_codes.h"
-
-namespace corvalis {
+namespace corvalis::air {
 
 namespace {
 
@@ -57,4 +55,4 @@ AfBFrequencies AfBFrequenciesOf(const AfCodes& codes) {
   return list;
 }
 
-}  // namespace corvalis
+}  // namespace corvalis::air

@@ -1,4 +1,4 @@
-#include "desktop/machine/qt_time.h"
+#include "machine/qt_time.h"
 
 #include <QCoreApplication>
 #include <QTimer>
@@ -6,7 +6,7 @@
 #include <cmath>
 #include <ctime>
 
-namespace corvalis::desktop {
+namespace corvalis::machine {
 
 namespace {
 
@@ -72,4 +72,4 @@ void RunEventsFor(milliseconds time) {
   QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
 }
 
-}  // namespace corvalis::desktop
+}  // namespace corvalis::machine

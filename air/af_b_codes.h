@@ -2,9 +2,12 @@
 
 #include <array>
 
-#include "link/list_commands.h"
+#include "air/af_codes.h"
 
-namespace corvalis {
+namespace corvalis::air {
+
+/// The last frequency of a list of method B, MHz; the first is `kMinFreq`.
+inline constexpr float kMaxFreqB = 107.9F;
 
 /// The frequencies of one transmitter, by method B: its own and those of its neighbours, in MHz, 0
 /// for none. Screens and the Coder know 12 neighbours; the last is what the file may bring beyond.
@@ -22,4 +25,4 @@ struct AfBFrequencies {
 /// The list that the bytes stand for. Pairs without the main frequency are skipped.
 [[nodiscard]] AfBFrequencies AfBFrequenciesOf(const AfCodes& codes);
 
-}  // namespace corvalis
+}  // namespace corvalis::air

@@ -1,7 +1,7 @@
 // The arithmetic of the AF lists, by tables and against a second implementation that does every
 // step one by one.
 
-#include "programme/af_codes.h"
+#include "air/af_codes.h"
 
 #include <gtest/gtest.h>
 
@@ -11,19 +11,20 @@
 #include <string>
 #include <vector>
 
-#include "programme/af_b_codes.h"
+#include "air/af_b_codes.h"
+#include "programme/af_text.h"
 
 namespace corvalis::test {
 namespace {
 
-AfFrequencies ListOf(const std::vector<float>& values) {
-  AfFrequencies list{};
+air::AfFrequencies ListOf(const std::vector<float>& values) {
+  air::AfFrequencies list{};
   std::copy(values.begin(), values.end(), list.begin());
   return list;
 }
 
 // The list without its empty entries, sorted.
-std::vector<float> Entries(AfFrequencies list) {
+std::vector<float> Entries(air::AfFrequencies list) {
   std::vector<float> entries;
   std::copy_if(list.begin(), list.end(), std::back_inserter(entries),
                [](float value) { return value != 0; });
@@ -32,7 +33,7 @@ std::vector<float> Entries(AfFrequencies list) {
 }
 
 // The bytes up to the fillers at the end.
-std::vector<int> Used(const AfCodes& codes) {
+std::vector<int> Used(const air::AfCodes& codes) {
   std::vector<int> used(codes.begin(), codes.end());
   while (used.back() == 205) used.pop_back();
   return used;
@@ -43,7 +44,7 @@ TEST(AfCodes, WhatAnEntryTakes) {
       {0, false},       {87.5F, false},  {87.6F, false}, {100.3F, false}, {107.9F, false},
       {107.975F, true}, {87.525F, true}, {99.95F, true}, {87.51F, true},  {153, true},
       {279, true},      {531, true},     {1602, true},   {152, false},    {280, false}};
-  for (const auto& [value, pair] : cases) EXPECT_EQ(FreqHasOffset(value), pair) << value;
+  for (const auto& [value, pair] : cases) EXPECT_EQ(air::FreqHasOffset(value), pair) << value;
 }
 
 TEST(AfCodes, TextsOfBoxes) {
@@ -79,7 +80,7 @@ TEST(AfCodes, TextsOfBoxes) {
   for (const auto& [text, value] : cases) EXPECT_EQ(AfTextValue(text), value) << text;
   const std::pair<float, float> rasters[] = {{160, 153},   {540, 540}, {535, 531},
                                              {1602, 1602}, {279, 279}, {87.625F, 87.625F}};
-  for (const auto& [typed, kept] : rasters) EXPECT_EQ(OnAfRaster(typed), kept) << typed;
+  for (const auto& [typed, kept] : rasters) EXPECT_EQ(air::OnAfRaster(typed), kept) << typed;
 }
 
 TEST(AfCodes, ListsOfMethodA) {
@@ -101,23 +102,23 @@ TEST(AfCodes, ListsOfMethodA) {
       {{531, 1602}, {226, 250, 16, 250, 135}},
       {{100, 87.59F, 101}, {226, 125, 135}},  // off the raster: left out without a trace
   };
-  for (const Case& c : cases) EXPECT_EQ(Used(AfACodes(ListOf(c.list))), c.codes);
+  for (const Case& c : cases) EXPECT_EQ(Used(air::AfACodes(ListOf(c.list))), c.codes);
 
   // At the last byte there is no room for two.
-  AfFrequencies full;
+  air::AfFrequencies full;
   full.fill(100);
   for (const float last : {153.F, 87.525F}) {
     full.back() = last;
-    const AfCodes codes = AfACodes(full);
+    const air::AfCodes codes = air::AfACodes(full);
     EXPECT_EQ(codes[0], last == 153 ? 224 + 24 : 224 + 25);
     EXPECT_EQ(codes[25], 205);
   }
 }
 
 TEST(AfCodes, ReadingListsOfMethodA) {
-  AfCodes codes{};
-  EXPECT_EQ(AfAFrequencies(codes), [] {
-    AfFrequencies all;
+  air::AfCodes codes{};
+  EXPECT_EQ(air::AfAFrequencies(codes), [] {
+    air::AfFrequencies all;
     all.fill(87.5F);
     return all;
   }());
@@ -125,7 +126,7 @@ TEST(AfCodes, ReadingListsOfMethodA) {
   const std::uint8_t some[] = {1, 205, 253, 1, 250, 15, 250, 16, 250, 0, 255, 204, 249};
   std::copy(std::begin(some), std::end(some), codes.begin() + 1);
   codes[25] = 250;  // its second byte is missing
-  EXPECT_EQ(AfAFrequencies(codes), ListOf({87.6F, 0, 87.625F, 279, 531, 387, 107.975F}));
+  EXPECT_EQ(air::AfAFrequencies(codes), ListOf({87.6F, 0, 87.625F, 279, 531, 387, 107.975F}));
 }
 
 // ---- The second implementation ----
@@ -141,7 +142,7 @@ bool Two(float f) {
   return Step(f) != f;
 }
 
-std::vector<int> SlowCodes(const AfFrequencies& freq) {
+std::vector<int> SlowCodes(const air::AfFrequencies& freq) {
   std::vector<int> byte{224};
   for (std::size_t i = 0; i < 25 && byte.size() <= 25;) {
     const auto put = [&](std::initializer_list<int> bytes, int counted) {
@@ -178,7 +179,7 @@ std::vector<int> SlowCodes(const AfFrequencies& freq) {
   return byte;
 }
 
-void SlowArrange(AfFrequencies& e) {
+void SlowArrange(air::AfFrequencies& e) {
   for (std::size_t i = 0; i <= 23; ++i) {
     for (std::size_t j = i + 1; j <= 24; ++j) {
       if (e[i] == 0 && e[j] != 0) std::swap(e[i], e[j]);
@@ -210,8 +211,8 @@ void SlowArrange(AfFrequencies& e) {
 
 class Lists {
  public:
-  AfFrequencies Next(bool good) {
-    AfFrequencies list{};
+  air::AfFrequencies Next(bool good) {
+    air::AfFrequencies list{};
     const int entries = From(0, 25);
     for (int i = 0; i < entries; ++i) list[static_cast<std::size_t>(i)] = Entry(good);
     return list;
@@ -245,16 +246,16 @@ class Lists {
 TEST(AfCodes, TenThousandListsAgainstTheSecondImplementation) {
   Lists lists;
   for (int i = 0; i < 10000; ++i) {
-    AfFrequencies list = lists.Next(i % 2 == 0);
-    const auto bytes = [](const AfCodes& codes) {
+    air::AfFrequencies list = lists.Next(i % 2 == 0);
+    const auto bytes = [](const air::AfCodes& codes) {
       return std::vector<int>(codes.begin(), codes.end());
     };
-    ASSERT_EQ(bytes(AfACodes(list)), SlowCodes(list)) << i;
-    AfFrequencies slow = list;
+    ASSERT_EQ(bytes(air::AfACodes(list)), SlowCodes(list)) << i;
+    air::AfFrequencies slow = list;
     SlowArrange(slow);
-    ArrangeAfList(list);
+    air::ArrangeAfList(list);
     ASSERT_EQ(list, slow) << i;
-    ASSERT_EQ(bytes(AfACodes(list)), SlowCodes(list)) << i;
+    ASSERT_EQ(bytes(air::AfACodes(list)), SlowCodes(list)) << i;
   }
 }
 
@@ -263,12 +264,12 @@ TEST(AfCodes, AnArrangedListThatFitsComesBackWhole) {
   Lists lists;
   int tried = 0;
   while (tried < 3000) {
-    AfFrequencies list = lists.Next(true);
+    air::AfFrequencies list = lists.Next(true);
     const std::vector<float> entries = Entries(list);
-    if (static_cast<int>(entries.size()) > kAfEntries - AfByteCount(list)) continue;
+    if (static_cast<int>(entries.size()) > air::kAfEntries - air::AfByteCount(list)) continue;
     ++tried;
-    ArrangeAfList(list);
-    const AfFrequencies back = AfAFrequencies(AfACodes(list));
+    air::ArrangeAfList(list);
+    const air::AfFrequencies back = air::AfAFrequencies(air::AfACodes(list));
     ASSERT_EQ(Entries(back), entries);
     const auto gap = std::adjacent_find(back.begin() + 1, back.end(),
                                         [](float a, float b) { return a == 0 && b != 0; });
@@ -295,25 +296,25 @@ TEST(AfCodes, ListsOfMethodB) {
       {100, {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 101}, {227, 125, 125, 135}},
   };
   for (const Case& c : cases) {
-    AfBFrequencies list{.main = c.main};
+    air::AfBFrequencies list{.main = c.main};
     std::copy(c.others.begin(), c.others.end(), list.others.begin());
-    EXPECT_EQ(Used(AfBCodes(list)), c.codes) << c.main;
+    EXPECT_EQ(Used(air::AfBCodes(list)), c.codes) << c.main;
   }
   // A failed read leaves zeros: 87.5 throughout, which goes out as a full list.
-  AfBFrequencies full = AfBFrequenciesOf({});
+  air::AfBFrequencies full = air::AfBFrequenciesOf({});
   EXPECT_EQ(full.main, 87.5F);
   EXPECT_EQ(full.others[11], 87.5F);
   EXPECT_EQ(full.others[12], 0);
   full.others[12] = 101;
-  EXPECT_EQ(AfBCodes(full)[0], 249);
-  EXPECT_EQ(AfBCodes(full)[25], 0);
+  EXPECT_EQ(air::AfBCodes(full)[0], 249);
+  EXPECT_EQ(air::AfBCodes(full)[25], 0);
 
-  AfCodes codes;
+  air::AfCodes codes;
   codes.fill(205);
-  EXPECT_EQ(AfBFrequenciesOf(codes).main, 0);
+  EXPECT_EQ(air::AfBFrequenciesOf(codes).main, 0);
   const std::uint8_t some[] = {229, 125, 115, 125, 7, 8, 125, 135, 205, 205, 125, 136};
   std::copy(std::begin(some), std::end(some), codes.begin());
-  const AfBFrequencies read = AfBFrequenciesOf(codes);
+  const air::AfBFrequencies read = air::AfBFrequenciesOf(codes);
   EXPECT_EQ(read.main, 100);
   EXPECT_EQ((std::vector<float>(read.others.begin(), read.others.begin() + 3)),
             (std::vector<float>{99, 101, 0}));

@@ -1,9 +1,9 @@
-#include "desktop/machine/port_names.h"
+#include "machine/port_names.h"
 
 #include <filesystem>
 #include <system_error>
 
-namespace corvalis::desktop {
+namespace corvalis::machine {
 
 namespace fs = std::filesystem;
 
@@ -24,4 +24,4 @@ std::string DeviceOfPort(int number, const std::string& settings_folder,
   return name.string();
 }
 
-}  // namespace corvalis::desktop
+}  // namespace corvalis::machine

@@ -1,20 +1,15 @@
-#include "programme/af_codes.h"
+#include "air/af_codes.h"
 
 #include <algorithm>
 #include <cmath>
-#include <string>
 #include <utility>
 
-#include "config/conversions.h"
-
-namespace corvalis {
+namespace corvalis::air {
 
 namespace {
 
 constexpr std::size_t kEntries = kAfEntries;
 constexpr std::size_t kLastByte = kAfCodes - 1;
-constexpr std::uint8_t kLastFmCode = 204;
-constexpr std::uint8_t kLfOrMfNext = 250;
 constexpr std::uint8_t kLastLfCode = 15;
 constexpr double kAmStep = 9;      // kHz
 constexpr double kBelowLf = 144;   // kHz, one step below code 1
@@ -73,24 +68,6 @@ bool FreqHasOffset(float value) { return IsLf(value) || IsMf(value) || StepOf(va
 
 int AfByteCount(const AfFrequencies& list) {
   return static_cast<int>(std::count_if(list.begin(), list.end(), FreqHasOffset));
-}
-
-std::optional<float> AfTextValue(std::string_view text) {
-  if (!ParseNumber(text)) return std::nullopt;
-  const std::size_t point = text.find('.');
-  if (point != std::string_view::npos && point > 0) {
-    text = text.substr(0, point + 4);
-    const std::string_view decimals = text.substr(point + 1);
-    const std::string_view behind = decimals.substr(std::min<std::size_t>(1, decimals.size()));
-    std::string steps(behind);
-    steps.resize(2, '0');
-    if (steps != "00" && steps != "25" && steps != "50" && steps != "75") return std::nullopt;
-  }
-  const auto value = ParseFloat(text);
-  if (!value || !(IsFm(*value) || *value == kNoFreq || IsLf(*value) || IsMf(*value))) {
-    return std::nullopt;
-  }
-  return value;
 }
 
 float OnAfRaster(float value) {
@@ -191,4 +168,4 @@ AfFrequencies AfAFrequencies(const AfCodes& codes) {
   return list;
 }
 
-}  // namespace corvalis
+}  // namespace corvalis::air

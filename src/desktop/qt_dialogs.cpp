@@ -1,4 +1,4 @@
-#include "desktop/machine/qt_dialogs.h"
+#include "desktop/qt_dialogs.h"
 
 #include <QApplication>
 #include <QMessageBox>

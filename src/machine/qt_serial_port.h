@@ -3,10 +3,10 @@
 #include <QSerialPort>
 #include <string>
 
-#include "desktop/machine/line_hold.h"
+#include "machine/line_hold.h"
 #include "platform/serial_port.h"
 
-namespace corvalis::desktop {
+namespace corvalis::machine {
 
 /// The serial port of the computer. "COM n" is the device that `DeviceOfPort` names; it is looked
 /// up at each opening.
@@ -57,4 +57,4 @@ class QtSerialPort : public SerialPort {
   int comm_event_ = 0;
 };
 
-}  // namespace corvalis::desktop
+}  // namespace corvalis::machine

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace corvalis::desktop {
+namespace corvalis::machine {
 
 /// The device that "COM `number`" (1 to 4) stands for: what the link `com<number>` in
 /// `settings_folder` leads to; where there is no such link, `ttyUSB<number - 1>` of `device_folder`
@@ -11,4 +11,4 @@ namespace corvalis::desktop {
 [[nodiscard]] std::string DeviceOfPort(int number, const std::string& settings_folder,
                                        const std::string& device_folder = "/dev");
 
-}  // namespace corvalis::desktop
+}  // namespace corvalis::machine
