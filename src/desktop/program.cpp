@@ -4,7 +4,7 @@
 #include <QMessageBox>
 
 #include "desktop/views/views.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/look/style.h"
 #include "machine/folders.h"
 
 namespace corvalis::desktop {

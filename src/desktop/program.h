@@ -5,7 +5,7 @@
 #include "app/main_form.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/views/guide.h"
-#include "desktop/widgets/screen_host.h"
+#include "desktop/widgets/windows/screen_host.h"
 #include "machine/qt_serial_port.h"
 #include "machine/qt_time.h"
 #include "platform/platform.h"

@@ -6,7 +6,7 @@
 #include <QPushButton>
 
 #include "desktop/text.h"
-#include "desktop/widgets/front_window.h"
+#include "desktop/widgets/windows/front_window.h"
 
 namespace corvalis::desktop {
 

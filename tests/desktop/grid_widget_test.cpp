@@ -1,6 +1,6 @@
 // A grid in a shown window, under a person's hand.
 
-#include "desktop/widgets/grid_widget.h"
+#include "desktop/widgets/grid/grid_widget.h"
 
 #include <gtest/gtest.h>
 
@@ -14,11 +14,11 @@
 #include <memory>
 
 #include "desktop/text.h"
-#include "desktop/widgets/button_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/screen_host.h"
-#include "desktop/widgets/text_box_widget.h"
-#include "desktop/widgets/window_view.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/presses/button_widget.h"
+#include "desktop/widgets/texts/text_box_widget.h"
+#include "desktop/widgets/windows/screen_host.h"
+#include "desktop/widgets/windows/window_view.h"
 #include "support/grid_form.h"
 
 namespace corvalis::desktop {

@@ -18,8 +18,8 @@
 #include <set>
 
 #include "desktop/running_program.h"
-#include "desktop/widgets/front_window.h"
-#include "desktop/widgets/guide_window.h"
+#include "desktop/widgets/windows/front_window.h"
+#include "desktop/widgets/windows/guide_window.h"
 #include "link/link_error.h"
 
 namespace corvalis::test {

@@ -4,7 +4,7 @@
 
 #include <QApplication>
 
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/look/style.h"
 
 // What the libraries underneath keep for ever is no leak of ours. Asked for by the leak detector,
 // where one is built in.

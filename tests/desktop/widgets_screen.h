@@ -15,17 +15,17 @@
 #include <QVBoxLayout>
 
 #include "desktop/text.h"
-#include "desktop/widgets/calendar_widget.h"
-#include "desktop/widgets/check_box_widget.h"
-#include "desktop/widgets/combo_box_widget.h"
-#include "desktop/widgets/drop_down_widget.h"
-#include "desktop/widgets/label_widget.h"
-#include "desktop/widgets/memo_widget.h"
-#include "desktop/widgets/open_list_widget.h"
-#include "desktop/widgets/screen_host.h"
-#include "desktop/widgets/tabs_widget.h"
-#include "desktop/widgets/text_box_widget.h"
-#include "desktop/widgets/window_view.h"
+#include "desktop/widgets/lists/calendar_widget.h"
+#include "desktop/widgets/lists/combo_box_widget.h"
+#include "desktop/widgets/lists/drop_down_widget.h"
+#include "desktop/widgets/lists/open_list_widget.h"
+#include "desktop/widgets/presses/check_box_widget.h"
+#include "desktop/widgets/presses/tabs_widget.h"
+#include "desktop/widgets/texts/label_widget.h"
+#include "desktop/widgets/texts/memo_widget.h"
+#include "desktop/widgets/texts/text_box_widget.h"
+#include "desktop/widgets/windows/screen_host.h"
+#include "desktop/widgets/windows/window_view.h"
 #include "screen/keys.h"
 
 namespace corvalis::desktop {

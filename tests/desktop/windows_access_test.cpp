@@ -23,7 +23,7 @@
 
 #include "config/config_data.h"
 #include "desktop/running_program.h"
-#include "desktop/widgets/mnemonics.h"
+#include "desktop/widgets/look/mnemonics.h"
 #include "programme/pin_tab.h"
 
 namespace corvalis::test {

@@ -12,8 +12,8 @@
 #include <QWindow>
 
 #include "desktop/running_program.h"
-#include "desktop/widgets/held_keys.h"
-#include "desktop/widgets/mnemonics.h"
+#include "desktop/widgets/look/mnemonics.h"
+#include "desktop/widgets/presses/held_keys.h"
 #include "link/serial_management.h"
 
 namespace corvalis::test {

@@ -11,7 +11,7 @@
 
 #include "desktop/own_line.h"
 #include "desktop/running_program.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/look/style.h"
 #include "link/serial_management.h"
 
 namespace corvalis::test {

@@ -15,7 +15,7 @@
 #include <QTest>
 #include <stdexcept>
 
-#include "desktop/widgets/mnemonics.h"
+#include "desktop/widgets/look/mnemonics.h"
 
 namespace corvalis::desktop {
 

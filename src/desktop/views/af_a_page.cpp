@@ -1,9 +1,9 @@
 #include "desktop/views/af_a_page.h"
 
-#include "desktop/widgets/band_strip_widget.h"
-#include "desktop/widgets/label_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/look/band_strip_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/texts/label_widget.h"
 
 namespace corvalis::desktop {
 

@@ -1,11 +1,11 @@
 #include "desktop/views/af_b_page.h"
 
-#include "desktop/widgets/band_strip_widget.h"
-#include "desktop/widgets/combo_box_widget.h"
-#include "desktop/widgets/label_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/spinner_widget.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/lists/combo_box_widget.h"
+#include "desktop/widgets/look/band_strip_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/presses/spinner_widget.h"
+#include "desktop/widgets/texts/label_widget.h"
 
 namespace corvalis::desktop {
 

@@ -1,11 +1,11 @@
 #include "desktop/views/busy_views.h"
 
-#include "desktop/widgets/brand_header.h"
-#include "desktop/widgets/button_widget.h"
-#include "desktop/widgets/label_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/progress_bar_widget.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/look/brand_header.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/progress_bar_widget.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/presses/button_widget.h"
+#include "desktop/widgets/texts/label_widget.h"
 
 namespace corvalis::desktop {
 

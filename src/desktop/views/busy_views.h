@@ -2,7 +2,7 @@
 
 #include "busy/serial_communication_form.h"
 #include "busy/wait_form.h"
-#include "desktop/widgets/window_view.h"
+#include "desktop/widgets/windows/window_view.h"
 
 namespace corvalis::desktop {
 

@@ -3,12 +3,12 @@
 #include <QGroupBox>
 #include <initializer_list>
 
-#include "desktop/widgets/button_widget.h"
-#include "desktop/widgets/check_box_widget.h"
-#include "desktop/widgets/label_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/option_widget.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/presses/button_widget.h"
+#include "desktop/widgets/presses/check_box_widget.h"
+#include "desktop/widgets/presses/option_widget.h"
+#include "desktop/widgets/texts/label_widget.h"
 #include "link/list_commands.h"
 
 namespace corvalis::desktop {

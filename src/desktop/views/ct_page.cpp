@@ -3,12 +3,12 @@
 #include <QGroupBox>
 #include <QLineEdit>
 
-#include "desktop/widgets/calendar_widget.h"
-#include "desktop/widgets/label_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/spinner_widget.h"
-#include "desktop/widgets/style.h"
-#include "desktop/widgets/text_box_widget.h"
+#include "desktop/widgets/lists/calendar_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/presses/spinner_widget.h"
+#include "desktop/widgets/texts/label_widget.h"
+#include "desktop/widgets/texts/text_box_widget.h"
 
 namespace corvalis::desktop {
 

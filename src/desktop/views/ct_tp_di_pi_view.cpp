@@ -3,8 +3,8 @@
 #include "desktop/views/ct_page.h"
 #include "desktop/views/pi_ecc_lic_page.h"
 #include "desktop/views/tp_di_page.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/tabs_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/presses/tabs_widget.h"
 
 namespace corvalis::desktop {
 

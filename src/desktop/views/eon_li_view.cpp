@@ -3,8 +3,8 @@
 #include "desktop/views/eon_page.h"
 #include "desktop/views/li_page.h"
 #include "desktop/views/ta_eon_page.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/tabs_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/presses/tabs_widget.h"
 
 namespace corvalis::desktop {
 

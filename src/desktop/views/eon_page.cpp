@@ -2,12 +2,12 @@
 
 #include <QGroupBox>
 
-#include "desktop/widgets/check_box_widget.h"
-#include "desktop/widgets/drop_down_widget.h"
-#include "desktop/widgets/label_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/spinner_widget.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/lists/drop_down_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/presses/check_box_widget.h"
+#include "desktop/widgets/presses/spinner_widget.h"
+#include "desktop/widgets/texts/label_widget.h"
 #include "link/list_commands.h"
 
 namespace corvalis::desktop {

@@ -1,12 +1,12 @@
 #include "desktop/views/file_panel.h"
 
-#include "desktop/widgets/drop_down_widget.h"
-#include "desktop/widgets/label_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/open_list_widget.h"
-#include "desktop/widgets/state_line.h"
-#include "desktop/widgets/style.h"
-#include "desktop/widgets/text_box_widget.h"
+#include "desktop/widgets/lists/drop_down_widget.h"
+#include "desktop/widgets/lists/open_list_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/texts/label_widget.h"
+#include "desktop/widgets/texts/state_line.h"
+#include "desktop/widgets/texts/text_box_widget.h"
 
 namespace corvalis::desktop {
 

@@ -8,7 +8,7 @@
 #include <QTabBar>
 #include <vector>
 
-#include "desktop/widgets/window_view.h"
+#include "desktop/widgets/windows/window_view.h"
 
 namespace corvalis::desktop {
 

@@ -3,7 +3,7 @@
 #include <QObject>
 #include <QString>
 
-#include "desktop/widgets/guide_window.h"
+#include "desktop/widgets/windows/guide_window.h"
 
 namespace corvalis::desktop {
 

@@ -3,13 +3,13 @@
 #include <QGroupBox>
 
 #include "desktop/views/file_panel.h"
-#include "desktop/widgets/check_box_widget.h"
-#include "desktop/widgets/drop_down_widget.h"
-#include "desktop/widgets/label_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/memo_widget.h"
-#include "desktop/widgets/state_line.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/lists/drop_down_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/presses/check_box_widget.h"
+#include "desktop/widgets/texts/label_widget.h"
+#include "desktop/widgets/texts/memo_widget.h"
+#include "desktop/widgets/texts/state_line.h"
 
 namespace corvalis::desktop {
 

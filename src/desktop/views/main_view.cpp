@@ -3,11 +3,11 @@
 #include <QPushButton>
 
 #include "desktop/views/file_panel.h"
-#include "desktop/widgets/brand_header.h"
-#include "desktop/widgets/button_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/state_line.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/look/brand_header.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/presses/button_widget.h"
+#include "desktop/widgets/texts/state_line.h"
 
 namespace corvalis::desktop {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/main_form.h"
-#include "desktop/widgets/window_view.h"
+#include "desktop/widgets/windows/window_view.h"
 
 namespace corvalis::desktop {
 

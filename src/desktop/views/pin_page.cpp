@@ -4,9 +4,9 @@
 #include <QLabel>
 #include <algorithm>
 
-#include "desktop/widgets/drop_down_widget.h"
-#include "desktop/widgets/grid_widget.h"
-#include "desktop/widgets/layout.h"
+#include "desktop/widgets/grid/grid_widget.h"
+#include "desktop/widgets/lists/drop_down_widget.h"
+#include "desktop/widgets/look/layout.h"
 
 namespace corvalis::desktop {
 

@@ -2,10 +2,10 @@
 
 #include <QGroupBox>
 
-#include "desktop/widgets/grid_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/spinner_widget.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/grid/grid_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/presses/spinner_widget.h"
 
 namespace corvalis::desktop {
 

@@ -7,8 +7,8 @@
 #include "desktop/views/psn_plan_page.h"
 #include "desktop/views/ptyn_page.h"
 #include "desktop/views/rt_page.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/tabs_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/presses/tabs_widget.h"
 
 namespace corvalis::desktop {
 

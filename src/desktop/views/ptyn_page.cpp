@@ -2,9 +2,9 @@
 
 #include <QGroupBox>
 
-#include "desktop/widgets/drop_down_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/lists/drop_down_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
 #include "link/list_commands.h"
 
 namespace corvalis::desktop {

@@ -2,15 +2,15 @@
 
 #include <QGroupBox>
 
-#include "desktop/widgets/brand_header.h"
-#include "desktop/widgets/button_widget.h"
-#include "desktop/widgets/check_box_widget.h"
-#include "desktop/widgets/drop_down_widget.h"
-#include "desktop/widgets/label_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/memo_widget.h"
-#include "desktop/widgets/style.h"
-#include "desktop/widgets/text_box_widget.h"
+#include "desktop/widgets/lists/drop_down_widget.h"
+#include "desktop/widgets/look/brand_header.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/presses/button_widget.h"
+#include "desktop/widgets/presses/check_box_widget.h"
+#include "desktop/widgets/texts/label_widget.h"
+#include "desktop/widgets/texts/memo_widget.h"
+#include "desktop/widgets/texts/text_box_widget.h"
 
 namespace corvalis::desktop {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/widgets/window_view.h"
+#include "desktop/widgets/windows/window_view.h"
 #include "link/rs232c_form.h"
 
 namespace corvalis::desktop {

@@ -1,8 +1,8 @@
 #include "desktop/views/rt_page.h"
 
-#include "desktop/widgets/grid_widget.h"
-#include "desktop/widgets/label_widget.h"
-#include "desktop/widgets/layout.h"
+#include "desktop/widgets/grid/grid_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/texts/label_widget.h"
 
 namespace corvalis::desktop {
 

@@ -3,11 +3,11 @@
 #include <QGroupBox>
 
 #include "desktop/text.h"
-#include "desktop/widgets/binding.h"
-#include "desktop/widgets/check_box_widget.h"
-#include "desktop/widgets/label_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/presses/check_box_widget.h"
+#include "desktop/widgets/texts/label_widget.h"
+#include "desktop/widgets/windows/binding.h"
 
 namespace corvalis::desktop {
 

@@ -2,12 +2,12 @@
 
 #include <initializer_list>
 
-#include "desktop/widgets/button_widget.h"
-#include "desktop/widgets/combo_box_widget.h"
-#include "desktop/widgets/indicator_widget.h"
-#include "desktop/widgets/label_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/lists/combo_box_widget.h"
+#include "desktop/widgets/look/indicator_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/presses/button_widget.h"
+#include "desktop/widgets/texts/label_widget.h"
 
 namespace corvalis::desktop {
 

@@ -4,8 +4,8 @@
 #include "desktop/views/tdc_page.h"
 #include "desktop/views/tmc_page.h"
 #include "desktop/views/tmc_system_page.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/tabs_widget.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/presses/tabs_widget.h"
 
 namespace corvalis::desktop {
 

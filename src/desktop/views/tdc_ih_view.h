@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/widgets/window_view.h"
+#include "desktop/widgets/windows/window_view.h"
 #include "networks/tdc_ih_form.h"
 
 namespace corvalis::desktop {

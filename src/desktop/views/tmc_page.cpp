@@ -1,7 +1,7 @@
 #include "desktop/views/tmc_page.h"
 
-#include "desktop/widgets/grid_widget.h"
-#include "desktop/widgets/layout.h"
+#include "desktop/widgets/grid/grid_widget.h"
+#include "desktop/widgets/look/layout.h"
 
 namespace corvalis::desktop {
 

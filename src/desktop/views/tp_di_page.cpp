@@ -4,9 +4,9 @@
 #include <array>
 #include <initializer_list>
 
-#include "desktop/widgets/check_box_widget.h"
-#include "desktop/widgets/layout.h"
-#include "desktop/widgets/style.h"
+#include "desktop/widgets/look/layout.h"
+#include "desktop/widgets/look/style.h"
+#include "desktop/widgets/presses/check_box_widget.h"
 
 namespace corvalis::desktop {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/widgets/screen_host.h"
+#include "desktop/widgets/windows/screen_host.h"
 
 namespace corvalis::desktop {
 
