@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "config/config_data.h"
+#include "support/places.h"
 #include "support/test_machine.h"
 
 namespace corvalis::test {
@@ -143,7 +144,7 @@ TEST_F(LanguageTest, NameOfTheFileByTheRecord) {
 }
 
 TEST_F(LanguageTest, GermanFileIsComplete) {
-  std::vector<Text> german = Parse(ReadFile(CORVALIS_TEST_DATA "/../../examples/German.ini"));
+  std::vector<Text> german = Parse(ReadFile(kExamples + std::string("/German.ini")));
   std::vector<Text> english = Defaults();
   for (Text& text : german) {
     EXPECT_FALSE(std::exchange(text.value, "").empty()) << text.key;

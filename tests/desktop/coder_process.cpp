@@ -4,6 +4,8 @@
 #include <stdexcept>
 #include <utility>
 
+#include "support/places.h"
+
 namespace corvalis::test {
 
 namespace {
@@ -15,7 +17,7 @@ constexpr int kPatience = 10'000;  // milliseconds
 CoderProcess::CoderProcess(const QStringList& options) {
   process_.setProcessChannelMode(QProcess::MergedChannels);
   // Should a test die, its Coder goes too.
-  process_.start(CORVALIS_CODER_PROGRAM, options + QStringList{"--with-stdin"});
+  process_.start(kCoderProgram, options + QStringList{"--with-stdin"});
   WaitForLine("ready ");
 }
 

@@ -25,6 +25,7 @@
 #include "desktop/running_program.h"
 #include "desktop/widgets/look/mnemonics.h"
 #include "programme/pin_tab.h"
+#include "support/places.h"
 
 namespace corvalis::test {
 namespace {
@@ -52,7 +53,7 @@ class WindowsAccessTest : public RunningProgram {
 
   // Hands each window to `look`, page by page, in both languages.
   void ForEachPage(const std::function<void(QWidget&)>& look) {
-    std::ifstream german(CORVALIS_EXAMPLES "/German.ini", std::ios::binary);
+    std::ifstream german(std::string(kExamples) + "/German.ini", std::ios::binary);
     const std::string texts(std::istreambuf_iterator<char>(german), {});
     ASSERT_FALSE(texts.empty());
     for (const char* rest :

@@ -16,6 +16,7 @@
 #include "desktop/own_line.h"
 #include "desktop/running_program.h"
 #include "link/serial_management.h"
+#include "support/places.h"
 
 namespace corvalis::test {
 namespace {
@@ -25,7 +26,7 @@ const QStringList kTicks = {"PsnCheck", "Check3",  "PtynCheck", "Check2",  "Chec
                             "LiCheck",  "Check6",  "Check7",    "TmcCheck"};
 
 std::string Example(const std::string& name) {
-  std::ifstream file(CORVALIS_EXAMPLES "/" + name, std::ios::binary);
+  std::ifstream file(kExamples + ("/" + name), std::ios::binary);
   return {std::istreambuf_iterator<char>(file), {}};
 }
 

@@ -14,6 +14,7 @@
 
 #include "platform/profile_document.h"
 #include "platform/profile_store_fixture.h"
+#include "support/places.h"
 
 namespace corvalis::test {
 namespace {
@@ -40,7 +41,7 @@ std::vector<std::string> LinesNotBlank(const std::string& text) {
 }
 
 TEST_F(ProfileStoreTest, ReadsAndWritesAsObserved) {
-  std::ifstream stream(fs::path(CORVALIS_TEST_DATA) / "profile-store-cases.json");
+  std::ifstream stream(fs::path(kTestData) / "profile-store-cases.json");
   const auto cases = nlohmann::json::parse(stream);
   ASSERT_FALSE(cases.empty());
   for (const bool in_series : {false, true}) {
