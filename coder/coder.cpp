@@ -53,9 +53,8 @@ Bytes GarbageAtFront(std::span<const std::uint8_t> bytes) {
 
 }  // namespace
 
-Coder::Coder(std::string id, bool open, const Counts& counts)
-    : id_(std::move(id)), open_(open), counts_(counts) {
-  id_.resize(kIdLength, ' ');
+Coder::Coder(std::string id, bool open, const Counts& counts) : open_(open), counts_(counts) {
+  SetId(std::move(id));
 }
 
 Bytes Coder::Take(std::span<const std::uint8_t> bytes) { return Joined(TakeApart(bytes)); }
@@ -79,10 +78,17 @@ bool Coder::Addressed() const { return addressed_; }
 
 const std::string& Coder::Id() const { return id_; }
 
+void Coder::SetId(std::string id) {
+  id_ = std::move(id);
+  id_.resize(kIdLength, ' ');
+}
+
 const Counts& Coder::Sizes() const { return counts_; }
 
 void Coder::SetSizes(const Counts& counts) {
   counts_ = counts;
+  ++changes_;
+  for (std::uint64_t& changes : changes_of_) ++changes;
   coming_.clear();
   std::erase_if(memory_, [&](const auto& item) {
     return FindItem(item.first.first, item.first.second, counts) == nullptr;
@@ -108,8 +114,12 @@ bool Coder::SetItem(std::uint8_t code, int number, std::span<const std::uint8_t>
     return SetItem(command->part_of, number, whole);
   }
   memory_[{code, number}].assign(body.begin(), body.end());
+  ++changes_;
+  ++changes_of_[code];
   return true;
 }
+
+std::uint64_t Coder::Changes(std::uint8_t command) const { return changes_of_[command]; }
 
 bool Coder::Written(std::uint8_t code, int number) const {
   return memory_.contains({code, number});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -67,6 +68,8 @@ class Coder {
   [[nodiscard]] bool Addressed() const;
   /// The Coder ID, 5 characters.
   [[nodiscard]] const std::string& Id() const;
+  /// Gives it another, as an Address frame with a new identity does; it is not addressed by that.
+  void SetId(std::string id);
 
   /// How many items there are of each list.
   [[nodiscard]] const Counts& Sizes() const;
@@ -85,6 +88,12 @@ class Coder {
   bool SetItem(std::uint8_t command, int number, std::span<const std::uint8_t> body);
   /// True if the item has been put into the memory since the Coder left the factory.
   [[nodiscard]] bool Written(std::uint8_t command, int number = 0) const;
+
+  /// A number that is another whenever an item has been put into the memory, even as it was, or the
+  /// sizes have been set: whoever keeps something made of the memory makes it anew then.
+  [[nodiscard]] std::uint64_t Changes() const { return changes_; }
+  /// The same for the items of one command.
+  [[nodiscard]] std::uint64_t Changes(std::uint8_t command) const;
 
   /// Called for each ENQ and each frame, taken or refused, before its answer leaves. It may look
   /// at the Coder and must not give it bytes.
@@ -107,6 +116,8 @@ class Coder {
   Bytes held_;            // taken from the line and not yet judged
   Counts counts_;
   std::map<std::pair<std::uint8_t, int>, Bytes> memory_;  // by command and number, if written
+  std::uint64_t changes_ = 0;
+  std::array<std::uint64_t, 256> changes_of_{};  // by command
   std::map<int, Bytes> coming_;  // blocks of in-house pages whose end has not come yet
 };
 

@@ -31,14 +31,6 @@ std::string Hex2(unsigned value) {
   return {kDigits[value / kSixteen % kSixteen], kDigits[value % kSixteen]};
 }
 
-std::string Printable(const Bytes& bytes) {
-  std::string text;
-  for (const std::uint8_t byte : bytes) {
-    text += byte >= ' ' && byte <= '~' ? static_cast<char>(byte) : '.';
-  }
-  return text;
-}
-
 // An item's place in its list, behind its name: " 10", " 2 row 10"; nothing for a single value.
 std::string Place(const Command& command, int number, std::string (*digits)(int)) {
   std::string text;
@@ -65,6 +57,14 @@ std::string InBrackets(const std::string& words) {
 }
 
 }  // namespace
+
+std::string Printable(std::span<const std::uint8_t> bytes) {
+  std::string text;
+  for (const std::uint8_t byte : bytes) {
+    text += byte >= ' ' && byte <= '~' ? static_cast<char>(byte) : '.';
+  }
+  return text;
+}
 
 std::string HexText(const Bytes& bytes) {
   std::string text;
@@ -97,26 +97,37 @@ std::string Describe(const Event& event) {
   return line + InBrackets(Meaning(command, event.number, text));
 }
 
-std::string Dump(const Coder& coder) {
-  std::string all;
-  const auto add = [&](const Command& command, int number) {
-    const auto body = coder.Item(command.code, number);
-    if (!body || (command.IsList() && !coder.Written(command.code, number))) return;
-    const std::string text = Printable(*body);
-    std::string place = Place(command, number, HexPlace);
-    if (place.empty()) place = " 00";
-    all += std::string(command.name) + place + ": " + HexText(*body) +
-           InBrackets(Meaning(command, number, text)) + "  \"" + text + "\"\n";
-  };
+std::string ItemName(const Command& command, int number) {
+  const std::string place = Place(command, number, HexPlace);
+  return std::string(command.name) + (place.empty() ? " 00" : place);
+}
+
+void ForEachItem(const Counts& sizes, const std::function<void(const Command&, int)>& visit) {
   for (const Command& command : Commands()) {
-    const int pages = command.pages == nullptr ? 1 : coder.Sizes().*command.pages;
+    if (command.code == kAddress) continue;
+    const int pages = command.pages == nullptr ? 1 : sizes.*command.pages;
     for (int page = 0; page < pages; ++page) {
       for (int place = 0; place < kPageStep; ++place) {
         const int number = page * kPageStep + place;
-        if (command.Holds(number, coder.Sizes())) add(command, number);
+        if (command.Holds(number, sizes)) visit(command, number);
       }
     }
   }
+}
+
+std::string Dump(const Coder& coder) {
+  std::string all;
+  ForEachItem(coder.Sizes(), [&](const Command& command, int number) {
+    const bool written = coder.Written(command.code, number);
+    if (command.IsList() && !written) return;
+    const Bytes body = *coder.Item(command.code, number);
+    const std::string text = Printable(body);
+    std::string words = Meaning(command, number, text);
+    if (!written && command.writable)
+      words += (words.empty() ? "" : ", ") + std::string(kNeverWritten);
+    all += ItemName(command, number) + ": " + HexText(body) + InBrackets(words) + "  \"" + text +
+           "\"\n";
+  });
   return all;
 }
 

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <functional>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "coder/coder.h"
 
@@ -23,10 +26,25 @@ namespace corvalis::coder {
 ///     PI 00: 35 32 30 31 (country 5, coverage 2, programme 01)  "5201"
 ///     Enable 13: 30 31 30 35 (group 3B on, repetitions 5)  "0105"
 ///     PSN page 02 row 0A: 32 30 35 52 41 44 49 4F 20 20 20 (rotation 5)  "205RADIO   "
-///     ECC 00: 45 30  "E0"
+///     ECC 00: 45 30 (never written)  "E0"
 ///
-/// An other network's TA is told with its list.
+/// A single value that still is as it left the factory says so. An other network's TA is told with
+/// its list.
 [[nodiscard]] std::string Dump(const Coder& coder);
+
+/// What stands behind the bytes of a value that was never written, the last of its words.
+inline constexpr std::string_view kNeverWritten = "never written";
+
+/// What an item is called in the memory's words: "PI 00", "PSN page 02 row 0A".
+[[nodiscard]] std::string ItemName(const Command& command, int number);
+
+/// Calls `visit` for every item there is in a Coder of these sizes, in the order of the memory's
+/// words.
+void ForEachItem(const Counts& sizes,
+                 const std::function<void(const Command& command, int number)>& visit);
+
+/// Bytes as characters; what is not printable is a dot.
+[[nodiscard]] std::string Printable(std::span<const std::uint8_t> bytes);
 
 /// Bytes as two upper-case hexadecimal digits each, blanks between.
 [[nodiscard]] std::string HexText(const Bytes& bytes);

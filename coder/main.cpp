@@ -2,10 +2,31 @@
 
 #include <csignal>
 #include <exception>
+#include <fstream>
 #include <iostream>
+#include <sstream>
+#include <string>
+#include <utility>
 
+#include "coder/memory_text.h"
 #include "coder/options.h"
 #include "coder/server.h"
+
+namespace {
+
+// An empty text, or why the memory in a file cannot be taken.
+std::string ReadMemoryFile(const std::string& path, corvalis::coder::Coder& coder) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream text;
+  // A folder opens, and fails when it is read.
+  if (!file || (file.peek() != std::ifstream::traits_type::eof() && !(text << file.rdbuf())) ||
+      file.bad()) {
+    return "cannot be read";
+  }
+  return corvalis::coder::ReadMemory(text.str(), coder);
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
   namespace coder = corvalis::coder;
@@ -22,6 +43,15 @@ int main(int argc, char** argv) {
     return 0;
   }
 
+  coder::Coder held(options.id, options.open, options.counts);
+  if (!options.memory.empty()) {
+    const std::string lost = ReadMemoryFile(options.memory, held);
+    if (!lost.empty()) {
+      std::cerr << "corvalis-coder: " << options.memory << ": " << lost << "\n";
+      return 2;
+    }
+  }
+
   // Signals are taken in turn with the line's bytes; a reader of the output that goes away is no
   // reason to leave the link behind.
   sigset_t taken;
@@ -31,7 +61,7 @@ int main(int argc, char** argv) {
   std::signal(SIGPIPE, SIG_IGN);
 
   try {
-    coder::Server(options).Run(signalfd(-1, &taken, SFD_CLOEXEC));
+    coder::Server(options, std::move(held)).Run(signalfd(-1, &taken, SFD_CLOEXEC));
   } catch (const std::exception& error) {
     std::cerr << "corvalis-coder: " << error.what() << "\n";
     return 1;

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <limits>
 #include <string_view>
+#include <utility>
 
 namespace corvalis::coder {
 
@@ -71,6 +72,11 @@ bool ParseCounts(std::string_view text, Counts& counts) {
   return true;
 }
 
+bool ParsePath(std::string_view text, std::string& path) {
+  path = text;
+  return !text.empty();
+}
+
 bool On(bool& flag) { return flag = true; }
 
 // "psn=50,page=10 ..." of what `number` gives for each count.
@@ -93,10 +99,7 @@ const std::string kMilliseconds = "a number of milliseconds from 0";
 
 const std::array kOptions = {
     Option{"--link", "PATH", "a path", "make PATH a link to the line, for as long as it is there",
-           [](Options& o, std::string_view v) {
-             o.link = v;
-             return !v.empty();
-           }},
+           [](Options& o, std::string_view v) { return ParsePath(v, o.link); }},
     Option{"--id", "ID", "1 to 5 characters", "the Coder ID (\"?????\" if not given)",
            [](Options& o, std::string_view v) {
              o.id = v;
@@ -139,6 +142,8 @@ const std::array kOptions = {
            [](Options& o, std::string_view v) { return ParseCalls(v, o.modem); }},
     Option{"--dial-ms", "MS", kMilliseconds, "dial for MS milliseconds (1000 if not given)",
            [](Options& o, std::string_view v) { return ParseNumber(v, 0, kMost, o.dial_ms); }},
+    Option{"--memory", "PATH", "a path", "begin with the memory that --dump printed to PATH",
+           [](Options& o, std::string_view v) { return ParsePath(v, o.memory); }},
     Option{"--print", "", "", "print each frame, and what the modem does, in words",
            [](Options& o, std::string_view) { return On(o.print); }},
     Option{"--dump", "", "", "print the memory on SIGUSR1 and at the end",
@@ -164,8 +169,22 @@ std::string ParseOptions(std::span<const char* const> words, Options& options) {
       return name + " wants " + found->wanted + ", not \"" + std::string(value) + "\"";
     }
   }
+  if (options.air.speed == 0 && options.air.groups == 0) return "--air-speed 0 wants --air-groups";
+  const AirOptions& air = options.air;
+  for (const auto& [one, other] :
+       {std::pair{&air.text, &air.bits}, {&air.text, &air.mpx}, {&air.bits, &air.mpx}}) {
+    if (!one->empty() && *one == *other) {
+      return "of --air, --bits and --mpx each wants a path of its own, not \"" + *one + "\" twice";
+    }
+  }
   return {};
 }
+
+bool AirOptions::Wanted() const {
+  return !text.empty() || !bits.empty() || !mpx.empty() || groups > 0;
+}
+
+bool AirOptions::ToStandardOutput() const { return text == "-" || bits == "-" || mpx == "-"; }
 
 std::string HelpText() {
   constexpr std::size_t kColumn = 22;

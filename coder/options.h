@@ -10,6 +10,20 @@
 
 namespace corvalis::coder {
 
+/// Where the air goes, and how fast.
+struct AirOptions {
+  std::string text;  ///< path for the groups as hexadecimal text; empty: none, "-": standard output
+  std::string bits;  ///< the same as bits
+  std::string mpx;   ///< the same as the multiplex signal
+  int speed = 1;     ///< times as fast as the air; 0: as fast as it can
+  int groups = 0;    ///< end after so many; 0: never
+
+  /// True if anything goes on the air at all.
+  [[nodiscard]] bool Wanted() const;
+  /// True if the standard output is taken, so that words have to go elsewhere.
+  [[nodiscard]] bool ToStandardOutput() const;
+};
+
 /// The command line of `corvalis-coder`.
 struct Options {
   std::string link;          ///< path of the link to the pseudo-terminal; empty: none
@@ -23,6 +37,9 @@ struct Options {
   std::optional<Modem::Calls> modem;  ///< what becomes of calls; none: no modem in the way
   int dial_ms = 1000;                 ///< milliseconds from a dial command to its outcome
   int replug_after_ms = -1;  ///< milliseconds from unplugging to the new line; negative: never
+  AirOptions air;
+  std::string memory;  ///< path of a memory to begin with; empty: as it left the factory
+  bool judge = false;
   bool print = false;
   bool dump = false;
   bool with_stdin = false;

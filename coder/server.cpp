@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "coder/describe.h"
+#include "coder/memory_text.h"
 
 namespace corvalis::coder {
 
@@ -25,13 +26,13 @@ constexpr int kStartAndDataBits = 9;
 
 }  // namespace
 
-Server::Server(Options options)
+Server::Server(Options options, Coder coder)
     : options_(std::move(options)),
-      coder_(options_.id, options_.open, options_.counts),
+      coder_(std::move(coder)),
       line_(coder_, options_.faults),
       terminal_(std::make_unique<PseudoTerminal>(options_.link)) {
   if (options_.print) {
-    coder_.Happened = [](const Event& event) { std::cout << Describe(event) << std::endl; };
+    coder_.Happened = [this](const Event& event) { Words() << Describe(event) << std::endl; };
   }
   PlugModem();
 }
@@ -69,7 +70,11 @@ void Server::Run(int signals) {
   if (options_.dump) PrintMemory();
 }
 
-void Server::Announce() const { std::cout << "ready " << terminal_->Path() << std::endl; }
+std::ostream& Server::Words() const {
+  return options_.air.ToStandardOutput() ? std::cerr : std::cout;
+}
+
+void Server::Announce() const { Words() << "ready " << terminal_->Path() << std::endl; }
 
 void Server::ReadTerminal(Time now) {
   const Bytes bytes = terminal_->Read();
@@ -77,8 +82,8 @@ void Server::ReadTerminal(Time now) {
   const auto settings = terminal_->CurrentSettings();
   if (!Understands(settings)) {
     if (options_.print) {
-      std::cout << "noise at " << settings.baud << " baud, stop bits " << settings.stop_bits << ": "
-                << HexText(bytes) << std::endl;
+      Words() << "noise at " << settings.baud << " baud, stop bits " << settings.stop_bits << ": "
+              << HexText(bytes) << std::endl;
     }
   } else if (options_.pace) {
     // The first byte of a burst needs its own time too.
@@ -162,7 +167,9 @@ void Server::PlugModem() {
   dialled_.reset();
   modem_.emplace(*options_.modem);
   if (options_.print) {
-    modem_->Happened = [](const std::string& what) { std::cout << "modem: " << what << std::endl; };
+    modem_->Happened = [this](const std::string& what) {
+      Words() << "modem: " << what << std::endl;
+    };
   }
 }
 
@@ -172,7 +179,7 @@ void Server::FollowPlug(Time now) {
     arriving_.clear();
     leaving_.clear();
     PlugModem();
-    std::cout << "unplugged" << std::endl;
+    Words() << "unplugged" << std::endl;
     if (options_.replug_after_ms >= 0) replug_ = now + milliseconds(options_.replug_after_ms);
   }
   if (replug_ && *replug_ <= now) {
@@ -191,11 +198,7 @@ bool Server::HandleSignals(int signals) const {
   return true;
 }
 
-void Server::PrintMemory() const {
-  std::cout << "memory\nID \"" << coder_.Id() << "\" " << (coder_.Addressed() ? "" : "not ")
-            << "addressed\n"
-            << Dump(coder_) << "end of memory" << std::endl;
-}
+void Server::PrintMemory() const { Words() << MemoryText(coder_) << std::flush; }
 
 bool Server::Understands(const PseudoTerminal::Settings& settings) const {
   return (options_.baud == 0 || options_.baud == settings.baud) &&

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <cstdint>
 #include <deque>
+#include <iosfwd>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -19,8 +20,9 @@ namespace corvalis::coder {
 /// that keeps them going. It sleeps while nothing is to be done.
 class Server {
  public:
-  /// Throws `std::runtime_error` if there is no terminal to be had.
-  explicit Server(Options options);
+  /// `coder` is what it holds at first. Throws `std::runtime_error` if there is no terminal to be
+  /// had.
+  Server(Options options, Coder coder);
 
   /// Runs until SIGINT, SIGTERM or SIGHUP comes, or the standard input closes where that was asked
   /// for. `signals` is a signal descriptor for these and SIGUSR1.
@@ -36,6 +38,8 @@ class Server {
     bool from_coder;
   };
 
+  /// Where words go: the standard output, unless the air does.
+  [[nodiscard]] std::ostream& Words() const;
   void Announce() const;
   void ReadTerminal(Time now);
   void RunDue(Time now);

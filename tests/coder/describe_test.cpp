@@ -98,7 +98,7 @@ TEST(Describe, DumpsTheSingleValuesAndWhatHasBeenWritten) {
   const std::string dump = Dump(coder);
   EXPECT_TRUE(
       dump.starts_with("PI 00: 35 32 30 31 (country 5, coverage 2, programme 01)  \"5201\"\n"
-                       "TP 00: 30 (off)  \"0\"\n"))
+                       "TP 00: 30 (off, never written)  \"0\"\n"))
       << dump;
   for (const char* line :
        {"\nTDC 82: 31 41 31 02 03 80 20 7E 5A (on)  \"1A1... ~Z\"\n",

@@ -1,0 +1,51 @@
+#include "coder/on_air/frequencies.h"
+
+#include "air/af_codes.h"
+#include "coder/digits.h"
+
+namespace corvalis::coder {
+
+namespace {
+
+// How many bytes of a list say something.
+std::size_t Length(const std::array<std::uint8_t, air::kAfCodes>& codes) {
+  std::size_t length = 0;
+  for (std::size_t at = 0; at < codes.size(); ++at) {
+    // What follows the mark of LF and MF belongs to it, whatever it is.
+    const bool second = at > 0 && codes[at - 1] == air::kLfOrMfNext && length == at;
+    if (codes[at] != air::kAfFiller || second) length = at + 1;
+  }
+  return length;
+}
+
+}  // namespace
+
+void FrequencyRotation::Follow(const Coder& coder) {
+  if (!watch_.Changed(coder)) return;
+  std::vector<Pair> pairs;
+  for (int list = 0; list < coder.Sizes().af; ++list) {
+    if (!coder.Written(kAf, list)) continue;
+    const Bytes body = *coder.Item(kAf, list);
+    std::array<std::uint8_t, air::kAfCodes> codes{};
+    for (std::size_t i = 0; i < codes.size(); ++i) {
+      codes[i] = static_cast<std::uint8_t>(HexAt(body, 2 * i, 2));
+    }
+    if (codes[0] <= air::kAfCount || codes[0] > air::kAfCount + air::kAfEntries) continue;
+    const std::size_t length = Length(codes);
+    for (std::size_t at = 0; at < length; at += 2) {
+      pairs.push_back({codes[at], at + 1 < length ? codes[at + 1] : air::kAfFiller});
+    }
+  }
+  if (pairs == pairs_) return;
+  pairs_ = std::move(pairs);
+  at_ = 0;
+}
+
+FrequencyRotation::Pair FrequencyRotation::Next() {
+  if (pairs_.empty()) return {air::kAfCount, air::kAfFiller};
+  const Pair next = pairs_[at_];
+  at_ = (at_ + 1) % pairs_.size();
+  return next;
+}
+
+}  // namespace corvalis::coder

@@ -1,0 +1,47 @@
+#include "coder/on_air/pages.h"
+
+#include <algorithm>
+
+#include "coder/digits.h"
+
+namespace corvalis::coder {
+
+namespace {
+
+constexpr int kPagesOnAir = 32;
+constexpr std::size_t kDigits = 3;  // of the page's number, before its text or time
+constexpr std::uint8_t kEndOfText = 0x0D;
+
+}  // namespace
+
+void PageRotation::Follow(const Coder& coder) {
+  if (!watch_.Changed(coder)) return;
+  pages_.clear();
+  const int pages = std::min(coder.Sizes().ih, kPagesOnAir);
+  for (int number = 0; number < pages; ++number) {
+    const int first = number * kPageStep;
+    Page page{.number = number,
+              .seconds = DecimalAt(*coder.Item(kIh, first + kIhEnd), kDigits, 4),
+              .text = {}};
+    for (int block = 0; block < kIhEnd; ++block) {
+      const Bytes body = *coder.Item(kIh, first + block);
+      page.text.insert(page.text.end(), body.begin() + kDigits, body.end());
+    }
+    while (!page.text.empty() && page.text.back() == ' ') page.text.pop_back();
+    if (!page.text.empty()) pages_.push_back(std::move(page));
+  }
+  if (pages_.empty()) at_ = 0;
+}
+
+PageRotation::Segment PageRotation::Next(AirTime now) {
+  if (at_ == 0) sent_ = turn_.At(pages_, now);
+  Segment next{.page = sent_.number, .characters = {}};
+  for (std::uint8_t& character : next.characters) {
+    character = at_ < sent_.text.size() ? sent_.text[at_] : kEndOfText;
+    ++at_;
+  }
+  if (at_ >= sent_.text.size()) at_ = 0;
+  return next;
+}
+
+}  // namespace corvalis::coder

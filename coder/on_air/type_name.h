@@ -1,0 +1,36 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+#include "coder/coder.h"
+#include "coder/on_air/watch.h"
+
+namespace corvalis::coder {
+
+/// The name of the present programme type on the air, four characters at a time. Eight blanks or
+/// "--------" are none. The flag turns at each name that is another, and that begins at its
+/// beginning.
+class TypeName {
+ public:
+  struct Segment {
+    bool flag = false;
+    int number = 0;  ///< 0 or 1
+    std::array<std::uint8_t, 4> characters{};
+  };
+
+  /// Looks at what has been written.
+  void Follow(const Coder& coder);
+  /// False if there is nothing to send; there is no next then.
+  [[nodiscard]] bool HasName() const { return has_name_; }
+  [[nodiscard]] Segment Next();
+
+ private:
+  Watch watch_{{kPty, kPtyn}};
+  Bytes name_;  // sent last
+  bool has_name_ = false;
+  bool flag_ = false;
+  int segment_ = 0;
+};
+
+}  // namespace corvalis::coder
