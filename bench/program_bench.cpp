@@ -217,6 +217,20 @@ void BM_Open(benchmark::State& state) {
 }
 BENCHMARK(BM_Open)->UseRealTime()->Unit(benchmark::kMillisecond);
 
+// The main menu gets the keyboard back, and finds out whether anything is not saved.
+void BM_MenuIsBack(benchmark::State& state) {
+  const Home home;
+  home.ConfigureExample("Satellite=On");
+  corvalis::desktop::Program program;
+  program.Start();
+  corvalis::Window& menu = program.Menu().window;
+  for (auto _ : state) {
+    menu.SetEnabled(false);
+    menu.SetEnabled(true);
+  }
+}
+BENCHMARK(BM_MenuIsBack)->UseRealTime()->Unit(benchmark::kMillisecond);
+
 double ProcessorSeconds() {
   rusage used{};
   getrusage(RUSAGE_SELF, &used);

@@ -7,6 +7,7 @@
 #include "config/config_data.h"
 #include "config/language_data.h"
 #include "link/list_commands.h"
+#include "link/serial_management.h"
 #include "link/transfer.h"
 #include "link/utility.h"
 #include "screen/keys.h"
@@ -116,13 +117,17 @@ ConnectionForm::ConnectionForm(Window& main_menu) : main_menu_(main_menu) {
   Command1.Click = [this] { RunRead(window, [] { RunConfiguration(ConfigurationRun::kRead); }); };
   Command11.Click = [this] { RunSend(window, [] { RunConfiguration(ConfigurationRun::kSend); }); };
   Command12.Click = [this] { RunSend(window, BurstConfiguration); };
-  window.Resumed = [this] { ShowLoad(); };  // a transfer may have done what is done only once
+  window.Resumed = [this] {
+    ShowAddressState();
+    ShowLoad();  // a transfer may have done what is done only once
+  };
 }
 
 void ConnectionForm::Load() {
   InitCaptions();
   ShowRecord();
   ShowTransferButtons({{&Command1}, {&Command11}, {&Command12}});
+  ShowAddressState();
   ShowLoad();
   window.ShowModal(main_menu_);
 }
@@ -158,6 +163,12 @@ void ConnectionForm::ShowRecord() {
   PSNPagesCheck.SetChecked(configData->PsnPagesEnable());
   (configData->AfMethodA() ? AFAOption : AFBOption).SetChosen(true);
   opening_ = false;
+}
+
+void ConnectionForm::ShowAddressState() {
+  AddressStateLabel.SetCaption(
+      AddressSent ? "address sent"
+                  : "no address sent: " + languageData->ConnectionSendAddressKey() + " first");
 }
 
 void ConnectionForm::ShowLoad() {

@@ -26,6 +26,8 @@ class ConnectionForm {
   TextBox Text2{window, "Text2"};  ///< the new Coder ID
   Button Command5{window, "Command5"};
 
+  Label AddressStateLabel{window, "AddressStateLabel"};  ///< whether an address has been sent
+
   CheckBox PsnCheck{window, "PsnCheck"};
   CheckBox PSNPagesCheck{window, "PSNPagesCheck"};  ///< only shows what the Coder works with
   CheckBox Check3{window, "Check3"};                ///< radio texts
@@ -57,6 +59,7 @@ class ConnectionForm {
  private:
   void InitCaptions();
   void ShowRecord();
+  void ShowAddressState();
   void ShowLoad();
 
   Window& main_menu_;

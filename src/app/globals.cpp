@@ -9,6 +9,7 @@
 #include "networks/tdc0_data.h"
 #include "networks/tdc_data.h"
 #include "networks/tmc_data.h"
+#include "platform/platform.h"
 #include "programme/af_a_data.h"
 #include "programme/af_b_data.h"
 #include "programme/pin_data.h"
@@ -80,6 +81,12 @@ void Globals::Store() {
   }
   SingleInstances<rtData, pinData, tdc0Data, tdcData, groupsData, ihData, eonData, liData,
                   tmcData>::SetIni();
+}
+
+std::string Globals::WouldStore() {
+  const ProfileStore::Catch caught(*Machine().profiles);
+  Store();
+  return caught.Text();
 }
 
 }  // namespace corvalis

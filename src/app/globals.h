@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace corvalis {
 
 /// The single instances of the program, in their orders. `MainForm` alone has one of these, and
@@ -29,6 +31,8 @@ class Globals {
   void LoadLimits();
   /// The record and the data classes store themselves, in the order of Save.
   void Store();
+  /// What `Store` would write now, to be compared. Writes nothing.
+  [[nodiscard]] std::string WouldStore();
 };
 
 }  // namespace corvalis

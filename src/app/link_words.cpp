@@ -49,7 +49,12 @@ std::string Words(const SerialPort& port) {
   if (CoderAnswered) {
     words += *CoderAnswered ? "the Coder answered, " : "the Coder did not answer, ";
   }
-  return words + (AddressSent ? "address sent" : "no address sent");
+  if (AddressSent) return words + "address sent";
+  words += "no address sent";
+  const bool reached = LinkOpen && (!configData->Modem() || configData->ModemHookOn());
+  if (!reached) return words;
+  return words + ": " + languageData->MainConnectionKey() + ", " +
+         languageData->ConnectionSendAddressKey();
 }
 
 }  // namespace

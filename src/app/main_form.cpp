@@ -4,6 +4,7 @@
 #include <string>
 
 #include "app/link_words.h"
+#include "busy/transfer_bracket.h"
 #include "busy/wait_form.h"
 #include "config/config_data.h"
 #include "config/conversions.h"
@@ -39,7 +40,11 @@ MainForm::MainForm() : MSComm1(*Machine().port) {
   MSComm1.CommEventRaised = OnComm;
   window.Unloading = [this] { Unload(); };
   // Whatever changes the link does it while this screen is disabled, itself or under another.
-  window.Resumed = [this] { LinkLabel.SetCaption(LinkInWords(MSComm1)); };
+  window.Resumed = [this] {
+    LinkLabel.SetCaption(LinkInWords(MSComm1));
+    FindChanges();
+  };
+  TransferEnded = [this] { FindChanges(); };
 
   Drive1.GotFocus = [this] { Drive1.Refresh(); };  // a medium may have come or gone
   Drive1.Click = [this] { DriveChanged(); };
@@ -69,14 +74,15 @@ MainForm::MainForm() : MSComm1(*Machine().port) {
 }
 
 MainForm::~MainForm() {
+  TransferEnded = nullptr;
   MSComm1.CommEventRaised = nullptr;
   ReleaseLink();
   ReleaseWaitForm();
 }
 
 void MainForm::Load() {
-  window.Show();
   window.SetEnabled(false);
+  window.Show();
   window.SetCaption(std::string(kDesignCaption) + kVersion);
   globals_.CreateConfigData();
   InitMain();
@@ -88,6 +94,7 @@ void MainForm::Load() {
   EnableServices();
   AddressSent = false;
   globals_.CreateDataClasses();
+  Given(nullptr);
   HideWait();
   FocusBack();
 }
@@ -119,6 +126,7 @@ void MainForm::New() {
   ShowWait();
   configData->GetIniFile();
   globals_.LoadForNew();
+  Given(&NewButton);
   ShowFolder();  // Save must not write over the file that was open
   ShowFile();
   HideWait();
@@ -137,6 +145,7 @@ void MainForm::Open() {
   OpenLink(MSComm1);
   if (LinkOpen) ProbeCoder();
   globals_.LoadForOpen();
+  Given(&OpenButton);
   EnableServices();
   ShowFile();
   HideWait();
@@ -149,7 +158,10 @@ void MainForm::Save() {
   configData->SetFile(Text105.Text());
   ProfileStore::Series series(*Machine().profiles);
   globals_.Store();
-  if (series.Finish()) saved_ = Saved{SavePath(), Machine().clock->Now()};
+  if (series.Finish()) {
+    saved_ = Saved{SavePath(), Machine().clock->Now()};
+    Given(&SaveButton);
+  }
   ShowFile();
   HideWait();
   FocusBack();
@@ -219,8 +231,25 @@ void MainForm::MatchFile() { File1.Match(configData->File()); }
 
 void MainForm::ShowPath() {
   const std::string path = SavePath();
-  const bool saved = saved_ && saved_->path == path;
-  PathLabel.SetCaption(saved ? path + "  (saved " + TimeOfDay(saved_->when) + ")" : path);
+  std::string told;
+  if (saved_ && saved_->path == path) told = "saved " + TimeOfDay(saved_->when);
+  if (changed_) {
+    if (!told.empty()) told += ", ";
+    told += given_by_ == nullptr ? "changed since the start"
+                                 : "changed since the last " + given_by_->Caption();
+  }
+  PathLabel.SetCaption(told.empty() ? path : path + "  (" + told + ")");
+}
+
+void MainForm::Given(const Button* by) {
+  given_ = globals_.WouldStore();
+  given_by_ = by;
+  changed_ = false;
+}
+
+void MainForm::FindChanges() {
+  changed_ = globals_.WouldStore() != given_;
+  ShowPath();
 }
 
 void MainForm::EnableServices() {

@@ -51,7 +51,8 @@ class MainForm {
   DirList Dir1{window, "Dir1"};
   FileList File1{window, "File1", kExtension};
   TextBox Text105{window, "Text105", TextBox::Content::kFileName};
-  /// The file that Save writes, in the file system's own bytes, and when it last did.
+  /// The file that Save writes, in the file system's own bytes; when it last did, and whether it
+  /// would write something else now.
   Label PathLabel{window, "PathLabel"};
   Label LinkLabel{window, "LinkLabel"};  ///< what is known of the link
   Button NewButton{window, "NewButton"};
@@ -98,6 +99,8 @@ class MainForm {
   void ShowFile();
   void MatchFile();
   void ShowPath();
+  void Given(const Button* by);
+  void FindChanges();
   void EnableServices();
   void ShowWait();
   void HideWait();
@@ -110,6 +113,11 @@ class MainForm {
 
   Globals globals_;
   std::optional<Saved> saved_;  // the last one that reached the disk
+  // What Save would have written when a file was last read or written, by which button (null: at
+  // the start), and whether it would write the same now.
+  std::string given_;
+  const Button* given_by_ = nullptr;
+  bool changed_ = false;
   std::unique_ptr<RS232CForm> rs232c_;
   std::unique_ptr<ConnectionForm> connection_;
   std::unique_ptr<TaPtyMsForm> ta_pty_ms_;

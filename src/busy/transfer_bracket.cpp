@@ -4,6 +4,8 @@
 
 namespace corvalis {
 
+std::function<void()> TransferEnded;
+
 namespace {
 
 int standing = 0;
@@ -31,6 +33,7 @@ void RunTransfer(Window& screen, const Transfer& transfer) {
     form.window.Hide();
     TransferCloseAllowed = true;
     form.window.Unload();
+    if (TransferEnded) TransferEnded();
   }
   screen.SetEnabled(true);
   screen.SetFocus();

@@ -20,6 +20,10 @@ struct Transfer {
 /// the focus.
 void RunTransfer(Window& screen, const Transfer& transfer);
 
+/// Called when a transfer is over and its screen has gone, before `screen` can be used again; null
+/// for nobody.
+extern std::function<void()> TransferEnded;
+
 /// True while a transfer screen stands, so while the operator can abort what is waited for.
 [[nodiscard]] bool TransferScreenStands();
 

@@ -12,7 +12,6 @@ std::unique_ptr<WaitForm> the_form;
 
 WaitForm::WaitForm() {
   window.SetCaption(" Wait");
-  WaitMessage.SetCaption("Wait please!");
   WaitTimer.Tick = [this] { WaitBar.Tick(); };
   // The operator can't close it: it goes when the work is done.
   window.QueryUnload = [](bool& cancel) { cancel = true; };

@@ -13,8 +13,9 @@ std::string ReadIniKey(std::string_view section, std::string_view key) {
 }
 
 void WriteIniKey(std::string_view section, std::string_view key, std::string_view value) {
-  Machine().profiles->Write(configData->FullFileName(), section, key, value);
-  Machine().pump->RunPending();
+  ProfileStore& profiles = *Machine().profiles;
+  profiles.Write(configData->FullFileName(), section, key, value);
+  if (!profiles.Catching()) Machine().pump->RunPending();
 }
 
 bool ReadIniSwitch(std::string_view section, std::string_view key) {

@@ -7,6 +7,7 @@
 
 #include "desktop/text.h"
 #include "desktop/widgets/windows/front_window.h"
+#include "desktop/widgets/windows/window_view.h"
 
 namespace corvalis::desktop {
 
@@ -27,6 +28,9 @@ QMessageBox::Icon IconOf(BoxStyle style) {
 }  // namespace
 
 void QtDialogs::Show(const Box& box) {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    if (auto* view = dynamic_cast<WindowView*>(window)) view->AwaitNoMore();
+  }
   // Before the window in use; while the person is in another program, before all of ours. Its owner
   // may go, and take it along, while events run.
   const QPointer<QMessageBox> shown =

@@ -79,6 +79,10 @@ std::string ProfileStore::Read(const std::string& path, std::string_view section
 
 bool ProfileStore::Write(const std::string& path, std::string_view section, std::string_view key,
                          std::string_view value) {
+  if (caught_ != nullptr) {
+    for (const std::string_view part : {section, key, value}) caught_->append(part).append("\n");
+    return true;
+  }
   try {
     return files_->Write(path, section, key, value);
   } catch (const std::exception&) {
@@ -92,6 +96,10 @@ ProfileStore::Series::Series(ProfileStore& store) : store_(&store) { store.files
 ProfileStore::Series::~Series() {
   if (store_ != nullptr) store_->files_->EndSeries();
 }
+
+ProfileStore::Catch::Catch(ProfileStore& store) : store_(store) { store.caught_ = &text_; }
+
+ProfileStore::Catch::~Catch() { store_.caught_ = nullptr; }
 
 bool ProfileStore::Series::Finish() { return std::exchange(store_, nullptr)->files_->EndSeries(); }
 

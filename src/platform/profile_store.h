@@ -66,9 +66,30 @@ class ProfileStore {
     ProfileStore* store_;  // null once finished
   };
 
+  /// While it lives no file is written: what would be is caught here, whatever file it is for.
+  /// Reading finds the files as they are. One at a time.
+  class Catch {
+   public:
+    explicit Catch(ProfileStore& store);
+    ~Catch();
+    Catch(const Catch&) = delete;
+    Catch& operator=(const Catch&) = delete;
+
+    /// Section, key and value of each write, in their order.
+    [[nodiscard]] const std::string& Text() const { return text_; }
+
+   private:
+    ProfileStore& store_;
+    std::string text_;
+  };
+  /// True while writes are caught. Whoever writes then lets no event run, whose own writes would be
+  /// caught too.
+  [[nodiscard]] bool Catching() const { return caught_ != nullptr; }
+
  private:
   class Files;
   std::unique_ptr<Files> files_;
+  std::string* caught_ = nullptr;
 };
 
 }  // namespace corvalis

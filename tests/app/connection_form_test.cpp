@@ -112,10 +112,13 @@ TEST_F(ConnectionTest, CoderIds) {
   }
   EXPECT_EQ(form->Text1.Text(), "A1C");
   Boxes();
+  AddressSent = false;
   OpenScreen(File(kSatellite, ""));
+  EXPECT_EQ(form->AddressStateLabel.Caption(), "no address sent: SEND ID first");
   for (Button* button : {&form->Command4, &form->Command5}) {
     AddressSent = false;
     button->Press();
+    EXPECT_EQ(form->AddressStateLabel.Caption(), "address sent");
     EXPECT_EQ(Written().size(), 1U);  // whatever a burst would be
     EXPECT_TRUE(AddressSent);
   }

@@ -8,7 +8,9 @@
 #include <filesystem>
 
 #include "busy/wait_form.h"
+#include "config/language_data.h"
 #include "link/serial_management.h"
+#include "link/transfer.h"
 #include "networks/eon_data.h"
 #include "networks/li_data.h"
 #include "programme/af_a_data.h"
@@ -79,6 +81,7 @@ TEST_F(MainFormTest, StartOnALocalLink) {
   EXPECT_TRUE(LinkOpen);
   EXPECT_EQ(form->Text105.Text(), "corvalis.rds");
   EXPECT_TRUE(form->marks.Logo_KOR.Visible() && form->Text_KOR.Visible());
+  EXPECT_FALSE(form->Timer1.Enabled());
 }
 
 TEST_F(MainFormTest, StartByKindOfLink) {
@@ -86,6 +89,7 @@ TEST_F(MainFormTest, StartByKindOfLink) {
   const std::tuple<const char*, std::size_t, bool, std::size_t> cases[] = {
       {"", 1, true, 0}, {kLocal, 1, false, 1}, {kModem, 0, true, 0}};
   port.answer = [](const Bytes&) { return Bytes{}; };
+  dialogs.Shown = [] { EXPECT_TRUE(TheWaitForm().window.Visible()); };
   for (const auto& [file, written, open, boxes] : cases) {
     port.written.clear();
     dialogs.boxes.clear();
@@ -266,22 +270,23 @@ TEST_F(MainFormTest, OverACallTheNetworksAreAskedWhateverTheModel) {
 
 TEST_F(MainFormTest, LinkInWords) {
   const auto words = [this] { return form->LinkLabel.Caption(); };
+  const std::string leads_on = ": CONNECTION, SEND ID";
   Run(kLocal);
-  EXPECT_EQ(words(), "Local, COM 1, 9600,N,8,2: the Coder answered, no address sent");
+  EXPECT_EQ(words(), "Local, COM 1, 9600,N,8,2: the Coder answered, no address sent" + leads_on);
   form->CtTpDiPiButton.Press();
   AddressSent = true;
   form->OpenedCtTpDiPi()->window.Close();
   EXPECT_EQ(words(), "Local, COM 1, 9600,N,8,2: the Coder answered, address sent");
   const std::string opens_anew = "; OPEN or SETUP opens it anew";
-  const std::tuple<const char*, const char*, std::string> cases[] = {
+  const std::tuple<const char*, std::string, std::string> cases[] = {
       // Open on this file; and after New, on the default one.
-      {"", "Satellite, COM 1, 9600,N,8,2: no address sent",
+      {"", "Satellite, COM 1, 9600,N,8,2: no address sent" + leads_on,
        "COM 1 is open for a one-way path" + opens_anew},
       {"Satellite=Off\nSerialPort=2\n",
-       "Local, COM 2, 9600,N,8,2: the Coder answered, no address sent",
+       "Local, COM 2, 9600,N,8,2: the Coder answered, no address sent" + leads_on,
        "COM 2 is open, not COM 1" + opens_anew},
       {"Satellite=Off\nBaudrate=1200\n",
-       "Local, COM 1, 1200,N,8,2: the Coder answered, no address sent",
+       "Local, COM 1, 1200,N,8,2: the Coder answered, no address sent" + leads_on,
        "COM 1 is open with 1200,N,8,2, not 9600,N,8,2" + opens_anew}};
   for (const auto& [file, after_open, after_new] : cases) {
     WriteFile(machine.program_folder + "/other.rds", std::string("[Serial Setup]\n") + file);
@@ -295,6 +300,10 @@ TEST_F(MainFormTest, LinkInWords) {
   EXPECT_EQ(words(), "Local, COM 1, 9600,N,8,2: the Coder did not answer, no address sent");
   Run(kModem);
   EXPECT_EQ(words(), "Modem, COM 1, 9600,N,8,2: no address sent");
+  configData->SetModemHookOn(true);  // a call
+  form->window.SetEnabled(false);
+  form->window.SetEnabled(true);
+  EXPECT_EQ(words(), "Modem, COM 1, 9600,N,8,2: no address sent" + leads_on);
   port.missing[1] = "no such port";
   OpenFile("corvalis.rds");
   EXPECT_EQ(words(), "Modem: COM 1 is not open");
@@ -303,10 +312,59 @@ TEST_F(MainFormTest, LinkInWords) {
 TEST_F(MainFormTest, OnTheFirstStartTheLinkSaysThatItIsOneWayAndHowToChooseAnother) {
   form = std::make_unique<MainForm>();
   form->Load();
+  const std::string leads_on = ": CONNECTION, SEND ID";
   const std::string hint = "; one way, unless SETUP says Local or Modem";
-  EXPECT_EQ(form->LinkLabel.Caption(), "Satellite, COM 1, 9600,N,8,2: no address sent" + hint);
+  EXPECT_EQ(form->LinkLabel.Caption(),
+            "Satellite, COM 1, 9600,N,8,2: no address sent" + leads_on + hint);
   form->SaveButton.Press();
-  EXPECT_EQ(form->LinkLabel.Caption(), "Satellite, COM 1, 9600,N,8,2: no address sent");
+  EXPECT_EQ(form->LinkLabel.Caption(), "Satellite, COM 1, 9600,N,8,2: no address sent" + leads_on);
+}
+
+TEST_F(MainFormTest, WhatIsNotSavedIsSaid) {
+  Run(kLocal);
+  WriteFile(machine.program_folder + "/other.rds", "[PI]\nCountry=007\nProgram Number=+\n");
+  const std::string path = machine.program_folder + "/corvalis.rds";
+  const auto told = [this](const std::string& of) {
+    return form->PathLabel.Caption().substr(of.size());
+  };
+  // What a person does on a screen, and undoes.
+  const auto change = [this](std::uint8_t country, const std::string& name) {
+    form->CtTpDiPiButton.Press();
+    configData->SetCountry(country);
+    psnPageData->SetData(0, 0, name);
+    form->OpenedCtTpDiPi()->window.Close();
+  };
+  const auto country = static_cast<std::uint8_t>(configData->Country());
+  const std::string name = psnPageData->Data(0, 0);
+  EXPECT_EQ(told(path), "");
+  change(country, "LATE");
+  EXPECT_EQ(told(path), "  (changed since the start)");
+  change(country, name);
+  EXPECT_EQ(told(path), "");
+  change(3, name);
+  form->SaveButton.Press();
+  EXPECT_EQ(told(path), "  (saved 12:00:00)");
+  change(4, name);
+  EXPECT_EQ(told(path), "  (saved 12:00:00, changed since the last SAVE)");
+  EXPECT_EQ(profiles.Read(path, "PI", "Country"), "3");  // to look has written nothing
+  port.missing[1] = "no such port";
+  OpenFile("other.rds");
+  EXPECT_EQ(told(machine.program_folder + "/other.rds"), "");
+  change(5, name);
+  EXPECT_EQ(told(machine.program_folder + "/other.rds"), "  (changed since the last OPEN)");
+  form->NewButton.Press();
+  change(6, name);
+  EXPECT_EQ(told(path), "  (saved 12:00:00, changed since the last NEW)");
+  configData->SetPath(folder + "/not there");
+  form->SaveButton.Press();
+  EXPECT_EQ(form->PathLabel.Caption(),
+            folder + "/not there/corvalis.rds  (changed since the last NEW)");
+  // A read from the Coder, while its screen stands.
+  configData->SetPath(machine.program_folder);
+  form->NewButton.Press();
+  Window screen(this, "Screen");
+  RunRead(screen, [] { configData->SetCountry(9); });
+  EXPECT_EQ(told(path), "  (saved 12:00:00, changed since the last NEW)");
 }
 
 TEST_F(MainFormTest, FileOperationsRunOnADisabledMenu) {
@@ -334,8 +392,10 @@ TEST_F(MainFormTest, FilePanelFollowsTheFolder) {
   WriteFile(machine.program_folder + "/from a stick.rds", "");
   form->Dir1.Choose(form->Dir1.Here());
   EXPECT_EQ(form->File1.Count(), 2);
+  configData->SetDrive("");
   form->Drive1.Choose(0);
   EXPECT_EQ(configData->Path(), "/");
+  EXPECT_EQ(configData->Drive(), form->Drive1.Drive());
 }
 
 TEST_F(MainFormTest, FolderThatCantBeWrittenLosesAndShowsNothing) {
@@ -368,6 +428,7 @@ TEST_F(MainFormTest, EndSendsEnqWhereTheCoderCanBeReached) {
     form->window.Close();
     port.Wrote = nullptr;
     EXPECT_EQ(ended, 1);
+    EXPECT_EQ(std::tuple(afAData, languageData), std::tuple(nullptr, nullptr));
     const std::vector<int> codes = Codes();
     EXPECT_EQ(std::count(codes.begin(), codes.end(), kEnqFrame), enqs);
   }

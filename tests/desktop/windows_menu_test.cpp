@@ -12,7 +12,19 @@ namespace {
 using WindowsMenuTest = RunningProgram;
 
 TEST_F(WindowsMenuTest, StartsOnItsFileWithTheScreensThatThereAre) {
-  StartWithCoder({"--open"}, std::string(kLocalFile) + "[RDS Setup]\nGroups Enable=On\n");
+  // While it loads there is no menu to press a button of.
+  int looks = 0;
+  QTimer looking;
+  QObject::connect(&looking, &QTimer::timeout, &looking, [&looks] {
+    if (OnScreen(kWait) == nullptr) return;
+    ++looks;
+    EXPECT_EQ(OnScreen(kMain), nullptr);
+  });
+  looking.start(1);
+  StartWithCoder({"--open", "--late", "40"},
+                 std::string(kLocalFile) + "[RDS Setup]\nGroups Enable=On\n");
+  looking.stop();
+  EXPECT_GT(looks, 0);
   EXPECT_EQ(hand.Window(kMain).windowTitle(),
             "  Main Menu                                 -CORVALIS-        V2.02.60724.1");
   EXPECT_EQ(OnScreen(kWait), nullptr);
@@ -35,6 +47,7 @@ TEST_F(WindowsMenuTest, StartsOnItsFileWithTheScreensThatThereAre) {
 
 TEST_F(WindowsMenuTest, APortThatIsNotThereIsSaidOnceAndAllElseWorks) {
   Plug("/dev/corvalis-unplugged");
+  during_box = [] { EXPECT_NE(OnScreen(kMain), nullptr); };
   Start(kLocalFile);
   EXPECT_EQ(Boxes(), Lines{"COM 1 (/dev/corvalis-unplugged): No such file or directory"});
   OpenIdentity();

@@ -9,6 +9,7 @@
 #include "desktop/widgets/presses/check_box_widget.h"
 #include "desktop/widgets/presses/option_widget.h"
 #include "desktop/widgets/texts/label_widget.h"
+#include "desktop/widgets/texts/state_line.h"
 #include "link/list_commands.h"
 
 namespace corvalis::desktop {
@@ -32,6 +33,7 @@ QWidget* CoderId(ConnectionForm& form, QWidget* parent) {
   QGridLayout* fields = Fields(group);
   AddField(*fields, form.AddressLabel, IdLine(form.Text1, form.Command4, group));
   AddField(*fields, form.NewAddressLabel, IdLine(form.Text2, form.Command5, group));
+  AddLine(*fields, new StateLine(form.AddressStateLabel, TextBox::Content::kWindows1252, group));
   return group;
 }
 

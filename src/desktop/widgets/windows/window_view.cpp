@@ -102,6 +102,19 @@ bool WindowView::ClosesOnEscape(const QWidget& focus) const {
 }
 
 void WindowView::Present(QWidget* owner) {
+  awaited_ = isHidden() && !TakesInput();
+  awaited_owner_ = owner;
+  if (!awaited_) PutUp(owner);
+}
+
+void WindowView::AwaitNoMore() {
+  if (!std::exchange(awaited_, false)) return;
+  // While they are hidden, parts that grow do not tell the layouts around theirs.
+  for (auto* part : findChildren<QWidget*>()) part->updateGeometry();
+  PutUp(awaited_owner_);
+}
+
+void WindowView::PutUp(QWidget* owner) {
   if (timers_.empty()) {
     for (Control* control : model_->Controls()) {
       auto* timer = dynamic_cast<Timer*>(control);
@@ -121,7 +134,7 @@ void WindowView::Present(QWidget* owner) {
     SetReadingOrder(*this);
     // A screen that opens anew starts at its first control.
     if (model_->Focus() == nullptr && focusWidget() != nullptr) focusWidget()->clearFocus();
-    if (owner != nullptr) PlaceBefore(*owner);
+    if (owner != nullptr && owner->isVisible()) PlaceBefore(*owner);
   }
   setWindowTitle(FromBytes(model_->Caption()));
   GiveMnemonics(*this);
@@ -158,7 +171,11 @@ void WindowView::Leave() {
 void WindowView::Draw() {
   const QString title = FromBytes(model_->Caption());
   if (windowTitle() != title) setWindowTitle(title);
-  if (!model_->Visible()) TakeDown();
+  if (!model_->Visible()) {
+    awaited_ = false;
+    TakeDown();
+  }
+  if (model_->Enabled()) AwaitNoMore();
   RunTimers();
   const bool was_enabled = std::exchange(enabled_, model_->Enabled());
   if (enabled_ && !was_enabled) since_busy_.start();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 #include <map>
@@ -20,8 +21,11 @@ class WindowView : public QWidget {
   explicit WindowView(Window& model);
   ~WindowView() override;
 
-  /// The window has become visible, in front of `owner` (null: of none).
+  /// The window has become visible, in front of `owner` (null: of none). One that can't be used yet
+  /// comes up once it can: nobody is to press what is not there for him.
   void Present(QWidget* owner);
+  /// Comes up at once if it is still waiting for that: a box is not to stand before nothing.
+  void AwaitNoMore();
   /// The model ends: nothing of it is touched any more. Hides, and deletes itself once no event of
   /// it is under way.
   void Leave();
@@ -45,6 +49,7 @@ class WindowView : public QWidget {
   [[nodiscard]] virtual QPoint PlaceOver(const QRect& owner) const;
 
  private:
+  void PutUp(QWidget* owner);
   void Draw();
   void TakeDown();
   void RunTimers();
@@ -58,6 +63,8 @@ class WindowView : public QWidget {
   QTimer veil_delay_;
   std::map<Timer*, QTimer*> timers_;
   bool enabled_ = true;
+  bool awaited_ = false;  // to come up once it can be used, in front of this one
+  QPointer<QWidget> awaited_owner_;
   QElapsedTimer since_busy_;  // since the window was enabled again
   bool in_model_ = false;     // the model is moving the focus, or closing
 };
