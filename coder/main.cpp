@@ -10,6 +10,7 @@
 
 #include "coder/memory_text.h"
 #include "coder/options.h"
+#include "coder/outlet.h"
 #include "coder/server.h"
 
 namespace {
@@ -62,6 +63,9 @@ int main(int argc, char** argv) {
 
   try {
     coder::Server(options, std::move(held)).Run(signalfd(-1, &taken, SFD_CLOEXEC));
+  } catch (const coder::CannotWrite& error) {
+    std::cerr << "corvalis-coder: " << error.what() << "\n";
+    return 2;
   } catch (const std::exception& error) {
     std::cerr << "corvalis-coder: " << error.what() << "\n";
     return 1;

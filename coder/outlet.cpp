@@ -6,7 +6,6 @@
 
 #include <cerrno>
 #include <cstring>
-#include <stdexcept>
 #include <utility>
 
 namespace corvalis::coder {
@@ -39,7 +38,7 @@ Outlet::Outlet(std::string path) : path_(std::move(path)) {
     descriptor_ = open(path_.c_str(), kFlags | O_CREAT | O_TRUNC, kMode);
   }
   if (descriptor_ < 0) {
-    throw std::runtime_error("cannot write " + path_ + ": " + std::strerror(errno));
+    throw CannotWrite("cannot write " + path_ + ": " + std::strerror(errno));
   }
   Opened();
 }

@@ -1,18 +1,24 @@
 #pragma once
 
-#include <cstdint>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 
 namespace corvalis::coder {
+
+/// What is thrown for a path that cannot be written, with a sentence for people.
+class CannotWrite : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
 
 /// Where something that never pauses is written to: a file, a FIFO, a device or "-", the standard
 /// output. It never waits for who reads. A FIFO is open while it has a reader; each new reader gets
 /// what comes from then on.
 class Outlet {
  public:
-  /// A file is made or emptied. Throws `std::runtime_error` with a sentence for people if it cannot
-  /// be written. That a FIFO has no reader yet is no reason.
+  /// A file is made or emptied. Throws `CannotWrite` if it cannot be written. That a FIFO has no
+  /// reader yet is no reason.
   explicit Outlet(std::string path);
   ~Outlet();
   Outlet(Outlet&& other) noexcept;

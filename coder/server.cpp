@@ -35,17 +35,20 @@ Server::Server(Options options, Coder coder)
     coder_.Happened = [this](const Event& event) { Words() << Describe(event) << std::endl; };
   }
   PlugModem();
+  if (options_.air.Wanted()) transmitter_.emplace(coder_, options_.air, std::cerr);
 }
 
 void Server::Run(int signals) {
   Announce();
+  if (transmitter_) transmitter_->Begin(Clock::now());
   for (bool running = true; running;) {
     // A negative descriptor is one that poll passes over.
-    std::array<pollfd, 4> polled = {{
+    std::array<pollfd, 5> polled = {{
         {signals, POLLIN, 0},
         {terminal_ ? terminal_->Descriptor() : -1, POLLIN, 0},
         {terminal_ ? terminal_->CloseDescriptor() : -1, POLLIN, 0},
         {options_.with_stdin ? STDIN_FILENO : -1, POLLIN, 0},
+        {transmitter_ ? transmitter_->BusyDescriptor() : -1, POLLOUT, 0},
     }};
     timespec wait{};
     const auto due = NextDue();
@@ -65,7 +68,12 @@ void Server::Run(int signals) {
       std::array<char, 256> ignored{};
       if (read(STDIN_FILENO, ignored.data(), ignored.size()) <= 0) running = false;
     }
+    if (transmitter_) {
+      transmitter_->RunDue(Clock::now());
+      running = running && !transmitter_->Over();
+    }
   }
+  if (transmitter_) transmitter_->End();
   terminal_.reset();
   if (options_.dump) PrintMemory();
 }
@@ -223,6 +231,7 @@ std::optional<Server::Time> Server::NextDue() const {
   std::optional<Time> next = replug_;
   const auto consider = [&next](Time time) { next = next ? std::min(*next, time) : time; };
   if (dialled_) consider(*dialled_);
+  if (const auto air = transmitter_ ? transmitter_->NextDue() : std::nullopt) consider(*air);
   if (!leaving_.empty()) consider(leaving_.front().due);
   if (!arriving_.empty()) {
     consider(last_arrival_ + ByteTime());

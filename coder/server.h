@@ -13,6 +13,7 @@
 #include "coder/modem.h"
 #include "coder/options.h"
 #include "coder/pseudo_terminal.h"
+#include "coder/transmitter.h"
 
 namespace corvalis::coder {
 
@@ -24,8 +25,9 @@ class Server {
   /// had.
   Server(Options options, Coder coder);
 
-  /// Runs until SIGINT, SIGTERM or SIGHUP comes, or the standard input closes where that was asked
-  /// for. `signals` is a signal descriptor for these and SIGUSR1.
+  /// Runs until as many groups as were asked for are on the air, until SIGINT, SIGTERM or SIGHUP
+  /// comes, or the standard input closes where that was asked for. `signals` is a signal descriptor
+  /// for these and SIGUSR1.
   void Run(int signals);
 
  private:
@@ -63,6 +65,7 @@ class Server {
   Coder coder_;
   Line line_;
   std::optional<Modem> modem_;
+  std::optional<Transmitter> transmitter_;
   std::unique_ptr<PseudoTerminal> terminal_;  // null while unplugged
   std::deque<std::uint8_t> arriving_;         // on the wire, at line speed
   std::deque<Departure> leaving_;

@@ -137,6 +137,7 @@ TEST(Options, SayWhatIsWrong) {
        "--count wants counts such as psn=50,page=10, none twice and none above "
        "psn=255,page=15,plan=255,rt=255,pin=255,af=255,eon=255,tmc=255,ih=4095, not "
        "\"pin=10,page=16\""},
+      {{"--air-speed", "0", "--air", "-"}, "--air-speed 0 wants --air-groups"},
       {{"--late", "-1"}, "--late wants a number of milliseconds from 0, not \"-1\""},
   };
   for (const auto& c : cases) {
