@@ -12,11 +12,12 @@ namespace corvalis::coder {
 
 /// Where the air goes, and how fast.
 struct AirOptions {
-  std::string text;  ///< path for the groups as hexadecimal text; empty: none, "-": standard output
-  std::string bits;  ///< the same as bits
-  std::string mpx;   ///< the same as the multiplex signal
-  int speed = 1;     ///< times as fast as the air; 0: as fast as it can
-  int groups = 0;    ///< end after so many; 0: never
+  std::string text =
+      {};  ///< path for the groups as hexadecimal text; empty: none, "-": standard output
+  std::string bits = {};  ///< the same as bits
+  std::string mpx = {};   ///< the same as the multiplex signal
+  int speed = 1;          ///< times as fast as the air; 0: as fast as it can
+  int groups = 0;         ///< end after so many; 0: never
 
   /// True if anything goes on the air at all.
   [[nodiscard]] bool Wanted() const;
