@@ -1,5 +1,6 @@
 #include "desktop/text.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <algorithm>
 
@@ -28,6 +29,13 @@ QString OneLine(const QString& clip) {
     if (character.unicode() >= u' ') line += character;
   }
   return line;
+}
+
+std::string KnownBytes(QString text) {
+  const auto all = text.size();
+  text.removeIf([](QChar character) { return machine::ByteOf(character) < 0; });
+  if (text.size() < all) QApplication::beep();
+  return ToBytes(text);
 }
 
 int KeyCode(const QKeyEvent& event) {

@@ -24,6 +24,10 @@ using machine::ToFileName;
 /// What a box of one line takes of a text: its first line, without control characters.
 [[nodiscard]] QString OneLine(const QString& clip);
 
+/// The bytes of those characters that the code page has; a beep if there were others, so that what
+/// is struck, composed or pasted gets no "?" that nobody meant.
+[[nodiscard]] std::string KnownBytes(QString text);
+
 /// The key as a form gets it (see screen/keys.h): a character of Windows-1252, or the control
 /// character of back space, Enter, ESC and Ctrl with a letter. `kKeyCancelled` for every other key
 /// (arrows, Tab, Delete, what is struck together with Alt), and for a character that the code page

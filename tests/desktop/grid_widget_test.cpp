@@ -95,6 +95,8 @@ TEST_F(GridWidgetTest, TheModelKeepsTheToolkitsRules) {
     EXPECT_EQ(view_->model()->rowCount(), static_cast<int>(rows));
   }
   Key(Qt::Key_Down);
+  EXPECT_TRUE(view_->selectionModel()->isRowSelected(1));
+  EXPECT_FALSE(view_->selectionModel()->isRowSelected(0));
   Key(Qt::Key_End);
   Key(Qt::Key_Space);
   EXPECT_EQ(form_.grid.Shown(1, 3), "ON");

@@ -41,6 +41,12 @@ TEST_F(WidgetsTest, NothingGetsPastTheRuleOfABox) {
   QCoreApplication::sendEvent(view_->box, &drop);
   Compose(view_->box, "zz");
   EXPECT_EQ(screen_.refused, 7);
+  screen_.box.KeyPress = nullptr;
+  QApplication::clipboard()->setText(QStringLiteral(u"BЖ😀"));
+  view_->box->selectAll();
+  QTest::keyClick(view_->box, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(screen_.box.Text(), "B");  // no "?" for what the code page lacks
+  screen_.box.SetText("5AB0");
   EXPECT_EQ(screen_.box.Text(), "5AB0");
   EXPECT_EQ(view_->box->text(), "5AB0");
 }
@@ -117,6 +123,16 @@ TEST_F(WidgetsTest, TabsThatAreHiddenOrDisabledArePassedOver) {
   EXPECT_EQ(screen_.tabs.Tab(), 1);
 }
 
+TEST_F(WidgetsTest, AnOpenMenuGoesWithItsWindow) {
+  QContextMenuEvent asked(QContextMenuEvent::Keyboard, {}, view_->mapToGlobal(QPoint()));
+  QCoreApplication::sendEvent(view_->box, &asked);
+  ASSERT_NE(QApplication::activePopupWidget(), nullptr);
+  Click(view_->check);  // the keyboard is the menu's, and yet it is a press
+  EXPECT_TRUE(screen_.check.Checked());
+  screen_.window.Hide();
+  EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+}
+
 TEST_F(WidgetsTest, ACheckBoxShowsWhatTheFormMakesOfAPress) {
   QTest::keyClick(view_->check, Qt::Key_Space);
   EXPECT_TRUE(screen_.check.Checked());
@@ -153,6 +169,10 @@ TEST_F(WidgetsTest, AMemoKeepsEveryByteThereIs) {
   QTest::keyClick(view_->memo, Qt::Key_End, Qt::ControlModifier);
   QTest::keyClicks(view_->memo, "y");
   EXPECT_EQ(screen_.memo.Text(), text + "y");
+  QApplication::clipboard()->setText(u'\u0416' + QString(1'000'000, u'a'));
+  QTest::keyClick(view_->memo, Qt::Key_A, Qt::ControlModifier);
+  QTest::keyClick(view_->memo, Qt::Key_V, Qt::ControlModifier);
+  EXPECT_EQ(screen_.memo.Text(), std::string(16'384, 'a'));  // cut before it is laid out
 }
 
 TEST_F(WidgetsTest, ACalendarMovesByKeysAndShowsTheDateOfTheModel) {

@@ -114,6 +114,8 @@ TEST_F(WindowsTransferTest, EscEndsAWaitAndNothingElseDoes) {
     during_transfer = [&] {
       static_cast<void>(hand.Window(kTransfer));
       EXPECT_EQ(Focus(), "Command1");
+      for (const auto key : {Qt::Key_Space, Qt::Key_Return}) Press(key);
+      EXPECT_FALSE(EscPressed);  // struck again on the button that began it
       const int filled = Filled();
       EXPECT_TRUE(QTest::qWaitFor([&] { return Filled() > filled; }));
       ExpectNotToClose({kTransfer, kStation, kMain});

@@ -1,5 +1,7 @@
 #include "desktop/views/busy_views.h"
 
+#include <QKeyEvent>
+
 #include "desktop/widgets/look/brand_header.h"
 #include "desktop/widgets/look/layout.h"
 #include "desktop/widgets/look/progress_bar_widget.h"
@@ -26,6 +28,20 @@ SerialCommunicationView::SerialCommunicationView(SerialCommunicationForm& form)
   QVBoxLayout* column = WindowColumn(this);
   column->addWidget(new ProgressBarWidget(form.ProgressBar1, this));
   column->addWidget(new ButtonWidget(form.Command1, this), 0, Qt::AlignHCenter);
+  findChild<ButtonWidget*>()->installEventFilter(this);
+}
+
+void SerialCommunicationView::showEvent(QShowEvent* event) {
+  WindowView::showEvent(event);
+  since_shown_.start();
+}
+
+bool SerialCommunicationView::eventFilter(QObject* button, QEvent* event) {
+  if (event->type() == QEvent::KeyPress && !since_shown_.hasExpired(kDeafMs) &&
+      static_cast<QKeyEvent*>(event)->key() != Qt::Key_Escape) {
+    return true;
+  }
+  return WindowView::eventFilter(button, event);
 }
 
 }  // namespace corvalis::desktop

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QElapsedTimer>
+
 #include "busy/serial_communication_form.h"
 #include "busy/wait_form.h"
 #include "desktop/widgets/windows/window_view.h"
@@ -16,7 +18,8 @@ class WaitView : public WindowView {
   [[nodiscard]] QPoint PlaceOver(const QRect& owner) const override;
 };
 
-/// A transfer is under way, and can be aborted.
+/// A transfer is under way, and can be aborted. In its first second ESC and the mouse alone do it:
+/// what is struck again on the button that began it must not end it in silence.
 class SerialCommunicationView : public WindowView {
  public:
   explicit SerialCommunicationView(SerialCommunicationForm& form);
@@ -24,6 +27,13 @@ class SerialCommunicationView : public WindowView {
  protected:
   /// A press beside the button leaves the keyboard with it.
   void mousePressEvent(QMouseEvent* /*event*/) override {}
+  void showEvent(QShowEvent* event) override;
+  bool eventFilter(QObject* button, QEvent* event) override;
+
+ private:
+  static constexpr qint64 kDeafMs = 1000;
+
+  QElapsedTimer since_shown_;
 };
 
 }  // namespace corvalis::desktop

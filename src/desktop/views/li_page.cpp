@@ -21,13 +21,10 @@ LiPage::LiPage(LiTab& tab, QWidget* parent) : QWidget(parent) {
     fields->addWidget(new CheckBoxWidget(*box, linkage), fields->rowCount(), 0, 1, 2);
   }
   AddField(*fields, tab.LiLsnLabel, CodeBox(tab.LiLsnText, kLsnDigits, linkage));
-  QVBoxLayout* column = Column(this);
-  column->setContentsMargins(0, kApart, 0, 0);
-  column->setSpacing(kGap);
+  QVBoxLayout* column = NaturalColumn(this);
   column->addWidget(linkage);
   column->addWidget(
       ButtonRow({&tab.ReadLiCommand, &tab.SendLiCommand, &tab.SendLiBurstCommand}, this));
-  column->addStretch();
 }
 
 }  // namespace corvalis::desktop

@@ -19,10 +19,7 @@ PtynPage::PtynPage(PtynTab& tab, QWidget* parent) : QWidget(parent) {
   AddLine(*fields, ButtonRow({&tab.ReadPtynCommand, &tab.ReadPtynAllCommand, &tab.SendPtynCommand,
                               &tab.SendPtynAllCommand, &tab.SendPtynBurstCommand},
                              name));
-  QVBoxLayout* column = Column(this);
-  column->setContentsMargins(0, kApart, 0, 0);
-  column->addWidget(name);
-  column->addStretch();
+  NaturalColumn(this)->addWidget(name);
 }
 
 }  // namespace corvalis::desktop

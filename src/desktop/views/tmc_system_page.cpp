@@ -16,9 +16,7 @@ constexpr int kDigits = 2;
 }  // namespace
 
 TmcSystemPage::TmcSystemPage(TmcSystemTab& tab, QWidget* parent) : QWidget(parent) {
-  QVBoxLayout* column = Column(this);
-  column->setContentsMargins(0, kApart, 0, 0);
-  column->setSpacing(kApart);
+  QVBoxLayout* column = NaturalColumn(this);
 
   auto* numbers = new QGroupBox(QStringLiteral("System"), this);
   QGridLayout* fields = Fields(numbers);
@@ -39,7 +37,6 @@ TmcSystemPage::TmcSystemPage(TmcSystemTab& tab, QWidget* parent) : QWidget(paren
   column->addWidget(ButtonRow(
       {&tab.ReadTmcSystemCommand, &tab.SendTmcSystemCommand, &tab.SendTmcSystemBurstCommand},
       this));
-  column->addStretch();
 }
 
 }  // namespace corvalis::desktop

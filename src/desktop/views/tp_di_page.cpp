@@ -32,9 +32,7 @@ QWidget* Pairs(const QString& title, std::initializer_list<Pair> pairs, QWidget*
 }  // namespace
 
 TpDiPage::TpDiPage(TpDiTab& tab, QWidget* parent) : QWidget(parent) {
-  QVBoxLayout* column = Column(this);
-  column->setContentsMargins(0, kApart, 0, 0);
-  column->setSpacing(kApart);
+  QVBoxLayout* column = NaturalColumn(this);
   column->addWidget(Pairs(QStringLiteral("TP"), {{&tab.Check1, &tab.Check10}}, this));
   column->addWidget(Pairs(QStringLiteral("DI"),
                           {{&tab.Check2, &tab.Check3},
@@ -43,7 +41,6 @@ TpDiPage::TpDiPage(TpDiTab& tab, QWidget* parent) : QWidget(parent) {
                            {&tab.Check8, &tab.Check9}},
                           this));
   column->addWidget(ButtonRow({&tab.Command3, &tab.Command4, &tab.Command5}, this));
-  column->addStretch();
 }
 
 }  // namespace corvalis::desktop

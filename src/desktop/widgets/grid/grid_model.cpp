@@ -42,7 +42,7 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
   if (!index.isValid()) return {};
   const GridColumn& column = grid_.Columns()[static_cast<std::size_t>(index.column())];
-  const Qt::ItemFlags cell = Qt::ItemIsEnabled | Qt::ItemNeverHasChildren;
+  const Qt::ItemFlags cell = Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemNeverHasChildren;
   return column.kind == GridColumn::Kind::kText ? cell | Qt::ItemIsEditable : cell;
 }
 

@@ -55,14 +55,28 @@ void GridWidget::FitFont() {
   horizontalHeader()->setFont(delegate_->HeadingFont());
   verticalHeader()->setMinimumSectionSize(delegate_->RowHeight());
   verticalHeader()->setDefaultSectionSize(delegate_->RowHeight());
+  natural_width_ = 0;
   for (int column = 0; column < model_->columnCount(); ++column) {
     setColumnWidth(column, delegate_->ColumnWidth(column));
+    natural_width_ += columnWidth(column);
   }
+  FillWidth();
   updateGeometry();
 }
 
+// The widest column, which is that of the words, takes the room that is left.
+void GridWidget::FillWidth() {
+  const auto& columns = grid_.Columns();
+  const auto words =
+      std::max_element(columns.begin(), columns.end(),
+                       [](const GridColumn& a, const GridColumn& b) { return a.width < b.width; });
+  const auto column = static_cast<int>(words - columns.begin());
+  const int left = std::max(viewport()->width() - natural_width_, 0);
+  setColumnWidth(column, delegate_->ColumnWidth(column) + left);
+}
+
 QSize GridWidget::sizeHint() const {
-  const int width = horizontalHeader()->length() + verticalScrollBar()->sizeHint().width();
+  const int width = natural_width_ + verticalScrollBar()->sizeHint().width();
   const int height = horizontalHeader()->sizeHint().height() + kRows * delegate_->RowHeight();
   return QSize(width, height) + QSize(2 * frameWidth(), 2 * frameWidth());
 }
@@ -101,8 +115,10 @@ void GridWidget::Draw() {
 
 void GridWidget::DrawCurrent() {
   const QModelIndex current = model_->index(grid_.Row(), grid_.Column());
-  if (current == currentIndex()) return;
-  selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
+  if (current == currentIndex() && selectionModel()->isRowSelected(grid_.Row())) return;
+  // Nothing is drawn as selected; a screen reader tells the row by it.
+  selectionModel()->setCurrentIndex(
+      current, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
   if (!current.isValid() || !isVisible()) return;
   const QRect cell = visualRect(current);
   QScrollBar& sideways = *horizontalScrollBar();
@@ -163,6 +179,11 @@ void GridWidget::scrollContentsBy(int dx, int dy) {
   QTableView::scrollContentsBy(dx, dy);
   TellView();
   if (Arranged) Arranged();
+}
+
+void GridWidget::resizeEvent(QResizeEvent* event) {
+  FillWidth();
+  QTableView::resizeEvent(event);
 }
 
 void GridWidget::showEvent(QShowEvent* event) {
@@ -271,16 +292,7 @@ void GridWidget::Tab(const QKeyEvent& event) {
   QAbstractScrollArea::focusNextPrevChild(forward);  // NOLINT(bugprone-parent-virtual-call)
 }
 
-void GridWidget::Strike(const QString& characters) {
-  for (const QChar character : characters) {
-    const std::string byte = ToBytes(character);
-    if (FromBytes(byte) == character) {
-      grid_.Type(byte);
-    } else {
-      QApplication::beep();
-    }
-  }
-}
+void GridWidget::Strike(const QString& characters) { grid_.Type(KnownBytes(characters)); }
 
 void GridWidget::keyPressEvent(QKeyEvent* event) {
   event->accept();
@@ -295,7 +307,7 @@ void GridWidget::keyPressEvent(QKeyEvent* event) {
       QApplication::clipboard()->setText(FromBytes(grid_.Shown(current.row(), current.column())));
     }
   } else if (event->matches(QKeySequence::Paste)) {
-    grid_.Paste(ToBytes(OneLine(QApplication::clipboard()->text())));
+    grid_.Paste(KnownBytes(OneLine(QApplication::clipboard()->text())));
   } else if (event->key() == Qt::Key_Delete && !command) {
     grid_.Clear();
   } else if (KeyCode(*event) == kKeyBackspace) {

@@ -30,6 +30,7 @@ class GridWidget : public QTableView {
   bool event(QEvent* event) override;
   void timerEvent(QTimerEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   void showEvent(QShowEvent* event) override;
   void updateGeometries() override;
   void scrollContentsBy(int dx, int dy) override;
@@ -52,6 +53,7 @@ class GridWidget : public QTableView {
   void CloseEditor();
   void OpenEditor();
   void FitFont();
+  void FillWidth();
   void TellView();
   [[nodiscard]] int RowsInView() const;
   /// True if the keyboard is at the table or in its open cell.
@@ -72,6 +74,7 @@ class GridWidget : public QTableView {
   // The last press, for the second one of a double click.
   QPersistentModelIndex pressed_;
   QPoint pressed_at_;
+  int natural_width_ = 0;   // of all columns
   bool arranging_ = false;  // the table is put in step with the grid
   bool passing_ = false;    // the keyboard passes through on its way out
 };

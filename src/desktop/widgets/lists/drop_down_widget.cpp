@@ -61,7 +61,7 @@ void DropDownWidget::Choose(int index) {
 
 void DropDownWidget::mousePressEvent(QMouseEvent* event) {
   // Without the focus the press is void: the control left has taken it back.
-  if (hasFocus()) QComboBox::mousePressEvent(event);
+  if (HasKeyboard(*this)) QComboBox::mousePressEvent(event);
 }
 
 void DropDownWidget::wheelEvent(QWheelEvent* event) { event->ignore(); }

@@ -40,6 +40,16 @@ QVBoxLayout* WindowColumn(QWidget* window) {
   return column;
 }
 
+QVBoxLayout* NaturalColumn(QWidget* page) {
+  auto* content = new QWidget(page);
+  QHBoxLayout* row = Row(page);
+  row->setContentsMargins(0, kApart, 0, 0);
+  row->addWidget(content, 0, Qt::AlignLeft | Qt::AlignTop);
+  QVBoxLayout* column = Column(content);
+  column->setSpacing(kApart);
+  return column;
+}
+
 QVBoxLayout* Column(QWidget* parent) { return Bare<QVBoxLayout>(parent); }
 
 QHBoxLayout* Row(QWidget* parent) { return Bare<QHBoxLayout>(parent); }

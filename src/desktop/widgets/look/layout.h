@@ -16,6 +16,10 @@ namespace corvalis::desktop {
 /// The layout of a whole window, with the window's margins.
 [[nodiscard]] QVBoxLayout* WindowColumn(QWidget* window);
 
+/// The layout of a page with few controls: they keep a natural width, the same for all, at the top
+/// on the left, and the page is empty beside and below them.
+[[nodiscard]] QVBoxLayout* NaturalColumn(QWidget* page);
+
 /// Layouts without margins of their own.
 [[nodiscard]] QVBoxLayout* Column(QWidget* parent);
 [[nodiscard]] QHBoxLayout* Row(QWidget* parent);

@@ -11,6 +11,8 @@
 #include <QToolTip>
 #include <algorithm>
 
+#include "desktop/widgets/look/signs.h"
+
 namespace corvalis::desktop {
 
 namespace {
@@ -353,12 +355,19 @@ int Style::pixelMetric(PixelMetric metric, const QStyleOption* option,
   }
 }
 
+QIcon Style::standardIcon(StandardPixmap picture, const QStyleOption* option,
+                          const QWidget* widget) const {
+  const QIcon sign = SignOf(picture);
+  return sign.isNull() ? QProxyStyle::standardIcon(picture, option, widget) : sign;
+}
+
 int Style::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                      QStyleHintReturn* data) const {
   switch (hint) {
     case SH_ItemView_ActivateItemOnSingleClick:
     case SH_ComboBox_Popup:
     case SH_EtchDisabledText:
+    case SH_DialogButtonBox_ButtonsHaveIcons:
       return 0;
     case SH_ToolTipLabel_Opacity:
       return 255;

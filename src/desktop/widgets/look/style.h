@@ -2,6 +2,7 @@
 
 #include <QColor>
 #include <QFont>
+#include <QIcon>
 #include <QProxyStyle>
 
 class QApplication;
@@ -74,6 +75,8 @@ class Style : public QProxyStyle {
                                 const QWidget* widget) const override;
   [[nodiscard]] int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
                               QStyleHintReturn* data) const override;
+  [[nodiscard]] QIcon standardIcon(StandardPixmap picture, const QStyleOption* option,
+                                   const QWidget* widget) const override;
 };
 
 /// Gives the program its style, palette and font.

@@ -32,7 +32,7 @@ QSize ButtonWidget::sizeHint() const {
 
 void ButtonWidget::mousePressEvent(QMouseEvent* event) {
   // The press brings the focus first. Where the control left has taken it back, it ends here.
-  if (hasFocus()) QPushButton::mousePressEvent(event);
+  if (HasKeyboard(*this)) QPushButton::mousePressEvent(event);
 }
 
 void ButtonWidget::keyPressEvent(QKeyEvent* event) {

@@ -40,7 +40,7 @@ void CheckBoxWidget::Draw() {
 
 void CheckBoxWidget::mousePressEvent(QMouseEvent* event) {
   // Without the focus the press is void: the control left has taken it back.
-  if (hasFocus()) QCheckBox::mousePressEvent(event);
+  if (HasKeyboard(*this)) QCheckBox::mousePressEvent(event);
 }
 
 void CheckBoxWidget::nextCheckState() {

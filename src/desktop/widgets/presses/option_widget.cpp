@@ -23,7 +23,7 @@ void OptionWidget::Draw() {
 
 void OptionWidget::mousePressEvent(QMouseEvent* event) {
   // Without the focus the press is void: the control left has taken it back.
-  if (hasFocus()) QRadioButton::mousePressEvent(event);
+  if (HasKeyboard(*this)) QRadioButton::mousePressEvent(event);
 }
 
 void OptionWidget::nextCheckState() {

@@ -49,7 +49,7 @@ void SpinnerWidget::stepBy(int steps) {
 
 void SpinnerWidget::mousePressEvent(QMouseEvent* event) {
   // Without the focus the press is void: the control left has taken it back.
-  if (hasFocus()) QAbstractSpinBox::mousePressEvent(event);
+  if (HasKeyboard(*this)) QAbstractSpinBox::mousePressEvent(event);
 }
 
 void SpinnerWidget::wheelEvent(QWheelEvent* event) { event->ignore(); }

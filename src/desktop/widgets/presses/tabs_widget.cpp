@@ -37,7 +37,7 @@ void TabsBar::Draw() {
 
 void TabsBar::mousePressEvent(QMouseEvent* event) {
   // Without the focus the press is void: the control left has taken it back.
-  if (hasFocus()) QTabBar::mousePressEvent(event);
+  if (HasKeyboard(*this)) QTabBar::mousePressEvent(event);
 }
 
 // The base stops at a hidden tab.

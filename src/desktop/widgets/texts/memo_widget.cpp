@@ -16,6 +16,8 @@ namespace corvalis::desktop {
 
 namespace {
 
+// That a paste brings the box to; one line of a megabyte takes a minute to be laid out.
+constexpr qsizetype kLongestText = 16'384;
 constexpr int kFrame = 2;  // the rest of what a box of one line has
 
 /// The length of the line end at `at`: CR LF, CR or LF; 0 if there is none.
@@ -188,13 +190,8 @@ void MemoWidget::keyPressEvent(QKeyEvent* event) {
 
 void MemoWidget::inputMethodEvent(QInputMethodEvent* event) {
   // Only what has been composed reaches the box, so that nothing gets past its rules.
-  for (const QChar character : event->commitString()) {
-    const std::string byte = ToBytes(character);
-    if (FromBytes(byte) == character) {
-      Strike(static_cast<unsigned char>(byte.front()));
-    } else {
-      QApplication::beep();
-    }
+  for (const char byte : KnownBytes(event->commitString())) {
+    Strike(static_cast<unsigned char>(byte));
   }
   event->accept();
 }
@@ -202,7 +199,15 @@ void MemoWidget::inputMethodEvent(QInputMethodEvent* event) {
 void MemoWidget::insertFromMimeData(const QMimeData* source) {
   int key = kKeyPaste;
   if (!source->hasText() || !Allowed(key)) return;
-  textCursor().insertText(Shown(ToBytes(source->text())));
+  const QTextCursor cursor = textCursor();
+  const qsizetype selected = cursor.selectionEnd() - cursor.selectionStart();
+  const qsizetype room = std::max<qsizetype>(kLongestText - Plain().size() + selected, 0);
+  QString text = Shown(KnownBytes(source->text().left(2 * kLongestText)));
+  if (text.size() > room) {
+    text.truncate(room);
+    QApplication::beep();
+  }
+  textCursor().insertText(text);
   ensureCursorVisible();
 }
 

@@ -137,14 +137,7 @@ void TextBoxWidget::Strike(const QString& characters) {
     Draw();
     return;
   }
-  for (const QChar character : characters) {
-    const std::string byte = ToBytes(character);
-    if (FromBytes(byte) == character) {
-      box_.Type(byte);
-    } else {
-      QApplication::beep();
-    }
-  }
+  box_.Type(KnownBytes(characters));
 }
 
 void TextBoxWidget::StrikeBackspace() {
@@ -162,7 +155,9 @@ void TextBoxWidget::StrikeBackspace() {
 
 void TextBoxWidget::Paste(const QString& clip) {
   const QScopedValueRollback<bool> guard(striking_, true);
-  if (const QString line = OneLine(clip); !line.isEmpty()) box_.Paste(Bytes(line));
+  const QString line = OneLine(clip.left(maxLength()));
+  const std::string bytes = FileName() ? Bytes(line) : KnownBytes(line);
+  if (!bytes.empty()) box_.Paste(bytes);
 }
 
 void TextBoxWidget::keyPressEvent(QKeyEvent* event) {

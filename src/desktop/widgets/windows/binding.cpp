@@ -34,6 +34,8 @@ void Bind(QWidget& widget, Control& control, std::function<void()> draw) {
   control.Drawn();
 }
 
+bool HasKeyboard(const QWidget& widget) { return widget.window()->focusWidget() == &widget; }
+
 Control* ControlOf(const Window& window, const QWidget* widget) {
   for (; widget != nullptr; widget = widget->parentWidget()) {
     if (widget->objectName().isEmpty()) continue;

@@ -3,6 +3,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QMenu>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScopedValueRollback>
@@ -163,6 +164,7 @@ void WindowView::Leave() {
   veil_delay_.stop();
   for (const auto& [timer, clock] : timers_) clock->stop();
   disconnect(qApp, nullptr, this, nullptr);
+  CloseMenus();
   for (QObject* child : findChildren<QObject*>()) child->blockSignals(true);
   hide();
   deleteLater();
@@ -193,8 +195,14 @@ void WindowView::Draw() {
 // system's window goes, and with it all that is still on the way to it.
 void WindowView::TakeDown() {
   if (isHidden()) return;
+  CloseMenus();
   hide();
   if (windowHandle() != nullptr) windowHandle()->destroy();
+}
+
+// An open menu that goes without having been closed keeps the keyboard and the mouse from all.
+void WindowView::CloseMenus() {
+  for (auto* menu : findChildren<QMenu*>()) menu->close();
 }
 
 void WindowView::RunTimers() {

@@ -52,6 +52,7 @@ class WindowView : public QWidget {
   void PutUp(QWidget* owner);
   void Draw();
   void TakeDown();
+  void CloseMenus();
   void RunTimers();
   void CloseModel();
   void PlaceBefore(QWidget& owner);
