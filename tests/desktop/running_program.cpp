@@ -181,6 +181,12 @@ void RunningProgram::Press(Qt::Key key) {
   QTest::keyClick(focus, key);
 }
 
+void RunningProgram::StrikeMnemonic(const QString& text) {
+  const QKeySequence key = QKeySequence::mnemonic(text);
+  ASSERT_FALSE(key.isEmpty()) << text.toStdString();
+  QTest::keyClick(QApplication::focusWidget(), key[0].key(), Qt::AltModifier);
+}
+
 QString RunningProgram::Focus() {
   const QWidget* focus = QApplication::focusWidget();
   return focus == nullptr ? QString() : focus->objectName();

@@ -74,6 +74,8 @@ class RunningProgram : public testing::Test {
   static void InHaste(const QStringList& windows, const std::function<void()>& work);
   /// A key for whatever has the keyboard.
   static void Press(Qt::Key key);
+  /// Alt and the letter that is marked in `text`.
+  static void StrikeMnemonic(const QString& text);
   [[nodiscard]] static QString Focus();
   [[nodiscard]] bool Usable(const QString& window, const QString& control) const;
 

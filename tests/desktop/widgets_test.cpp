@@ -153,6 +153,13 @@ TEST_F(WidgetsTest, AMemoKeepsTheBytesThatAreNotTouched) {
   EXPECT_EQ(screen_.memo.Text(), "one\r\nx\r\ntwo\nthree\xA0");
 }
 
+TEST_F(WidgetsTest, WhatIsUndoneInAMemoIsNeverTheTextOfBefore) {
+  for (const char* text : {"the page of before", "the page"}) screen_.memo.SetText(text);
+  view_->memo->setFocus();
+  QTest::keyClick(view_->memo, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_EQ(screen_.memo.Text(), "the page");
+}
+
 TEST_F(WidgetsTest, AMemoKeepsEveryByteThereIs) {
   std::string text = "one\rtwo\ntwo\r\nthree  ";
   for (int i = 0; i < 256; ++i) text += static_cast<char>(i);

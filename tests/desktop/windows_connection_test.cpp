@@ -4,8 +4,6 @@
 
 #include <QAbstractButton>
 #include <QRegularExpression>
-#include <QSocketNotifier>
-#include <QTest>
 #include <algorithm>
 #include <fstream>
 #include <iterator>
@@ -13,9 +11,7 @@
 #include <sstream>
 
 #include "config/config_data.h"
-#include "desktop/own_line.h"
 #include "desktop/running_program.h"
-#include "link/serial_management.h"
 #include "support/places.h"
 
 namespace corvalis::test {
@@ -87,10 +83,6 @@ class WindowsConnectionTest : public RunningProgram {
       EXPECT_TRUE(box->isChecked()) << name.toStdString();
     }
   }
-  void OpenConnection() const {
-    hand.Click(kMain, "ConnectionButton");
-    hand.Click(kConnection, "Command4");
-  }
 };
 
 TEST_F(WindowsConnectionTest, AStationComesBackFromItsCoder) {
@@ -118,7 +110,8 @@ TEST_F(WindowsConnectionTest, AStationComesBackFromItsCoder) {
 
   program.reset();
   Start(kLocalFile);
-  OpenConnection();
+  hand.Click(kMain, "ConnectionButton");
+  hand.Click(kConnection, "Command4");
   TickAll();
   hand.Click(kConnection, "Command1");
   hand.Close(kConnection);
@@ -151,34 +144,6 @@ TEST_F(WindowsConnectionTest, AStationComesBackFromItsCoder) {
     EXPECT_EQ(read[key], AsItComesBack(key, sent)) << key;
   }
   EXPECT_GT(compared, 900);
-}
-
-TEST_F(WindowsConnectionTest, ABurstPutsEveryByteOnTheLineInEachPass) {
-  const OwnLine line;
-  Plug(line.Path());
-  std::size_t bytes = 0;
-  const QSocketNotifier ear(line.Descriptor(), QSocketNotifier::Read);
-  QObject::connect(&ear, &QSocketNotifier::activated, &ear,
-                   [&] { bytes += line.Receive().size(); });
-  Start(Example("satellite.rds"));  // burst 2, so three passes
-  hand.Click(kMain, "ConnectionButton");
-  TickAll();
-  hand.Click(kConnection, "Command12");
-  EXPECT_EQ(Boxes(), Lines{"Before send Address"});
-  hand.Click(kConnection, "Command4");
-  EXPECT_TRUE(
-      QTest::qWaitFor([&] { return bytes == 1 + 10; }));  // the ENQ of the start, and the ID
-  bytes = 0;
-  hand.Click(kConnection, "Command12");
-  constexpr std::size_t kTexts = 50 * 15 + 50 * 71 + 32 * 13;
-  constexpr std::size_t kFrequencies = 100 * 57;
-  constexpr std::size_t kIdentity = 9 + 22 + 6 + 6 + 7 + 7 + 255 * 13;
-  constexpr std::size_t kNetworks = 11 + 10 * 50;
-  constexpr std::size_t kData = 131 * 14 + 13 + 10 * 17;
-  constexpr std::size_t kPass = kTexts + kFrequencies + kIdentity + kNetworks + kData;
-  EXPECT_TRUE(QTest::qWaitFor([&] { return bytes >= 3 * kPass; }));
-  EXPECT_EQ(bytes, 3 * kPass);
-  EXPECT_TRUE(AddressSent);
 }
 
 }  // namespace

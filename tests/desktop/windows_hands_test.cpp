@@ -169,18 +169,13 @@ TEST_F(WindowsHandsTest, EscClosesAWorkingScreenAndNothingElse) {
 TEST_F(WindowsHandsTest, AMnemonicPressesMovesAndTurns) {
   StartWithCoder({"--open"});
   OpenIdentity();
-  const auto strike = [](const QString& text) {
-    const QKeySequence key = QKeySequence::mnemonic(text);
-    ASSERT_FALSE(key.isEmpty()) << text.toStdString();
-    QTest::keyClick(QApplication::focusWidget(), key[0].key(), Qt::AltModifier);
-  };
   static_cast<void>(coder->Arrived());
-  strike(dynamic_cast<QPushButton&>(hand.Control(kStation, "SendEccCommand")).text());
+  StrikeMnemonic(dynamic_cast<QPushButton&>(hand.Control(kStation, "SendEccCommand")).text());
   EXPECT_EQ(coder->Arrived().size(), 1U);
-  strike(dynamic_cast<QLabel&>(hand.Control(kStation, "CoverageLabel")).text());
+  StrikeMnemonic(dynamic_cast<QLabel&>(hand.Control(kStation, "CoverageLabel")).text());
   EXPECT_EQ(Focus(), "CoverageCombo");
   auto& bar = dynamic_cast<QTabBar&>(hand.Control(kStation, "SSTab1"));
-  strike(bar.tabText(1));
+  StrikeMnemonic(bar.tabText(1));
   EXPECT_EQ(bar.currentIndex(), 1);
 }
 

@@ -86,13 +86,5 @@ TEST_F(WindowsMenuTest, NothingGetsInTheWayOfTheLastEnq) {
   EXPECT_EQ(coder->Arrived(), (Lines{"ENQ", "ENQ"}));
 }
 
-TEST_F(WindowsMenuTest, NothingGetsInTheWayOfOpen) {
-  StartWithCoder({"--open", "--late", "40"}, std::string(kLocalFile) + "[PI]\nCoverage=3\n");
-  InHaste({kMain}, [&] { hand.Click(kMain, "OpenButton"); });
-  EXPECT_EQ(coder->Arrived(), (Lines{"ENQ", "ENQ"}));
-  OpenIdentity();
-  EXPECT_EQ(hand.Shown(kStation, "PiText"), "5300");
-}
-
 }  // namespace
 }  // namespace corvalis::test

@@ -1,15 +1,9 @@
 // The road of a transfer through the real windows and the real port, to the Coder and back; and
 // what an operator may do meanwhile.
 
-#include <fcntl.h>
-#include <termios.h>
-#include <unistd.h>
-
 #include <QImage>
-#include <QLineEdit>
 #include <QTest>
 
-#include "desktop/own_line.h"
 #include "desktop/running_program.h"
 #include "desktop/widgets/look/style.h"
 #include "link/serial_management.h"
@@ -40,71 +34,6 @@ class WindowsTransferTest : public RunningProgram {
     hand.Choose(kStation, "CoverageCombo", "Local");
   }
 };
-
-TEST_F(WindowsTransferTest, FromAFileToTheCoderAndBackToTheFile) {
-  WriteFile("alps.rds", std::string(kLocalFile) + "; kept\n[PI]\nCountry=5\nProgram Number=2A\n");
-  StartWithCoder({"--open"});
-  hand.Choose(kMain, "File1", "alps.rds");
-  hand.Click(kMain, "OpenButton");
-  OpenIdentity();
-  EXPECT_EQ(hand.Shown(kStation, "PiText"), "502A");
-  hand.Choose(kStation, "CountryCombo", "Switzerland");
-  hand.Choose(kStation, "CoverageCombo", "National");
-  hand.StepUp(kStation, "VScroll3");
-  EXPECT_EQ(hand.Shown(kStation, "EccText"), "E1");
-  static_cast<void>(coder->Arrived());
-  for (const char* button : {"SendPiCommand", "SendEccCommand", "SendLicCommand"}) {
-    hand.Click(kStation, button);
-  }
-  EXPECT_EQ(coder->Arrived(),
-            (Lines{"PI <- 422B (country 4, coverage 2, programme 2B)", "ECC <- E1", "LIC <- 15"}));
-  hand.Type(kStation, "PiText", "1abc");
-  hand.Click(kStation, "ReadPiCommand");
-  EXPECT_EQ(hand.Shown(kStation, "PiText"), "422B");
-  EXPECT_EQ(hand.Shown(kStation, "CountryCombo"), "Switzerland");
-
-  hand.Close(kStation);
-  hand.Click(kMain, "SaveButton");
-  const std::string saved = ReadFile("alps.rds");
-  for (const char* line : {"; kept\n", "Country=4\n", "Coverage=2\n", "Program Number=2B\n"}) {
-    EXPECT_NE(saved.find(line), std::string::npos) << line << saved;
-  }
-  hand.Type(kMain, "Text105", "night shift");
-  hand.Click(kMain, "SaveButton");
-  EXPECT_NE(ReadFile("night shift.rds").find("Coverage=2\r\n"), std::string::npos);
-  hand.Click(kMain, "NewButton");
-  OpenIdentity();
-  EXPECT_EQ(hand.Shown(kStation, "PiText"), "5000");
-}
-
-TEST_F(WindowsTransferTest, WhatTheRulesRefuseIsRefusedInTheWindow) {
-  StartWithCoder({"--open"});
-  OpenIdentity();
-  for (const char* list : {"CountryCombo", "CoverageCombo", "LicCombo"}) {
-    const QString before = hand.Shown(kStation, list);
-    beeps = 0;
-    QTest::keyClicks(&hand.Control(kStation, list), "sP7 ");
-    EXPECT_EQ(beeps, 4) << list;
-    EXPECT_EQ(hand.Shown(kStation, list), before) << list;
-  }
-  // A fifth character, and characters of no PI.
-  beeps = 0;
-  hand.Type(kStation, "PiText", "1g2-3c4d");
-  EXPECT_EQ(hand.Shown(kStation, "PiText"), "123C");
-  EXPECT_EQ(beeps, 4);
-  // A PI that is none holds the operator fast, and nothing is sent.
-  static_cast<void>(coder->Arrived());
-  auto& box = dynamic_cast<QLineEdit&>(hand.Control(kStation, "PiText"));
-  QTest::mouseClick(&box, Qt::LeftButton);
-  box.selectAll();
-  QTest::keyClicks(&box, "12");
-  beeps = 0;
-  for (const char* other : {"SendPiCommand", "VScroll3"}) hand.Click(kStation, other);
-  EXPECT_EQ(beeps, 2);
-  EXPECT_EQ(Focus(), "PiText");
-  EXPECT_EQ(box.selectedText(), "12");
-  EXPECT_EQ(coder->Arrived(), Lines{});
-}
 
 TEST_F(WindowsTransferTest, EscEndsAWaitAndNothingElseDoes) {
   // With a modem in the path no ENQ goes out at the start.
@@ -175,33 +104,6 @@ TEST_F(WindowsTransferTest, ALineThatIsPulledOutIsFoundAgain) {
   OpenIdentity();
   hand.Click(kStation, "SendPiCommand");
   EXPECT_EQ(coder->Arrived(), (Lines{"ENQ", kSentPi}));
-}
-
-TEST_F(WindowsTransferTest, EscCutsABurstAfterTheFrameAtHand) {
-  const OwnLine line;
-  Plug(line.Path());
-  const int line_end = open(line.Path().c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
-  ASSERT_GE(line_end, 0);
-  Start("[Serial Setup]\nSatellite=On\nBurst=10\n");
-  EXPECT_EQ(line.Receive(), Bytes{kEnq});
-  OpenIdentity();
-  EXPECT_FALSE(hand.Window(kStation).findChild<QWidget*>("ReadPiCommand")->isVisible());
-  hand.Click(kStation, "SendPiBurstCommand");
-  EXPECT_EQ(Boxes(), Lines{"Before send Address"});
-  EXPECT_EQ(line.Receive(), Bytes{});
-  AddressSent = true;
-  // A line that is slow to take the first frame: it stands still until ESC has been pressed.
-  ASSERT_EQ(tcflow(line_end, TCOOFF), 0);
-  during_transfer = [&] {
-    static_cast<void>(hand.Window(kTransfer));
-    Press(Qt::Key_Escape);
-    EXPECT_EQ(line.Receive(), Bytes{});
-    ASSERT_EQ(tcflow(line_end, TCOON), 0);
-  };
-  hand.Click(kStation, "SendPiBurstCommand");
-  ExpectAborted();
-  EXPECT_EQ(line.Receive(), (Bytes{0x02, 0x01, 0x00, '5', '0', '0', '0', 0x03, 0x05}));
-  close(line_end);
 }
 
 }  // namespace

@@ -12,6 +12,8 @@ namespace corvalis::desktop {
 
 namespace {
 
+constexpr Length kPairWidth{150};
+
 using Pair = std::array<CheckBox*, 2>;
 
 // Each pair in a line of its own; what one box says is the opposite of the other.
@@ -24,8 +26,10 @@ QWidget* Pairs(const QString& title, std::initializer_list<Pair> pairs, QWidget*
     grid->addWidget(new CheckBoxWidget(*pair[0], group), row, 0);
     grid->addWidget(new CheckBoxWidget(*pair[1], group), row, 1);
   }
-  grid->setColumnStretch(0, 1);
-  grid->setColumnStretch(1, 1);
+  for (int column = 0; column < 2; ++column) {
+    grid->setColumnStretch(column, 1);
+    grid->setColumnMinimumWidth(column, kPairWidth);  // as wide in both groups
+  }
   return group;
 }
 
