@@ -36,7 +36,6 @@ TEST(DialogsTest, ABoxShowsItsTextAsItStands) {
     EXPECT_EQ(shown.windowTitle(), QStringLiteral(u"Serial \u00FC"));
     EXPECT_EQ(shown.icon(), QMessageBox::Critical);
     EXPECT_EQ(shown.buttons().size(), 1);
-    EXPECT_TRUE(shown.button(QMessageBox::Ok)->icon().isNull());
     shown.button(QMessageBox::Ok)->click();
   });
 }

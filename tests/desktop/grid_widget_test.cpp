@@ -6,6 +6,7 @@
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
+#include <QHeaderView>
 #include <QPointer>
 #include <QScrollBar>
 #include <QTest>
@@ -274,9 +275,10 @@ TEST_F(GridWidgetTest, TheViewIsToldAndScrolls) {
   EXPECT_EQ(At(), "100,2 ab[]");
   EXPECT_EQ(bar.value(), 100);
 
-  View::last->resize(View::last->width(), View::last->height() + 200);
+  View::last->resize(View::last->width() + 100, View::last->height() + 200);
   QCoreApplication::processEvents();
   EXPECT_GT(form_.grid.RowsInView(), in_view);
+  EXPECT_EQ(view_->horizontalHeader()->length(), view_->viewport()->width());
   form_.items.resize(2);
   form_.grid.Restart();
   QCoreApplication::processEvents();

@@ -12,7 +12,7 @@ namespace corvalis::desktop {
 
 namespace {
 
-constexpr Length kPairWidth{150};
+constexpr Length kFirstWidth{150};
 
 using Pair = std::array<CheckBox*, 2>;
 
@@ -26,10 +26,8 @@ QWidget* Pairs(const QString& title, std::initializer_list<Pair> pairs, QWidget*
     grid->addWidget(new CheckBoxWidget(*pair[0], group), row, 0);
     grid->addWidget(new CheckBoxWidget(*pair[1], group), row, 1);
   }
-  for (int column = 0; column < 2; ++column) {
-    grid->setColumnStretch(column, 1);
-    grid->setColumnMinimumWidth(column, kPairWidth);  // as wide in both groups
-  }
+  grid->setColumnMinimumWidth(0, kFirstWidth);  // as wide in both groups
+  grid->setColumnStretch(1, 1);
   return group;
 }
 
