@@ -71,7 +71,7 @@ void NameRotation::Follow(const Coder& coder) {
 
 NameRotation::Segment NameRotation::Next(AirTime now, std::optional<LocalMinute> local) {
   if (segment_ == 0) text_ = Shown(turn_.At(names_, now), local);
-  const auto at = static_cast<std::size_t>(2 * segment_);
+  const auto at = 2 * static_cast<std::size_t>(segment_);
   const Segment next{.number = segment_, .characters = {text_[at], text_[at + 1]}};
   segment_ = (segment_ + 1) % 4;
   return next;

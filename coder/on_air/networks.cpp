@@ -35,12 +35,12 @@ void AddParts(const Bytes& body, std::vector<Part>& parts) {
     return static_cast<std::uint8_t>(HexAt(body, at, 2));
   };
   for (int pair = 0; pair < 4; ++pair) {
-    const auto at = static_cast<std::size_t>(2 * pair);
+    const auto at = 2 * static_cast<std::size_t>(pair);
     add(pair, Two(body[at], body[at + 1]));
   }
 
   std::vector<std::uint8_t> list = {air::kAfCount};
-  for (const std::size_t at : {16, 18}) {
+  for (const std::size_t at : {std::size_t{16}, std::size_t{18}}) {
     if (IsFmCode(code(at))) list.push_back(code(at));
   }
   list[0] = static_cast<std::uint8_t>(air::kAfCount + list.size() - 1);
@@ -50,7 +50,7 @@ void AddParts(const Bytes& body, std::vector<Part>& parts) {
   }
 
   for (int pair = 0; pair < 4; ++pair) {
-    const auto at = static_cast<std::size_t>(20 + 4 * pair);
+    const auto at = 20 + 4 * static_cast<std::size_t>(pair);
     if (IsFmCode(code(at)) && IsFmCode(code(at + 2))) add(5 + pair, Two(code(at), code(at + 2)));
   }
   if (IsFmCode(code(36)) && IsAmCode(code(38))) add(9, Two(code(36), code(38)));
