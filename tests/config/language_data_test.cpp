@@ -143,14 +143,17 @@ TEST_F(LanguageTest, NameOfTheFileByTheRecord) {
   EXPECT_EQ(LanguageData().MainSaveKey(), "ECRIRE");
 }
 
-TEST_F(LanguageTest, GermanFileIsComplete) {
-  std::vector<Text> german = Parse(ReadFile(kExamples + std::string("/German.ini")));
+TEST_F(LanguageTest, FilesOfOtherLanguagesAreComplete) {
   std::vector<Text> english = Defaults();
-  for (Text& text : german) {
-    EXPECT_FALSE(std::exchange(text.value, "").empty()) << text.key;
-  }
   for (Text& text : english) text.value.clear();
-  EXPECT_EQ(german, english);
+  for (const char* name : {"/German.ini", "/French.ini", "/Italian.ini"}) {
+    SCOPED_TRACE(name);
+    std::vector<Text> other = Parse(ReadFile(kExamples + std::string(name)));
+    for (Text& text : other) {
+      EXPECT_FALSE(std::exchange(text.value, "").empty()) << text.key;
+    }
+    EXPECT_EQ(other, english);
+  }
 }
 
 }  // namespace
