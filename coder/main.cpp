@@ -8,6 +8,8 @@
 #include <string>
 #include <utility>
 
+#include "air/judge.h"
+#include "coder/facts.h"
 #include "coder/memory_text.h"
 #include "coder/options.h"
 #include "coder/outlet.h"
@@ -25,6 +27,15 @@ std::string ReadMemoryFile(const std::string& path, corvalis::coder::Coder& code
     return "cannot be read";
   }
   return corvalis::coder::ReadMemory(text.str(), coder);
+}
+
+// What radios will not make of a memory, a line each; 1 if there is anything.
+int Judge(const corvalis::coder::Coder& held) {
+  const auto facts = corvalis::coder::FactsOf(held);
+  const auto findings = corvalis::air::Judge(facts);
+  for (const auto& finding : findings) std::cout << Words(finding) << "\n";
+  std::cout << Words(corvalis::air::FiguresOf(facts)) << std::endl;
+  return findings.empty() ? 0 : 1;
 }
 
 }  // namespace
@@ -52,6 +63,8 @@ int main(int argc, char** argv) {
       return 2;
     }
   }
+
+  if (options.judge) return Judge(held);
 
   // Signals are taken in turn with the line's bytes; a reader of the output that goes away is no
   // reason to leave the link behind.

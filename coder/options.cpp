@@ -151,6 +151,8 @@ const std::array kOptions = {
            [](Options& o, std::string_view v) { return ParseNumber(v, 1, kMost, o.air.groups); }},
     Option{"--memory", "PATH", "a path", "begin with the memory that --dump printed to PATH",
            [](Options& o, std::string_view v) { return ParsePath(v, o.memory); }},
+    Option{"--judge", "", "", "tell what radios will not make of that memory, and end",
+           [](Options& o, std::string_view) { return On(o.judge); }},
     Option{"--print", "", "", "print each frame, and what the modem does, in words",
            [](Options& o, std::string_view) { return On(o.print); }},
     Option{"--dump", "", "", "print the memory on SIGUSR1 and at the end",
@@ -177,6 +179,7 @@ std::string ParseOptions(std::span<const char* const> words, Options& options) {
     }
   }
   if (options.air.speed == 0 && options.air.groups == 0) return "--air-speed 0 wants --air-groups";
+  if (options.judge && options.memory.empty()) return "--judge wants --memory";
   const AirOptions& air = options.air;
   for (const auto& [one, other] :
        {std::pair{&air.text, &air.bits}, {&air.text, &air.mpx}, {&air.bits, &air.mpx}}) {

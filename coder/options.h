@@ -40,7 +40,7 @@ struct Options {
   int replug_after_ms = -1;  ///< milliseconds from unplugging to the new line; negative: never
   AirOptions air;
   std::string memory;  ///< path of a memory to begin with; empty: as it left the factory
-  bool judge = false;
+  bool judge = false;  ///< say what radios will not make of that memory, and nothing else
   bool print = false;
   bool dump = false;
   bool with_stdin = false;

@@ -8,7 +8,7 @@ namespace corvalis::coder {
 namespace {
 
 // How many bytes of a list say something.
-std::size_t Length(const std::array<std::uint8_t, air::kAfCodes>& codes) {
+std::size_t Length(const air::AfCodes& codes) {
   std::size_t length = 0;
   for (std::size_t at = 0; at < codes.size(); ++at) {
     // What follows the mark of LF and MF belongs to it, whatever it is.
@@ -20,20 +20,26 @@ std::size_t Length(const std::array<std::uint8_t, air::kAfCodes>& codes) {
 
 }  // namespace
 
+std::optional<air::AfCodes> FrequencyList(const Coder& coder, int list) {
+  if (!coder.Written(kAf, list)) return std::nullopt;
+  const Bytes body = *coder.Item(kAf, list);
+  air::AfCodes codes{};
+  for (std::size_t i = 0; i < codes.size(); ++i) {
+    codes[i] = static_cast<std::uint8_t>(HexAt(body, 2 * i, 2));
+  }
+  if (codes[0] <= air::kAfCount || codes[0] > air::kAfCount + air::kAfEntries) return std::nullopt;
+  return codes;
+}
+
 void FrequencyRotation::Follow(const Coder& coder) {
   if (!watch_.Changed(coder)) return;
   std::vector<Pair> pairs;
   for (int list = 0; list < coder.Sizes().af; ++list) {
-    if (!coder.Written(kAf, list)) continue;
-    const Bytes body = *coder.Item(kAf, list);
-    std::array<std::uint8_t, air::kAfCodes> codes{};
-    for (std::size_t i = 0; i < codes.size(); ++i) {
-      codes[i] = static_cast<std::uint8_t>(HexAt(body, 2 * i, 2));
-    }
-    if (codes[0] <= air::kAfCount || codes[0] > air::kAfCount + air::kAfEntries) continue;
-    const std::size_t length = Length(codes);
+    const auto codes = FrequencyList(coder, list);
+    if (!codes) continue;
+    const std::size_t length = Length(*codes);
     for (std::size_t at = 0; at < length; at += 2) {
-      pairs.push_back({codes[at], at + 1 < length ? codes[at + 1] : air::kAfFiller});
+      pairs.push_back({(*codes)[at], at + 1 < length ? (*codes)[at + 1] : air::kAfFiller});
     }
   }
   if (pairs == pairs_) return;

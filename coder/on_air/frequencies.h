@@ -3,16 +3,20 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
+#include "air/af_codes.h"
 #include "coder/coder.h"
 #include "coder/on_air/watch.h"
 
 namespace corvalis::coder {
 
+/// A list that says something: it has been written, and begins with a count of 1 to 25.
+[[nodiscard]] std::optional<air::AfCodes> FrequencyList(const Coder& coder, int list);
+
 /// The alternative frequencies on the air, two codes at a time: one written list after the other,
-/// each from its count to its last frequency. A list that begins with no count, or with that of
-/// none, says nothing.
+/// each from its count to its last frequency.
 class FrequencyRotation {
  public:
   using Pair = std::array<std::uint8_t, 2>;

@@ -10,11 +10,14 @@ namespace corvalis::coder {
 
 namespace {
 
-constexpr int kNoPages = -1;
+void PutTwoDigits(std::uint8_t* at, int value) {
+  at[0] = static_cast<std::uint8_t>('0' + value / 10 % 10);
+  at[1] = static_cast<std::uint8_t>('0' + value % 10);
+}
 
-// The active page, or none: pages are in use once one was made active, the plan may do so, or a row
-// of one has a time.
-int PageInUse(const Coder& coder) {
+}  // namespace
+
+std::optional<int> PageInUse(const Coder& coder) {
   const Counts& sizes = coder.Sizes();
   bool in_use = coder.Written(kPsnPageActive);
   for (int row = 0; row < sizes.plan && !in_use; ++row) {
@@ -28,27 +31,20 @@ int PageInUse(const Coder& coder) {
     }
   }
   // The digits of a page go on behind "9" as the characters do.
-  return in_use ? coder.Item(kPsnPageActive)->front() - '0' : kNoPages;
+  return in_use ? std::optional(coder.Item(kPsnPageActive)->front() - '0') : std::nullopt;
 }
-
-void PutTwoDigits(std::uint8_t* at, int value) {
-  at[0] = static_cast<std::uint8_t>('0' + value / 10 % 10);
-  at[1] = static_cast<std::uint8_t>('0' + value % 10);
-}
-
-}  // namespace
 
 void NameRotation::Follow(const Coder& coder) {
   if (!watch_.Changed(coder)) return;
-  const int page = PageInUse(coder);
+  const auto page = PageInUse(coder);
   if (page != page_) turn_.Restart();
   page_ = page;
 
   const auto name = [&](int row) {
     // A page's row begins with the digit of the page.
-    const std::uint8_t command = page < 0 ? kPsn : kPsnPage;
-    const std::size_t at = page < 0 ? 0 : 1;
-    const int number = page < 0 ? row : page * kPageStep + row;
+    const std::uint8_t command = page ? kPsnPage : kPsn;
+    const std::size_t at = page ? 1 : 0;
+    const int number = page ? *page * kPageStep + row : row;
     Name found{.number = row, .seconds = 0, .text = {}};
     found.text.fill(' ');
     const auto body = coder.Item(command, number);

@@ -13,6 +13,10 @@
 
 namespace corvalis::coder {
 
+/// The active page of names; nullopt without pages in use. They are once one was made active, the
+/// plan may do so, or a row of one has a time.
+[[nodiscard]] std::optional<int> PageInUse(const Coder& coder);
+
 /// The programme service name on the air, two characters at a time. The names with a rotation time
 /// take turns; without one it is name 0. With pages in use they are those of the active page. A
 /// name is sent to its end as it was when its first characters went out.
@@ -43,7 +47,7 @@ class NameRotation {
 
   Watch watch_{{kPsn, kPsnPage, kPsnPageActive, kPsnPlan, kCt}};
   std::vector<Name> names_;  // that take turns; one without seconds if none does
-  int page_ = -1;            // the active one; negative: no pages in use
+  std::optional<int> page_;  // that is active
   int date_name_ = 0;
   int hour_name_ = 0;
   Turn turn_;
