@@ -1,5 +1,6 @@
 #include "app/configuration.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <functional>
@@ -7,6 +8,7 @@
 #include "link/command_table.h"
 #include "link/link_error.h"
 #include "link/list_commands.h"
+#include "link/run_progress.h"
 #include "link/serial_management.h"
 #include "link/transfer.h"
 #include "networks/eon_data.h"
@@ -116,48 +118,13 @@ int OtherLists() {
   return (configData->Satellite() ? AfAData::kMostLists : afBData->MaxAfBListNum()) - 1;
 }
 
-// The items of a list, read or sent as the run goes.
-void RunList(ConfigurationRun run, int count, const std::function<void(int)>& read,
-             const std::function<void(int)>& send) {
-  RunItems(count, run == ConfigurationRun::kRead ? read : send);
-}
-
-void RunPage(ConfigurationRun run, std::uint8_t page) {
-  RunList(
-      run, psnPageData->MaxPsnNum(), [page](int row) { psnPageData->GetOneRds(page, Index(row)); },
-      [page](int row) { psnPageData->SetOneRds(page, Index(row)); });
-}
-
-// The pages go on where others end. A page that could not be sent ends alone: the next one starts
-// all the same. A page that could not be read ends the pages. The plan starts in either case, and
-// as each frame says anew how the link is, it and what follows go on as far as they succeed. Only
-// the operator's abort ends them all. All of that is meant.
-void RunPages(ConfigurationRun run) {
-  for (int page = 0; page < psnPageData->MaxPsnPageNum(); ++page) {
-    RunPage(run, Place(page));
-    if (LinkError == kErrorAborted) return;
-    if (LinkError != kLinkOk && run == ConfigurationRun::kRead) break;
-  }
-  if (!PlanTravels(run)) return;
-  RunList(
-      run, psnPageData->MaxPsnPlanNum(), [](int row) { psnPageData->GetOneRdsPlan(Index(row)); },
-      [](int row) { psnPageData->SetOneRdsPlan(Index(row)); });
-}
-
-void RunNames(ConfigurationRun run) {
-  if (configData->PsnPagesEnable()) return RunPages(run);
-  RunList(
-      run, psnData->MaxPsnNum(), [](int row) { psnData->GetOneRds(Index(row)); },
-      [](int row) { psnData->SetOneRds(Index(row)); });
+// The lists that a step empties before it sends.
+int Clearing(const Step& step, ConfigurationRun run) {
+  const bool clears = step.offered == MethodA && run != ConfigurationRun::kRead;
+  return clears && !afAData->OtherListsCleared() ? OtherLists() : 0;
 }
 
 int PassesOfBurst() { return configData->Burst() + 1; }
-
-void TakePresentTime() {
-  const DateTime now = Machine().clock->Now();
-  configData->SetDateValue(now);
-  configData->SetDayOfWeek(static_cast<std::int16_t>(WeekdayFromMonday(now)));
-}
 
 // What the items of a run cost on the line.
 class Meter {
@@ -181,6 +148,9 @@ class Meter {
     load.seconds += load.passes * pass_seconds_;
     return load;
   }
+  // Of what has been added, passes aside.
+  [[nodiscard]] int Items() const { return load_.items; }
+  [[nodiscard]] double Seconds() const { return load_.seconds + pass_seconds_; }
 
  private:
   static constexpr int kAcknowledgement = 1;
@@ -216,6 +186,85 @@ class Meter {
   double pass_seconds_ = 0;
 };
 
+// How far a run is: its items, and the time that is left by what the line has made of its plan.
+class Progress {
+ public:
+  explicit Progress(ConfigurationRun run)
+      : run_(run), all_(LoadOfConfiguration(run)), done_(run), whole_([this] { return Words(); }) {}
+
+  [[nodiscard]] ConfigurationRun Run() const { return run_; }
+  // What is over.
+  void Add(CommandCode code, int items) { done_.Add(code, items); }
+  void AddClearing(int lists) { done_.AddClearing(lists); }
+
+ private:
+  [[nodiscard]] std::string Words() const {
+    const int all = all_.items * all_.passes;
+    if (all < 2) return {};
+    double left = all_.seconds - done_.Seconds();
+    if (done_.Seconds() > 0) left *= (Machine().clock->Steady() - begin_) / done_.Seconds();
+    return std::to_string(std::min(done_.Items() + 1, all)) + " of " + std::to_string(all) + ", " +
+           AboutInWords(left) + " left";
+  }
+
+  ConfigurationRun run_;
+  ConfigurationLoad all_;
+  Meter done_;
+  double begin_ = Machine().clock->Steady();
+  RunWhole whole_;
+};
+
+// The items of a list, read or sent as the run goes.
+void RunList(Progress& progress, CommandCode code, int count, const std::function<void(int)>& read,
+             const std::function<void(int)>& send) {
+  const auto& work = progress.Run() == ConfigurationRun::kRead ? read : send;
+  int left = count;
+  RunItems(count, [&](int item) {
+    work(item);
+    progress.Add(code, 1);
+    --left;
+  });
+  progress.Add(code, left);  // what a failure has left out is over too
+}
+
+void RunPage(Progress& progress, std::uint8_t page) {
+  RunList(
+      progress, CommandCode::kPsnPage, psnPageData->MaxPsnNum(),
+      [page](int row) { psnPageData->GetOneRds(page, Index(row)); },
+      [page](int row) { psnPageData->SetOneRds(page, Index(row)); });
+}
+
+// The pages go on where others end. A page that could not be sent ends alone: the next one starts
+// all the same. A page that could not be read ends the pages. The plan starts in either case, and
+// as each frame says anew how the link is, it and what follows go on as far as they succeed. Only
+// the operator's abort ends them all. All of that is meant.
+void RunPages(Progress& progress) {
+  for (int page = 0; page < psnPageData->MaxPsnPageNum(); ++page) {
+    RunPage(progress, Place(page));
+    if (LinkError == kErrorAborted) return;
+    if (LinkError != kLinkOk && progress.Run() == ConfigurationRun::kRead) break;
+  }
+  if (!PlanTravels(progress.Run())) return;
+  RunList(
+      progress, CommandCode::kPsnPlan, psnPageData->MaxPsnPlanNum(),
+      [](int row) { psnPageData->GetOneRdsPlan(Index(row)); },
+      [](int row) { psnPageData->SetOneRdsPlan(Index(row)); });
+}
+
+void RunNames(Progress& progress) {
+  if (configData->PsnPagesEnable()) return RunPages(progress);
+  RunList(
+      progress, CommandCode::kPsn, psnData->MaxPsnNum(),
+      [](int row) { psnData->GetOneRds(Index(row)); },
+      [](int row) { psnData->SetOneRds(Index(row)); });
+}
+
+void TakePresentTime() {
+  const DateTime now = Machine().clock->Now();
+  configData->SetDateValue(now);
+  configData->SetDayOfWeek(static_cast<std::int16_t>(WeekdayFromMonday(now)));
+}
+
 // `count` of them, in words.
 std::string Counted(int count, const std::string& what) {
   return std::to_string(count) + " " + what;
@@ -234,17 +283,25 @@ std::string Names() {
   return text;
 }
 
-}  // namespace
-
-void RunConfiguration(ConfigurationRun run) {
+void RunPass(Progress& progress) {
+  const ConfigurationRun run = progress.Run();
   LinkError = kLinkOk;
-  if (configData->PresetPsn()) RunNames(run);
+  if (configData->PresetPsn()) RunNames(progress);
   for (const Step& step : kSteps) {
     if (LinkError != kLinkOk) return;
     if (!Travels(step, run)) continue;
     if (step.code == CommandCode::kCt && run == ConfigurationRun::kSend) TakePresentTime();
-    RunList(run, step.count(), step.read, step.send);
+    const int clearing = Clearing(step, run);
+    RunList(progress, step.code, step.count(), step.read, step.send);
+    progress.AddClearing(clearing);
   }
+}
+
+}  // namespace
+
+void RunConfiguration(ConfigurationRun run) {
+  Progress progress(run);
+  RunPass(progress);
 }
 
 ConfigurationLoad LoadOfConfiguration(ConfigurationRun run) {
@@ -258,15 +315,15 @@ ConfigurationLoad LoadOfConfiguration(ConfigurationRun run) {
   for (const Step& step : kSteps) {
     if (!Travels(step, run)) continue;
     meter.Add(step.code, step.count());
-    const bool clears = step.offered == MethodA && run != ConfigurationRun::kRead;
-    if (clears && !afAData->OtherListsCleared()) meter.AddClearing(OtherLists());
+    meter.AddClearing(Clearing(step, run));
   }
   return meter.Load();
 }
 
 void BurstConfiguration() {
+  Progress progress(ConfigurationRun::kBurst);
   for (int pass = 0; pass < PassesOfBurst(); ++pass) {
-    RunConfiguration(ConfigurationRun::kBurst);
+    RunPass(progress);
     if (LinkError != kLinkOk) return;
   }
 }

@@ -4,6 +4,7 @@
 
 #include "busy/wait_form.h"
 #include "screen/button.h"
+#include "screen/control.h"
 #include "screen/progress_bar.h"
 #include "screen/timer.h"
 #include "screen/window.h"
@@ -22,6 +23,8 @@ class SerialCommunicationForm {
 
   Window window{this, "SerialCommunicationForm"};
   ProgressBar ProgressBar1{window, "ProgressBar1"};
+  Label ProgressLabel{window, "ProgressLabel"};  ///< how far a run is; empty for a single frame
+  Label HintLabel{window, "HintLabel"};          ///< what the operator may do now
   Timer Timer1{window, "Timer1", kBusyTickMs};
   Button Command1{window, "Command1"};
 };

@@ -1,5 +1,7 @@
 #include "busy/transfer_bracket.h"
 
+#include <utility>
+
 #include "busy/serial_communication_form.h"
 
 namespace corvalis {
@@ -8,25 +10,27 @@ std::function<void()> TransferEnded;
 
 namespace {
 
-int standing = 0;
+SerialCommunicationForm* standing = nullptr;
 
 // A transfer screen, from here to the end of its block.
 struct Standing {
-  Standing() { ++standing; }
-  ~Standing() { --standing; }
+  explicit Standing(SerialCommunicationForm& form) : before(std::exchange(standing, &form)) {}
+  ~Standing() { standing = before; }
   Standing(const Standing&) = delete;
   Standing& operator=(const Standing&) = delete;
+
+  SerialCommunicationForm* before;
 };
 
 }  // namespace
 
-bool TransferScreenStands() { return standing > 0; }
+SerialCommunicationForm* StandingTransfer() { return standing; }
 
 void RunTransfer(Window& screen, const Transfer& transfer) {
   screen.SetEnabled(false);
   if (!transfer.may_start || transfer.may_start()) {
     SerialCommunicationForm form(transfer.abort);
-    const Standing stands;
+    const Standing stands(form);
     form.window.Show(&screen);
     form.Command1.SetFocus();
     transfer.work();

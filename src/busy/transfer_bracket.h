@@ -6,6 +6,8 @@
 
 namespace corvalis {
 
+class SerialCommunicationForm;
+
 /// What one transfer is made of.
 struct Transfer {
   /// Asked before anything is shown; false drops the transfer. May be empty.
@@ -24,7 +26,9 @@ void RunTransfer(Window& screen, const Transfer& transfer);
 /// for nobody.
 extern std::function<void()> TransferEnded;
 
-/// True while a transfer screen stands, so while the operator can abort what is waited for.
-[[nodiscard]] bool TransferScreenStands();
+/// The transfer screen that stands; null for none.
+[[nodiscard]] SerialCommunicationForm* StandingTransfer();
+/// True while one stands, so while the operator can abort what is waited for.
+[[nodiscard]] inline bool TransferScreenStands() { return StandingTransfer() != nullptr; }
 
 }  // namespace corvalis

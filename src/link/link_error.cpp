@@ -1,8 +1,10 @@
 #include "link/link_error.h"
 
 #include <string>
+#include <utility>
 
 #include "link/link_box.h"
+#include "link/run_progress.h"
 #include "link/serial_management.h"
 
 namespace corvalis {
@@ -25,7 +27,7 @@ std::string_view LinkErrorText(std::int16_t error) {
       return " [RDS] number of bytes wrong";
     case 7:
       return " [RDS] read mode not allowed";
-    case 8:
+    case kErrorBeforeAddress:
       return " [RDS] before send address  ";
     case 9:
       return " [RDS] starting code unknown";
@@ -72,8 +74,11 @@ std::string_view LinkErrorText(std::int16_t error) {
 
 void ReportLinkError(std::string_view label) {
   if (LinkError == kErrorAborted) return;
+  if (LinkError == kErrorBeforeAddress) TellAddressWanted();
   ShowLinkBox(std::string(label) + ":" + std::string(LinkErrorText(LinkError)),
               kSerialManagementTitle);
+  // ESC on the transfer screen beside the box ends the run there.
+  if (std::exchange(EscPressed, false)) LinkError = kErrorAborted;
 }
 
 }  // namespace corvalis

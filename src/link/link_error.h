@@ -7,6 +7,7 @@ namespace corvalis {
 
 /// Values of `LinkError`. 1 to 11 are the Coder's own numbers, as its error frame brings them.
 inline constexpr std::int16_t kLinkOk = 0;
+inline constexpr std::int16_t kErrorBeforeAddress = 8;
 inline constexpr std::int16_t kLastCoderError = 11;
 inline constexpr std::int16_t kErrorTxTimeout = 12;
 inline constexpr std::int16_t kErrorUnconnected = 13;
@@ -23,7 +24,8 @@ inline constexpr std::int16_t kErrorUnmanaged = -1;
 [[nodiscard]] std::string_view LinkErrorText(std::int16_t error);
 
 /// Shows the critical box `label` ":" text for the present `LinkError`, and returns when it has
-/// been answered. Shows nothing for the operator's own abort.
+/// been answered. Shows nothing for the operator's own abort. ESC on the transfer screen meanwhile
+/// is that abort: nothing more is sent.
 void ReportLinkError(std::string_view label);
 
 }  // namespace corvalis

@@ -4,6 +4,7 @@
 
 #include "config/conversions.h"
 #include "link/catalogue.h"
+#include "link/run_progress.h"
 #include "platform/platform.h"
 
 namespace corvalis {
@@ -258,7 +259,9 @@ void SendAddress(std::string_view block, bool is_new) {
 
 void SendIh(std::int16_t page, std::string_view text, std::int16_t rotation) {
   const std::string characters = Padded(text, kIhCharacters);
+  RunLoop frames(kIhBlocks + 1, "frame");
   for (std::uint8_t block = 0; block < kIhBlocks; ++block) {
+    frames.At(block);
     const std::size_t begin = std::size_t{block} * kIhBlockCharacters;
     SendItem(CommandCode::kIh, block, kIh, [&](BodyWriter& body) {
       WriteIhPage(body, page).Text(std::string_view(characters).substr(begin), kIhBlockCharacters);
@@ -266,6 +269,7 @@ void SendIh(std::int16_t page, std::string_view text, std::int16_t rotation) {
     if (LinkError != kLinkOk) return;
     LetEventsRun(0);
   }
+  frames.At(kIhBlocks);
   const auto end = [&](BodyWriter& body) {
     const int value = std::clamp<int>(rotation, 0, kIhRotationMax);
     WriteIhPage(body, page).Text(Digits(value, kIhRotationDigits), kIhRotationDigits);
@@ -276,7 +280,9 @@ void SendIh(std::int16_t page, std::string_view text, std::int16_t rotation) {
 
 void ReadIh(std::int16_t page, std::string& text, std::int16_t& rotation) {
   std::string characters;
+  RunLoop frames(kIhBlocks + 1, "frame");
   for (std::uint8_t block = 0; block < kIhBlocks; ++block) {
+    frames.At(block);
     LetEventsRun(0);
     const Frame request = Filled(Frame::Request(CommandCode::kIh, block, kIhPageDigits),
                                  [&](BodyWriter& body) { WriteIhPage(body, page); });
@@ -287,6 +293,7 @@ void ReadIh(std::int16_t page, std::string& text, std::int16_t& rotation) {
     if (LinkError != kLinkOk) return;
     LetEventsRun(kIhPause);
   }
+  frames.At(kIhBlocks);
   const Frame request =
       Filled(Frame::Request(CommandCode::kIh, kIhMarkerRead, kIhShortBody),
              [&](BodyWriter& body) { WriteIhPage(body, page).Text("", kIhRotationDigits); });

@@ -6,6 +6,7 @@
 
 #include "config/config_data.h"
 #include "link/link_box.h"
+#include "link/run_progress.h"
 #include "link/wait.h"
 
 namespace corvalis {
@@ -287,6 +288,7 @@ std::span<std::uint8_t> Frame::Body() {
 }
 
 void WriteToCoder(Frame frame, std::string_view label) {
+  TellFrame(label);
   TransferFrame(frame.Bytes());
   if (LinkError != kLinkOk) ReportLinkError(label);
 }
@@ -294,6 +296,7 @@ void WriteToCoder(Frame frame, std::string_view label) {
 void ReadFromCoder(Frame request, std::size_t answer_size, std::string_view label,
                    const std::function<void(std::span<const std::uint8_t> body)>& decode,
                    int attempts) {
+  TellFrame(label);
   std::vector<std::uint8_t> answer(answer_size);
   for (int attempt = 0; attempt < attempts; ++attempt) {
     TransferFrame(request.Bytes());

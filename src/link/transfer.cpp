@@ -2,6 +2,7 @@
 
 #include "busy/transfer_bracket.h"
 #include "config/config_data.h"
+#include "link/run_progress.h"
 #include "link/serial_management.h"
 #include "link/utility.h"
 #include "platform/platform.h"
@@ -10,7 +11,10 @@ namespace corvalis {
 
 namespace {
 
-void AskAbort() { EscPressed = true; }
+void AskAbort() {
+  EscPressed = true;
+  Machine().dialogs->Dismiss();
+}
 
 }  // namespace
 
@@ -41,7 +45,9 @@ void SendLive(const std::function<void()>& pass) {
 
 bool RunItems(int count, const std::function<void(int)>& item, float pause) {
   LinkError = kLinkOk;
+  RunLoop loop(count);
   for (int i = 0; i < count; ++i) {
+    loop.At(i);
     item(i);
     if (LinkError != kLinkOk) return false;
     Machine().pump->RunPending();

@@ -23,6 +23,8 @@ class Dialogs {
 
   /// Shows the box and returns when it has been answered. Events run meanwhile.
   virtual void Show(const Box& box) = 0;
+  /// The operator has ended what the box that stands is about: it goes, as if it had been answered.
+  virtual void Dismiss() {}
 
   virtual void Beep() = 0;
 };

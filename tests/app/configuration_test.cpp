@@ -5,6 +5,7 @@
 #include <limits>
 
 #include "app/connection_screen.h"
+#include "busy/serial_communication_form.h"
 #include "busy/transfer_bracket.h"
 
 namespace corvalis::test {
@@ -211,6 +212,48 @@ TEST_F(ConnectionTest, FaultsInMidTransfer) {
         EXPECT_EQ(Codes().back().first, code < kTmcSystem ? kPtyn : kTmc);
       }
     }
+  }
+}
+
+TEST_F(ConnectionTest, ItSaysHowFarItIsAndWhatIsLeftByWhatHasPassed) {
+  OpenScreen(File(kLocal, "Rt Pi"));
+  std::vector<std::string> told;
+  port.Wrote = [&] {
+    if (StandingTransfer() == nullptr) return;
+    told.push_back(StandingTransfer()->ProgressLabel.Caption());
+    time.Stall(5);  // a slow line
+  };
+  form->Command11.Press();
+  EXPECT_EQ(told, (std::vector<std::string>{"RT: 1 of 3; 1 of 4, about a second left",
+                                            "RT: 2 of 3; 2 of 4, about 11 seconds left",
+                                            "RT: 3 of 3; 3 of 4, about 6 seconds left",
+                                            "4 of 4, about a second left"}));
+  told.clear();
+  OpenScreen(File(kLocal, "Pi"));
+  form->Command11.Press();
+  EXPECT_EQ(told, std::vector<std::string>{""});
+}
+
+// A Coder that has not been addressed refuses all. The transfer screen says what the way is, and
+// its ESC beside the first box ends the rest, whatever the Coder would say to it, and nothing
+// later.
+TEST_F(ConnectionTest, TheWayOutOfManyBoxes) {
+  const std::string hint = "The Coder wants its address first: CONNECTION, SEND ID.";
+  const std::tuple<const char*, std::string, Runs> cases[] = {
+      {"Psn", hint + " ESC ends the rest.", {{kPage, 1}}}, {"Pi", hint, {{kPi, 1}}}};
+  for (const auto& [preset, said, sent] : cases) {
+    OpenScreen(File(kLocal, preset));
+    port.answer = [](const Bytes&) { return Bytes{0x15, 0x02, 0x00, 0x08, 0x03, 0x09}; };
+    dialogs.Shown = [&, words = said] {
+      EXPECT_EQ(StandingTransfer()->HintLabel.Caption(), words);
+      StandingTransfer()->Command1.Press();
+    };
+    form->Command11.Press();
+    EXPECT_EQ(Codes(), sent);
+    EXPECT_EQ(Boxes().size(), 1U);
+    EXPECT_FALSE(EscPressed);
+    dialogs.Shown = nullptr;
+    port.answer = nullptr;
   }
 }
 

@@ -5,6 +5,7 @@
 #include "busy/serial_communication_form.h"
 #include "busy/transfer_bracket.h"
 #include "config/config_data.h"
+#include "link/run_progress.h"
 #include "link/serial_management.h"
 #include "link/transfer.h"
 #include "support/test_machine.h"
@@ -68,6 +69,36 @@ TEST_F(BusyScreens, BracketGoesItsRoad) {
   RunTransfer(screen,
               {.may_start = [] { return false; }, .work = [&] { say("work"); }, .abort = {}});
   EXPECT_EQ(order, "focus+ ");
+}
+
+TEST_F(BusyScreens, ARunSaysHowFarItIs) {
+  Start(kLocal);
+  Open();
+  std::vector<std::string> told;
+  port.Wrote = [&] { told.push_back(StandingTransfer()->ProgressLabel.Caption()); };
+  const auto frame = [](int /*item*/) { configData->SetPiRds(); };
+  const std::pair<std::function<void()>, std::vector<std::string>> cases[] = {
+      {[&] { frame(0); }, {""}},
+      {[&] { RunItems(1, frame); }, {""}},
+      {[&] { RunItems(2, frame); }, {"PI: 1 of 2", "PI: 2 of 2"}},
+      {[&] { RunItems(2, [&](int) { RunItems(1, frame); }); },
+       {"PI: pass 1 of 2", "PI: pass 2 of 2"}},
+      {[&] { RunItems(2, [&](int) { RunItems(2, frame); }); },
+       {"PI: 1 of 2, pass 1 of 2", "PI: 2 of 2, pass 1 of 2", "PI: 1 of 2, pass 2 of 2",
+        "PI: 2 of 2, pass 2 of 2"}},
+      {[&] {
+         RunItems(2, [&](int /*page*/) {
+           RunLoop frames(2, "frame");
+           frames.At(1);
+           frame(0);
+         });
+       },
+       {"PI: 1 of 2, frame 2 of 2", "PI: 2 of 2, frame 2 of 2"}}};
+  for (const auto& [work, words] : cases) {
+    told.clear();
+    RunRead(screen, work);
+    EXPECT_EQ(told, words);
+  }
 }
 
 TEST_F(BusyScreens, EscWhileNothingWaitsAbortsTheNextTransfer) {

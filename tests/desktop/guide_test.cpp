@@ -142,7 +142,7 @@ TEST_F(GuideTest, ABoxHelpsWithoutBeingAnswered) {
   Plug("/dev/corvalis-unplugged");
   int helped = 0;
   during_box = [&] {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    QMessageBox* box = desktop::StandingBox();
     ASSERT_NE(box, nullptr);
     QAbstractButton* help = box->button(QMessageBox::Help);
     ASSERT_NE(help, nullptr);

@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QMessageBox>
+#include <QPointer>
 #include <QTest>
 #include <QTimer>
 #include <exception>
@@ -43,7 +44,9 @@ class RunningProgram::Watcher : public QObject {
 
  private:
   void Answer(QMessageBox& box) {
+    const QPointer<QMessageBox> answered = &box;
     if (test_.during_box) test_.during_box();
+    if (!answered) return;
     QTest::keyClick(&box, Qt::Key_Escape);
     if (!box.isVisible()) return;
     ADD_FAILURE() << "The box can't be answered: " << box.text().toStdString();
@@ -67,6 +70,7 @@ class RunningProgram::Ear : public Dialogs {
   Ear(RunningProgram& test, Dialogs& real) : test_(test), real_(real) {}
 
   void Show(const Box& box) override { real_.Show(box); }
+  void Dismiss() override { real_.Dismiss(); }
   void Beep() override { ++test_.beeps; }
 
  private:

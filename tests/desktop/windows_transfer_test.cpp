@@ -2,10 +2,15 @@
 // what an operator may do meanwhile.
 
 #include <QImage>
+#include <QLabel>
+#include <QMessageBox>
 #include <QTest>
 
+#include "busy/serial_communication_form.h"
+#include "busy/transfer_bracket.h"
 #include "desktop/running_program.h"
 #include "desktop/widgets/look/style.h"
+#include "desktop/widgets/windows/front_window.h"
 #include "link/serial_management.h"
 
 namespace corvalis::test {
@@ -80,6 +85,31 @@ TEST_F(WindowsTransferTest, AFaultOfTheLineIsSaidOnceAndEndsTheTransfer) {
     EXPECT_EQ(OnScreen(kTransfer), nullptr);
     EXPECT_TRUE(Usable(kStation, button));
   }
+}
+
+TEST_F(WindowsTransferTest, EscIsInReachBesideABox) {
+  StartWithCoder({}, std::string(kLocalFile) + "[RDS Setup]\nPresetPsn=On\n");
+  hand.Click(kMain, "ConnectionButton");
+  during_box = [&] {
+    QWidget* transfer = OnScreen(kTransfer);
+    EXPECT_FALSE(desktop::StandingBox()->frameGeometry().intersects(transfer->frameGeometry()));
+    // Only once a second is the line told to who does not see it.
+    const auto* line = transfer->findChild<QLabel*>("ProgressLabel");
+    const QString told = line->accessibleName();
+    EXPECT_EQ(told.toStdString(), line->text().toStdString());
+    StandingTransfer()->ProgressLabel.SetCaption("RT: 2 of 3");
+    EXPECT_EQ(line->text(), "RT: 2 of 3");
+    EXPECT_EQ(line->accessibleName(), told);
+    ClickBeneath(kConnection, "Command4");
+    // As it comes from the window system, which knows who is kept out.
+    const auto* esc = transfer->findChild<QWidget*>("Command1");
+    QTest::mouseClick(transfer->windowHandle(), Qt::LeftButton, {},
+                      esc->mapTo(transfer, esc->rect().center()));
+  };
+  hand.Click(kConnection, "Command11");
+  EXPECT_EQ(Boxes(), Lines{"PSNPage: [RDS] before send address  "});
+  EXPECT_EQ(LinkError, kErrorAborted);
+  EXPECT_TRUE(Usable(kConnection, "Command11"));
 }
 
 TEST_F(WindowsTransferTest, ALineThatIsPulledOutIsFoundAgain) {

@@ -10,6 +10,7 @@
 #include <QTimer>
 #include <filesystem>
 
+#include "desktop/widgets/windows/front_window.h"
 #include "platform/platform.h"
 
 namespace corvalis::desktop {
@@ -38,7 +39,7 @@ int Tour::Run() {
   // A box would hold the tour up: it is noted and answered.
   QTimer boxes;
   QObject::connect(&boxes, &QTimer::timeout, [this] {
-    auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+    QMessageBox* box = StandingBox();
     if (box == nullptr) return;
     boxes_ << box->text();
     hand_.Picture(*box, QStringLiteral("box"));

@@ -2,12 +2,14 @@
 
 #include <QKeyEvent>
 
+#include "desktop/text.h"
 #include "desktop/widgets/look/brand_header.h"
 #include "desktop/widgets/look/layout.h"
 #include "desktop/widgets/look/progress_bar_widget.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/presses/button_widget.h"
 #include "desktop/widgets/texts/label_widget.h"
+#include "desktop/widgets/windows/binding.h"
 
 namespace corvalis::desktop {
 
@@ -23,10 +25,33 @@ QPoint WaitView::PlaceOver(const QRect& owner) const {
   return {middle.x(), owner.bottom() - height() - 2 * kApart};
 }
 
+ProgressLine::ProgressLine(Label& label, QWidget* parent) : QLabel(parent) {
+  setTextFormat(Qt::PlainText);
+  SetInk(*this, colours::kQuietText);
+  // What is told once a second at most is the name; without one the toolkit would tell each text.
+  setAccessibleName(QStringLiteral("Progress"));
+  pause_.setSingleShot(true);
+  pause_.setInterval(kToldMs);
+  connect(&pause_, &QTimer::timeout, this, [this] { Tell(); });
+  Bind(*this, label, [this, &label] {
+    setText(FromBytes(label.Caption()));
+    if (text().isEmpty()) hide();
+    if (!pause_.isActive()) Tell();
+  });
+}
+
+void ProgressLine::Tell() {
+  if (text().isEmpty() || accessibleName() == text()) return;
+  setAccessibleName(text());
+  pause_.start();
+}
+
 SerialCommunicationView::SerialCommunicationView(SerialCommunicationForm& form)
     : WindowView(form.window) {
   QVBoxLayout* column = WindowColumn(this);
   column->addWidget(new ProgressBarWidget(form.ProgressBar1, this));
+  column->addWidget(new ProgressLine(form.ProgressLabel, this));
+  column->addWidget(new LabelWidget(form.HintLabel, this));
   column->addWidget(new ButtonWidget(form.Command1, this), 0, Qt::AlignHCenter);
   findChild<ButtonWidget*>()->installEventFilter(this);
 }

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QElapsedTimer>
+#include <QLabel>
+#include <QTimer>
 
 #include "busy/serial_communication_form.h"
 #include "busy/wait_form.h"
@@ -16,6 +18,20 @@ class WaitView : public WindowView {
  protected:
   /// Low, so that the lists that a port scan moves along stay in sight.
   [[nodiscard]] QPoint PlaceOver(const QRect& owner) const override;
+};
+
+/// The line that says how far a run is. It follows each item, but a screen reader is told once a
+/// second at most.
+class ProgressLine : public QLabel {
+ public:
+  ProgressLine(Label& label, QWidget* parent);
+
+ private:
+  static constexpr int kToldMs = 1000;
+
+  void Tell();
+
+  QTimer pause_;
 };
 
 /// A transfer is under way, and can be aborted. In its first second ESC and the mouse alone do it:

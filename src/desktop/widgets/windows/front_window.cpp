@@ -1,6 +1,7 @@
 #include "desktop/widgets/windows/front_window.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QWidget>
 #include <QWindow>
 
@@ -26,6 +27,14 @@ QWidget* FrontWindow(QWidget* beneath) {
     }
   }
   return front;
+}
+
+QMessageBox* StandingBox() {
+  for (QWidget* window : QApplication::topLevelWidgets()) {
+    auto* box = qobject_cast<QMessageBox*>(window);
+    if (box != nullptr && box->isVisible()) return box;
+  }
+  return nullptr;
 }
 
 }  // namespace corvalis::desktop

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QMessageBox>
 #include <QPixmap>
 #include <QPushButton>
 #include <QScreen>
@@ -117,8 +118,8 @@ void GuideWindow::GoToHeading(const QString& about) {
 }
 
 void GuideWindow::Present() {
-  // While a box stands, the toolkit gives input to what stands before the box alone.
-  QWidget* box = QApplication::activeModalWidget();
+  // While a modal box stands, the toolkit gives input to what stands before the box alone.
+  const QWidget* box = StandingBox();
   QWindow* owner = box == nullptr ? nullptr : box->windowHandle();
   winId();  // a window of the system must be there to be tied to another
   if (windowHandle()->transientParent() != owner) {
