@@ -1,7 +1,6 @@
 #include "coder/on_air.h"
 
 #include <algorithm>
-#include <cstdlib>
 
 #include "coder/commands.h"
 #include "coder/digits.h"
@@ -11,18 +10,21 @@ namespace corvalis::coder {
 namespace {
 
 // Groups as the sequence counts them.
-constexpr int kB = 16;  // and a number: its B group
-constexpr int k0A = 0;
-constexpr int k1A = 1;
-constexpr int k2A = 2;
-constexpr int k3A = 3;
-constexpr int k4A = 4;
-constexpr int k5A = 5;
-constexpr int k6A = 6;
-constexpr int k8A = 8;
-constexpr int k10A = 10;
-constexpr int k14A = 14;
-constexpr int k15A = 15;
+constexpr int k0A = air::Group0A::kKind.Index();
+constexpr int k0B = air::Group0B::kKind.Index();
+constexpr int k1A = air::Group1A::kKind.Index();
+constexpr int k1B = air::Group1B::kKind.Index();
+constexpr int k2A = air::Group2A::kKind.Index();
+constexpr int k2B = air::Group2B::kKind.Index();
+constexpr int k3A = air::Group3A::kKind.Index();
+constexpr int k4A = air::Group4A::kKind.Index();
+constexpr int k5A = air::Group5A::kKind.Index();
+constexpr int k6A = air::Group6A::kKind.Index();
+constexpr int k8A = air::Group8A::kKind.Index();
+constexpr int k10A = air::Group10A::kKind.Index();
+constexpr int k14A = air::Group14A::kKind.Index();
+constexpr int k14B = air::Group14B::kKind.Index();
+constexpr int k15B = air::Group15B::kKind.Index();
 
 // The group whose end is nearest to the end of a minute tells the time. At the moment it begins,
 // this is how far ahead the minute may lie that it tells.
@@ -31,29 +33,22 @@ constexpr AirTime kTellsAhead = kGroupTime + kGroupTime / 2;
 // Longer than that the plan does not make up for, if nobody asked for a group.
 constexpr std::chrono::minutes kMadeUp{24 * 60};
 
-constexpr int kLanguage = 3 << 12;  // in 1A
-// A traffic message in 8A is a single group; 3A tells where they are and what they refer to.
-constexpr int kSingleGroup = 1 << 3;
-constexpr int kIn8A = 8 << 1;
-constexpr int kService = 1 << 14;
-constexpr int kTrafficMessages = 0xCD46;
-
-int Bit(bool flag, int at) { return flag ? 1 << at : 0; }
-
 }  // namespace
 
 OnAir::OnAir(Coder& coder) : coder_(coder) {}
 
-Group OnAir::Next(AirTime now) {
+air::Group OnAir::Next(AirTime now) {
   Follow(now);
   FollowTime(now);
 
   const auto tells = clock_.Local(now + kTellsAhead);
   if (tells != told_) {
     told_ = tells;
-    if (clock_enabled_) return MakeClockTime();
+    if (clock_enabled_) {
+      return Build(air::Group4A::Of(clock_.Utc(*told_), clock_.OffsetHalfHours()));
+    }
   }
-  if (const auto urgent = networks_.TakeUrgent()) return MakeAnnouncement(*urgent);
+  if (const auto urgent = networks_.TakeUrgent()) return Build(*urgent);
   return Make(NextInCycle(), now);
 }
 
@@ -80,9 +75,9 @@ void OnAir::FollowValues() {
     return HexAt(*coder_.Item(command), 0, digits);
   };
   const auto flag = [this](std::uint8_t command) { return FlagAt(*coder_.Item(command), 0); };
-  pi_ = hex(kPi, 4);
-  tp_ = flag(kTp);
-  pty_ = hex(kPty, 2) % 32;
+  head_.pi = static_cast<std::uint16_t>(hex(kPi, 4));
+  head_.tp = flag(kTp);
+  head_.pty = hex(kPty, 2) % 32;
   ta_ = flag(kTa);
   music_ = flag(kMs);
   di_ = hex(kDi, 1);
@@ -91,8 +86,12 @@ void OnAir::FollowValues() {
   linkage_ = flag(kLi);
   // Location table, service, and a digit for each of four scopes.
   const Bytes system = *coder_.Item(kTmcSystem);
-  traffic_table_ = HexAt(system, 0, 2) << 6 | DigitsAt(system, 4, 4, 2);
-  traffic_service_ = kService | HexAt(system, 2, 2) << 6;
+  traffic_table_ = {.table = HexAt(system, 0, 2),
+                    .international = FlagAt(system, 4),
+                    .national = FlagAt(system, 5),
+                    .regional = FlagAt(system, 6),
+                    .urban = FlagAt(system, 7)};
+  traffic_service_ = {.service = HexAt(system, 2, 2)};
 }
 
 void OnAir::FollowTime(AirTime now) {
@@ -128,7 +127,7 @@ void OnAir::FollowCycle() {
   }
   if (wanted == in_cycle_ && !cycle_.empty()) return;
   in_cycle_ = wanted;
-  texts_.SetInUse(wanted[k2A] > 0, wanted[kB + k2A] > 0);
+  texts_.SetInUse(wanted[k2A] > 0, wanted[k2B] > 0);
   const std::size_t done = place_;
   const std::size_t of = std::max<std::size_t>(cycle_.size(), 1);
   cycle_ = SpreadEvenly(wanted);
@@ -141,12 +140,12 @@ bool OnAir::HasSomethingToSay(int group) const {
   switch (group) {
     case k0A:
     case k1A:
-    case kB + k0A:
-    case kB + k1A:
-    case kB + k15A:
+    case k0B:
+    case k1B:
+    case k15B:
       return true;
     case k2A:
-    case kB + k2A:
+    case k2B:
       return texts_.HasText();
     case k3A:
       return coder_.Written(kTmcSystem);
@@ -160,7 +159,7 @@ bool OnAir::HasSomethingToSay(int group) const {
       return type_name_.HasName();
     case k14A:
       return networks_.HasPart();
-    case kB + k14A:
+    case k14B:
       return networks_.HasAnnouncement();
     default:
       return false;
@@ -173,91 +172,58 @@ int OnAir::NextInCycle() {
   return group;
 }
 
-GroupHead OnAir::HeadOf(int group) const {
-  return {.pi = pi_, .tp = tp_, .pty = pty_, .type = group % kB, .is_b = group >= kB};
+air::Switches OnAir::SwitchesAt(int segment) const {
+  return {.ta = ta_, .music = music_, .di = (di_ & air::DiOf(segment)) != 0, .segment = segment};
 }
 
-// TA, M/S, and the bit of DI that goes with a segment.
-int OnAir::SwitchBits(int segment) const {
-  return Bit(ta_, 4) | Bit(music_, 3) | Bit((di_ >> (3 - segment) & 1) != 0, 2) | segment;
-}
-
-Group OnAir::MakeClockTime() const {
-  constexpr int kDaysBefore1970 = 40587;
-  const UtcMinute utc = clock_.Utc(*told_);
-  const auto today = std::chrono::floor<std::chrono::days>(utc);
-  const int day = static_cast<int>(today.time_since_epoch().count()) + kDaysBefore1970;
-  const int hour = static_cast<int>((utc - today).count()) / 60;
-  const int minute = static_cast<int>((utc - today).count()) % 60;
-  const int offset = clock_.OffsetHalfHours();
-  return HeadOf(k4A).With(day >> 15, (day & 0x7FFF) << 1 | hour >> 4,
-                          (hour & 0xF) << 12 | minute << 6 | Bit(offset < 0, 5) | std::abs(offset));
-}
-
-Group OnAir::MakeAnnouncement(const NetworkRotation::Announcement& told) const {
-  return HeadOf(kB + k14A).With(Bit(told.tp, 4) | Bit(told.ta, 3), 0, told.pi);
-}
-
-Group OnAir::Make(int group, AirTime now) {
-  const GroupHead head = HeadOf(group);
-  const auto four = [&](int own, const std::array<std::uint8_t, 4>& bytes) {
-    return head.With(own, TwoBytes(bytes[0], bytes[1]), TwoBytes(bytes[2], bytes[3]));
-  };
+air::Group OnAir::Make(int group, AirTime now) {
   switch (group) {
-    case k1A:
+    case k1A: {
       tells_country_ = !tells_country_;
-      return head.With(0, Bit(linkage_, 15) | (tells_country_ ? ecc_ : kLanguage | language_),
-                       item_);
-    case kB + k1A:
-      return head.With(0, 0, item_);
-    case k2A: {
-      const auto text = texts_.NextLong(now);
-      return four(Bit(text.flag, 4) | text.number, text.characters);
+      const auto variant = tells_country_ ? air::SlowLabel::kCountry : air::SlowLabel::kLanguage;
+      return Build(air::Group1A{
+          .label =
+              air::SlowLabel{
+                  .la = linkage_, .variant = variant, .content = tells_country_ ? ecc_ : language_},
+          .item = item_});
     }
-    case kB + k2A: {
-      const auto text = texts_.NextShort(now);
-      return head.With(Bit(text.flag, 4) | text.number, 0,
-                       TwoBytes(text.characters[0], text.characters[1]));
-    }
+    case k1B:
+      return Build(air::Group1B{.item = item_});
+    case k2A:
+      return Build(texts_.NextLong(now));
+    case k2B:
+      return Build(texts_.NextShort(now));
     case k3A:
       tells_table_ = !tells_table_;
-      return head.With(kIn8A, tells_table_ ? traffic_table_ : traffic_service_, kTrafficMessages);
-    case k5A: {
-      const auto data = channels_.Next();
-      return four(data.channel, data.bytes);
-    }
-    case k6A: {
-      const auto text = pages_.Next(now);
-      return four(text.page, text.characters);
-    }
-    case k8A: {
-      const auto& message = traffic_.Next();
-      return head.With(kSingleGroup | message.duration,
-                       Bit(message.diversion, 15) | Bit(message.direction, 14) |
-                           message.extent << 11 | message.event,
-                       message.location);
-    }
-    case k10A: {
-      const auto name = type_name_.Next();
-      return four(Bit(name.flag, 4) | name.number, name.characters);
-    }
-    case k14A: {
-      const auto part = networks_.NextPart();
-      return head.With(Bit(part.tp, 4) | part.variant, part.content, part.pi);
-    }
-    case kB + k14A:
-      return MakeAnnouncement(networks_.NextAnnouncement());
-    case kB + k15A: {
-      Group switches = head.With(SwitchBits(switch_segment_), 0, 0);
-      switches.blocks[3] = switches.blocks[1];
+      return Build(air::Group3A{
+          .carrier = air::Group8A::kKind,
+          .message = tells_table_ ? air::WordOf(traffic_table_) : air::WordOf(traffic_service_),
+          .application = air::Group3A::kTrafficMessages});
+    case k5A:
+      return Build(channels_.Next());
+    case k6A:
+      return Build(pages_.Next(now));
+    case k8A:
+      return Build(traffic_.Next());
+    case k10A:
+      return Build(type_name_.Next());
+    case k14A:
+      return Build(networks_.NextPart());
+    case k14B:
+      return Build(networks_.NextAnnouncement());
+    case k15B: {
+      const air::Group15B switches{.switches = SwitchesAt(switch_segment_)};
       switch_segment_ = (switch_segment_ + 1) % 4;
-      return switches;
+      return Build(switches);
     }
     default: {
       const auto name = names_.Next(now, minute_);
-      const auto pair = group == k0A ? frequencies_.Next() : FrequencyRotation::Pair{};
-      return head.With(SwitchBits(name.number), TwoBytes(pair[0], pair[1]),
-                       TwoBytes(name.characters[0], name.characters[1]));
+      const auto switches = SwitchesAt(name.number);
+      if (group == k0B) {
+        return Build(air::Group0B{.switches = switches, .characters = name.characters});
+      }
+      return Build(air::Group0A{
+          .switches = switches, .frequencies = frequencies_.Next(), .characters = name.characters});
     }
   }
 }

@@ -4,12 +4,12 @@
 #include <optional>
 #include <vector>
 
+#include "air/groups.h"
 #include "coder/coder.h"
 #include "coder/on_air/air_time.h"
 #include "coder/on_air/channels.h"
 #include "coder/on_air/clock.h"
 #include "coder/on_air/frequencies.h"
-#include "coder/on_air/group.h"
 #include "coder/on_air/group_cycle.h"
 #include "coder/on_air/names.h"
 #include "coder/on_air/networks.h"
@@ -41,7 +41,7 @@ class OnAir {
 
   /// The group that begins at `now`. The time never goes back from call to call; `GroupStart` has
   /// it.
-  [[nodiscard]] Group Next(AirTime now);
+  [[nodiscard]] air::Group Next(AirTime now);
 
  private:
   void Follow(AirTime now);
@@ -50,11 +50,12 @@ class OnAir {
   void FollowCycle();
   [[nodiscard]] bool HasSomethingToSay(int group) const;
   [[nodiscard]] int NextInCycle();
-  [[nodiscard]] GroupHead HeadOf(int group) const;
-  [[nodiscard]] int SwitchBits(int segment) const;
-  [[nodiscard]] Group Make(int group, AirTime now);
-  [[nodiscard]] Group MakeClockTime() const;
-  [[nodiscard]] Group MakeAnnouncement(const NetworkRotation::Announcement& told) const;
+  [[nodiscard]] air::Switches SwitchesAt(int segment) const;
+  [[nodiscard]] air::Group Make(int group, AirTime now);
+  template <typename Body>
+  [[nodiscard]] air::Group Build(const Body& body) const {
+    return air::Build(head_, body);
+  }
 
   Coder& coder_;
   std::optional<std::uint64_t> changes_;  // of the memory, seen last
@@ -64,19 +65,17 @@ class OnAir {
   std::optional<LocalMinute> told_;    // by the last 4A, or would have been
   Plan plan_;
   ProgrammeItems items_;
-  std::uint16_t item_ = 0;  // that is on
+  air::ItemNumber item_;  // that is on
 
-  int pi_ = 0;
-  bool tp_ = false;
-  int pty_ = 0;
+  air::Head head_;
   bool ta_ = false;
   bool music_ = false;
   int di_ = 0;
   int ecc_ = 0;
   int language_ = 0;
   bool linkage_ = false;
-  int traffic_table_ = 0;       // as 3A carries it
-  int traffic_service_ = 0;     // as 3A carries it
+  air::TrafficTable traffic_table_;
+  air::TrafficService traffic_service_;
   int switch_segment_ = 0;      // of 15B
   bool tells_country_ = false;  // the last 1A did
   bool tells_table_ = false;    // the last 3A did

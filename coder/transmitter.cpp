@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <ostream>
 
+#include "air/hex_text.h"
+
 namespace corvalis::coder {
 
 namespace {
@@ -72,7 +74,7 @@ Transmitter::Output* Transmitter::FirstBusy() {
   return busy == outputs_.end() ? nullptr : &*busy;
 }
 
-void Transmitter::Send(const Group& group) {
+void Transmitter::Send(const air::Group& group) {
   for (Output& output : outputs_) {
     switch (output.outlet.Look()) {
       case Outlet::State::kReady:
@@ -88,13 +90,8 @@ void Transmitter::Send(const Group& group) {
   }
 }
 
-void Transmitter::Put(Output& output, const Group& group) {
-  std::string text;
-  for (const std::uint16_t block : group.blocks) {
-    if (!text.empty()) text += ' ';
-    for (int shift = 12; shift >= 0; shift -= 4) text += "0123456789ABCDEF"[block >> shift & 0xF];
-  }
-  output.outlet.Put(text + "\n");
+void Transmitter::Put(Output& output, const air::Group& group) {
+  output.outlet.Put(air::HexLine(group) + "\n");
 }
 
 void Transmitter::Drop(Output& output) {

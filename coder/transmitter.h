@@ -48,8 +48,8 @@ class Transmitter {
   };
 
   void Add(const std::string& path);
-  void Send(const Group& group);
-  void Put(Output& output, const Group& group);
+  void Send(const air::Group& group);
+  void Put(Output& output, const air::Group& group);
   void Drop(Output& output);
   [[nodiscard]] Output* FirstBusy();
   [[nodiscard]] bool AllSent() const;

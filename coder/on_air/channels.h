@@ -1,10 +1,9 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
-#include <cstdint>
 #include <vector>
 
+#include "air/groups.h"
 #include "coder/coder.h"
 #include "coder/on_air/watch.h"
 
@@ -15,22 +14,15 @@ namespace corvalis::coder {
 /// then the first again.
 class ChannelRotation {
  public:
-  struct Data {
-    int channel = 0;  ///< 0 to 31
-    std::array<std::uint8_t, 4> bytes{};
-
-    bool operator==(const Data&) const = default;
-  };
-
   /// Looks at what has been written.
   void Follow(const Coder& coder);
   /// False if there is nothing to send; there is no next then.
   [[nodiscard]] bool HasData() const { return !data_.empty(); }
-  [[nodiscard]] Data Next();
+  [[nodiscard]] air::Group5A Next();
 
  private:
   Watch watch_{{kTdc}};
-  std::vector<Data> data_;
+  std::vector<air::Group5A> data_;
   std::size_t at_ = 0;
 };
 

@@ -1,5 +1,7 @@
 #include "coder/on_air/frequencies.h"
 
+#include <cstdint>
+
 #include "air/af_codes.h"
 #include "coder/digits.h"
 

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
-#include <cstdint>
 #include <optional>
 #include <vector>
 
 #include "air/af_codes.h"
+#include "air/words.h"
 #include "coder/coder.h"
 #include "coder/on_air/watch.h"
 
@@ -19,7 +18,7 @@ namespace corvalis::coder {
 /// each from its count to its last frequency.
 class FrequencyRotation {
  public:
-  using Pair = std::array<std::uint8_t, 2>;
+  using Pair = air::BytePair;
 
   /// Looks at what has been written.
   void Follow(const Coder& coder);

@@ -5,6 +5,7 @@
 #include <optional>
 #include <vector>
 
+#include "air/words.h"
 #include "coder/coder.h"
 #include "coder/on_air/air_time.h"
 #include "coder/on_air/clock.h"
@@ -24,7 +25,7 @@ class NameRotation {
  public:
   struct Segment {
     int number = 0;  ///< 0 to 3
-    std::array<std::uint8_t, 2> characters{};
+    air::BytePair characters{};
   };
 
   /// Looks at what has been written.

@@ -1,7 +1,7 @@
 #include "coder/on_air/networks.h"
 
 #include <algorithm>
-#include <array>
+#include <cstdint>
 
 #include "air/af_codes.h"
 #include "coder/digits.h"
@@ -10,33 +10,30 @@ namespace corvalis::coder {
 
 namespace {
 
-using Part = NetworkRotation::Part;
-
 constexpr int kUrgentTimes = 8;
+
+using Part = air::Group14A;
 
 bool IsFmCode(std::uint8_t code) { return code >= 1 && code <= air::kLastFmCode; }
 bool IsAmCode(std::uint8_t code) { return code >= 1 && code <= air::kLastAmCode; }
 
-std::uint16_t Two(std::uint8_t first, std::uint8_t second) {
-  return static_cast<std::uint16_t>(first * 256 + second);
-}
+std::uint16_t PiIn(const Bytes& body) { return static_cast<std::uint16_t>(HexAt(body, 40, 4)); }
 
 // Everything a list tells: name, TP, TA, PTY, PIN, 2 + 9 codes of FM and 1 of LF or MF, PI,
 // enabled.
 void AddParts(const Bytes& body, std::vector<Part>& parts) {
-  const auto pi = static_cast<std::uint16_t>(HexAt(body, 40, 4));
-  const auto add = [&](int variant, int content) {
+  const auto add = [&](int variant, const auto& content) {
     parts.push_back({.tp = FlagAt(body, 8),
                      .variant = variant,
-                     .content = static_cast<std::uint16_t>(content),
-                     .pi = pi});
+                     .content = air::WordOf(content),
+                     .pi = PiIn(body)});
   };
   const auto code = [&body](std::size_t at) {
     return static_cast<std::uint8_t>(HexAt(body, at, 2));
   };
-  for (int pair = 0; pair < 4; ++pair) {
-    const auto at = 2 * static_cast<std::size_t>(pair);
-    add(pair, Two(body[at], body[at + 1]));
+  for (int variant = 0; variant <= Part::kLastName; ++variant) {
+    const auto at = 2 * static_cast<std::size_t>(variant);
+    add(variant, air::BytePair{body[at], body[at + 1]});
   }
 
   std::vector<std::uint8_t> list = {air::kAfCount};
@@ -46,16 +43,18 @@ void AddParts(const Bytes& body, std::vector<Part>& parts) {
   list[0] = static_cast<std::uint8_t>(air::kAfCount + list.size() - 1);
   if (list.size() % 2 != 0) list.push_back(air::kAfFiller);
   for (std::size_t at = 0; at < list.size() && list[0] != air::kAfCount; at += 2) {
-    add(4, Two(list[at], list[at + 1]));
+    add(Part::kFrequencies, air::BytePair{list[at], list[at + 1]});
   }
 
-  for (int pair = 0; pair < 4; ++pair) {
-    const auto at = 20 + 4 * static_cast<std::size_t>(pair);
-    if (IsFmCode(code(at)) && IsFmCode(code(at + 2))) add(5 + pair, Two(code(at), code(at + 2)));
+  std::size_t at = 20;
+  for (int variant = Part::kFirstPair; variant <= Part::kAmPair; ++variant, at += 4) {
+    const air::BytePair pair{code(at), code(at + 2)};
+    const bool is_other = variant == Part::kAmPair ? IsAmCode(pair[1]) : IsFmCode(pair[1]);
+    if (IsFmCode(pair[0]) && is_other) add(variant, pair);
   }
-  if (IsFmCode(code(36)) && IsAmCode(code(38))) add(9, Two(code(36), code(38)));
-  add(13, HexAt(body, 10, 2) % 32 * 2048 + (FlagAt(body, 9) ? 1 : 0));
-  add(14, HexAt(body, 12, 4));
+  add(Part::kTypeAndAnnouncement,
+      air::TypeAndAnnouncement{.pty = HexAt(body, 10, 2), .ta = FlagAt(body, 9)});
+  add(Part::kItem, static_cast<std::uint16_t>(HexAt(body, 12, 4)));
 }
 
 }  // namespace
@@ -69,10 +68,7 @@ void NetworkRotation::Follow(const Coder& coder) {
     const Bytes body = *coder.Item(kEon, number);
     if (!FlagAt(body, 44)) continue;
     AddParts(body, parts);
-    networks_.push_back({number,
-                         {.tp = FlagAt(body, 8),
-                          .ta = FlagAt(body, 9),
-                          .pi = static_cast<std::uint16_t>(HexAt(body, 40, 4))}});
+    networks_.push_back({number, {.tp = FlagAt(body, 8), .ta = FlagAt(body, 9), .pi = PiIn(body)}});
     announcing[static_cast<std::size_t>(number)] = FlagAt(body, 9);
   }
   if (announcing_) {
@@ -87,11 +83,13 @@ void NetworkRotation::Follow(const Coder& coder) {
   if (coder.Written(kLi)) {
     // LA, extended generic, international linkage, set number.
     const Bytes body = *coder.Item(kLi);
-    const int content = (FlagAt(body, 0) ? 0x8000 : 0) + (FlagAt(body, 1) ? 0x4000 : 0) +
-                        (FlagAt(body, 2) ? 0x1000 : 0) + HexAt(body, 3, 3);
+    const air::Linkage linkage{.la = FlagAt(body, 0),
+                               .extended = FlagAt(body, 1),
+                               .international = FlagAt(body, 2),
+                               .number = HexAt(body, 3, 3)};
     parts.push_back({.tp = FlagAt(*coder.Item(kTp), 0),
-                     .variant = 12,
-                     .content = static_cast<std::uint16_t>(content),
+                     .variant = Part::kLinkage,
+                     .content = air::WordOf(linkage),
                      .pi = static_cast<std::uint16_t>(HexAt(*coder.Item(kPi), 0, 4))});
   }
   if (parts.size() != parts_.size()) part_ = 0;
@@ -99,19 +97,19 @@ void NetworkRotation::Follow(const Coder& coder) {
   if (network_ >= networks_.size()) network_ = 0;
 }
 
-Part NetworkRotation::NextPart() {
+air::Group14A NetworkRotation::NextPart() {
   const Part next = parts_[part_];
   part_ = (part_ + 1) % parts_.size();
   return next;
 }
 
-NetworkRotation::Announcement NetworkRotation::NextAnnouncement() {
-  const Announcement next = networks_[network_].announcement;
+air::Group14B NetworkRotation::NextAnnouncement() {
+  const air::Group14B next = networks_[network_].announcement;
   network_ = (network_ + 1) % networks_.size();
   return next;
 }
 
-std::optional<NetworkRotation::Announcement> NetworkRotation::TakeUrgent() {
+std::optional<air::Group14B> NetworkRotation::TakeUrgent() {
   while (!urgent_.empty()) {
     Urgent& first = urgent_.front();
     const int number = first.number;

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <deque>
 #include <optional>
 #include <vector>
 
+#include "air/groups.h"
 #include "coder/coder.h"
 #include "coder/on_air/watch.h"
 
@@ -16,38 +16,22 @@ namespace corvalis::coder {
 /// on another network is told at once, eight times.
 class NetworkRotation {
  public:
-  /// What a 14A tells.
-  struct Part {
-    bool tp = false;
-    int variant = 0;
-    std::uint16_t content = 0;  ///< block 3
-    std::uint16_t pi = 0;
-
-    bool operator==(const Part&) const = default;
-  };
-  /// What a 14B tells.
-  struct Announcement {
-    bool tp = false;
-    bool ta = false;
-    std::uint16_t pi = 0;
-  };
-
   /// Looks at what has been written.
   void Follow(const Coder& coder);
 
   /// False if there is nothing to send; there is no next part then.
   [[nodiscard]] bool HasPart() const { return !parts_.empty(); }
-  [[nodiscard]] Part NextPart();
+  [[nodiscard]] air::Group14A NextPart();
   /// False if no network is enabled; there is no next announcement then.
   [[nodiscard]] bool HasAnnouncement() const { return !networks_.empty(); }
-  [[nodiscard]] Announcement NextAnnouncement();
+  [[nodiscard]] air::Group14B NextAnnouncement();
   /// What has to go out before anything else.
-  [[nodiscard]] std::optional<Announcement> TakeUrgent();
+  [[nodiscard]] std::optional<air::Group14B> TakeUrgent();
 
  private:
   struct Network {
     int number;
-    Announcement announcement;
+    air::Group14B announcement;
   };
   struct Urgent {
     int number;
@@ -57,7 +41,7 @@ class NetworkRotation {
   void Announce(int number);
 
   Watch watch_{{kEon, kLi, kPi, kTp}};
-  std::vector<Part> parts_;
+  std::vector<air::Group14A> parts_;
   std::size_t part_ = 0;
   std::vector<Network> networks_;  // that are enabled
   std::size_t network_ = 0;

@@ -1,6 +1,8 @@
 #include "coder/on_air/pages.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 
 #include "coder/digits.h"
 
@@ -33,15 +35,15 @@ void PageRotation::Follow(const Coder& coder) {
   if (pages_.empty()) at_ = 0;
 }
 
-PageRotation::Segment PageRotation::Next(AirTime now) {
+air::Group6A PageRotation::Next(AirTime now) {
   if (at_ == 0) sent_ = turn_.At(pages_, now);
-  Segment next{.page = sent_.number, .characters = {}};
-  for (std::uint8_t& character : next.characters) {
+  std::array<std::uint8_t, 4> characters{};
+  for (std::uint8_t& character : characters) {
     character = at_ < sent_.text.size() ? sent_.text[at_] : kEndOfText;
     ++at_;
   }
   if (at_ >= sent_.text.size()) at_ = 0;
-  return next;
+  return {.own = sent_.number, .bytes = air::FourBytes::Of(characters)};
 }
 
 }  // namespace corvalis::coder

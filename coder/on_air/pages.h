@@ -1,10 +1,9 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
-#include <cstdint>
 #include <vector>
 
+#include "air/groups.h"
 #include "coder/coder.h"
 #include "coder/on_air/air_time.h"
 #include "coder/on_air/turn.h"
@@ -17,16 +16,11 @@ namespace corvalis::coder {
 /// its rotation time, at least once, and then the next. Pages from 32 on have no number on the air.
 class PageRotation {
  public:
-  struct Segment {
-    int page = 0;  ///< 0 to 31
-    std::array<std::uint8_t, 4> characters{};
-  };
-
   /// Looks at what has been written.
   void Follow(const Coder& coder);
   /// False if there is nothing to send; there is no next then.
   [[nodiscard]] bool HasText() const { return !pages_.empty(); }
-  [[nodiscard]] Segment Next(AirTime now);
+  [[nodiscard]] air::Group6A Next(AirTime now);
 
  private:
   struct Page {

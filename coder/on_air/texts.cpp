@@ -34,6 +34,19 @@ void TextRotation::SetInUse(bool long_kind, bool short_kind) {
   if (!short_kind) short_.segment = 0;
 }
 
+air::Group2A TextRotation::NextLong(AirTime now) {
+  const Segment next = Next(long_, short_, now);
+  return {
+      .flag = next.flag, .segment = next.number, .characters = air::FourBytes::Of(next.characters)};
+}
+
+air::Group2B TextRotation::NextShort(AirTime now) {
+  const Segment next = Next(short_, long_, now);
+  return {.flag = next.flag,
+          .segment = next.number,
+          .characters = air::BytePair{next.characters[0], next.characters[1]}};
+}
+
 TextRotation::Segment TextRotation::Next(Pass& pass, const Pass& other, AirTime now) {
   if (pass.segment == 0 && (other.segment == 0 || other.whole)) {
     const Bytes& next = turn_.At(texts_, now).text;

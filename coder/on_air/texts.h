@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "air/groups.h"
 #include "coder/coder.h"
 #include "coder/on_air/air_time.h"
 #include "coder/on_air/turn.h"
@@ -17,12 +18,6 @@ namespace corvalis::coder {
 /// when each kind that is in use has brought it whole.
 class TextRotation {
  public:
-  struct Segment {
-    bool flag = false;
-    int number = 0;                            ///< 0 to 15
-    std::array<std::uint8_t, 4> characters{};  ///< of the short kind the first two
-  };
-
   /// Looks at what has been written.
   void Follow(const Coder& coder);
   /// False if there is nothing to send; there is no next then.
@@ -30,14 +25,19 @@ class TextRotation {
   /// Tells which kinds are sent at all. What is left off stands at its beginning.
   void SetInUse(bool long_kind, bool short_kind);
   /// Four characters of up to 64, as a 2A carries them.
-  [[nodiscard]] Segment NextLong(AirTime now) { return Next(long_, short_, now); }
+  [[nodiscard]] air::Group2A NextLong(AirTime now);
   /// Two characters of up to 32, as a 2B carries them.
-  [[nodiscard]] Segment NextShort(AirTime now) { return Next(short_, long_, now); }
+  [[nodiscard]] air::Group2B NextShort(AirTime now);
 
  private:
   static constexpr std::size_t kLength = 64;
   static constexpr std::size_t kSegments = 16;
 
+  struct Segment {
+    bool flag;
+    int number;                              // 0 to 15
+    std::array<std::uint8_t, 4> characters;  // of the short kind the first two
+  };
   struct Item {
     int number;
     int seconds;

@@ -1,5 +1,7 @@
 #include "coder/on_air/traffic.h"
 
+#include <cstdint>
+
 #include "coder/digits.h"
 
 namespace corvalis::coder {
@@ -17,13 +19,14 @@ void TrafficRotation::Follow(const Coder& coder) {
     const Bytes body = *coder.Item(kTmc, number);
     const int event = HexAt(body, 0, 3);
     if (event == 0) continue;
-    messages.push_back({.event = event,
-                        .location = HexAt(body, 3, 4),
-                        .direction = FlagAt(body, 7),
-                        .extent = HexAt(body, 8, 1),
-                        .diversion = FlagAt(body, 9),
-                        .duration = HexAt(body, 10, 1),
-                        .times = kTimes + HexAt(body, 11, 1)});
+    const air::Group8A group{.single = true,
+                             .duration = HexAt(body, 10, 1),
+                             .diversion = FlagAt(body, 9),
+                             .direction = FlagAt(body, 7),
+                             .extent = HexAt(body, 8, 1),
+                             .event = event,
+                             .location = static_cast<std::uint16_t>(HexAt(body, 3, 4))};
+    messages.push_back({.group = group, .times = kTimes + HexAt(body, 11, 1)});
   }
   if (messages == messages_) return;
   messages_ = std::move(messages);
@@ -31,13 +34,13 @@ void TrafficRotation::Follow(const Coder& coder) {
   sent_ = 0;
 }
 
-const TrafficRotation::Message& TrafficRotation::Next() {
+const air::Group8A& TrafficRotation::Next() {
   if (sent_ == messages_[at_].times) {
     sent_ = 0;
     at_ = (at_ + 1) % messages_.size();
   }
   ++sent_;
-  return messages_[at_];
+  return messages_[at_].group;
 }
 
 }  // namespace corvalis::coder

@@ -1,9 +1,9 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <vector>
 
+#include "air/groups.h"
 #include "coder/coder.h"
 #include "coder/on_air/watch.h"
 
@@ -13,25 +13,20 @@ namespace corvalis::coder {
 /// as its repetition says, and then the next.
 class TrafficRotation {
  public:
-  struct Message {
-    int event = 0;
-    int location = 0;
-    bool direction = false;
-    int extent = 0;
-    bool diversion = false;
-    int duration = 0;
-    int times = 0;  ///< in a row
-
-    bool operator==(const Message&) const = default;
-  };
-
   /// Looks at what has been written.
   void Follow(const Coder& coder);
   /// False if there is nothing to send; there is no next then.
   [[nodiscard]] bool HasMessage() const { return !messages_.empty(); }
-  [[nodiscard]] const Message& Next();
+  [[nodiscard]] const air::Group8A& Next();
 
  private:
+  struct Message {
+    air::Group8A group;
+    int times = 0;  // in a row
+
+    bool operator==(const Message&) const = default;
+  };
+
   Watch watch_{{kTmc}};
   std::vector<Message> messages_;
   std::size_t at_ = 0;

@@ -1,8 +1,9 @@
 #include "coder/on_air/type_name.h"
 
 #include <algorithm>
-#include <cstddef>
+#include <array>
 #include <cstdint>
+#include <iterator>
 #include <utility>
 
 #include "coder/digits.h"
@@ -23,11 +24,12 @@ void TypeName::Follow(const Coder& coder) {
   segment_ = 0;
 }
 
-TypeName::Segment TypeName::Next() {
-  Segment next{.flag = flag_, .number = segment_, .characters = {}};
-  const std::size_t length = next.characters.size();
-  std::copy_n(name_.begin() + static_cast<std::ptrdiff_t>(length) * segment_, length,
-              next.characters.begin());
+air::Group10A TypeName::Next() {
+  std::array<std::uint8_t, 4> characters{};
+  std::copy_n(name_.begin() + std::ssize(characters) * segment_, characters.size(),
+              characters.begin());
+  const air::Group10A next{
+      .flag = flag_, .segment = segment_, .characters = air::FourBytes::Of(characters)};
   segment_ = 1 - segment_;
   return next;
 }

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
-
+#include "air/groups.h"
 #include "coder/coder.h"
 #include "coder/on_air/watch.h"
 
@@ -13,17 +11,11 @@ namespace corvalis::coder {
 /// beginning.
 class TypeName {
  public:
-  struct Segment {
-    bool flag = false;
-    int number = 0;  ///< 0 or 1
-    std::array<std::uint8_t, 4> characters{};
-  };
-
   /// Looks at what has been written.
   void Follow(const Coder& coder);
   /// False if there is nothing to send; there is no next then.
   [[nodiscard]] bool HasName() const { return has_name_; }
-  [[nodiscard]] Segment Next();
+  [[nodiscard]] air::Group10A Next();
 
  private:
   Watch watch_{{kPty, kPtyn}};

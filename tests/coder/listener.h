@@ -3,17 +3,18 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
-#include <cstdio>
+#include <iterator>
 #include <map>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "air/groups.h"
+#include "air/hex_text.h"
 #include "coder/coder.h"
 #include "coder/frames.h"
 #include "coder/on_air.h"
-#include "coder/on_air/group.h"
 
 namespace corvalis::coder {
 
@@ -33,8 +34,7 @@ inline std::string Rt(int seconds, const std::string& text) {
   return Digits(seconds, 10) + Padded(text, 64);
 }
 
-/// A Coder on the air, and somebody who writes down what the groups say, by the layout of each kind
-/// alone. A day of it takes no time.
+/// A Coder on the air, and somebody who writes down what the groups say. A day of it takes no time.
 class Listener {
  public:
   using Lines = std::vector<std::string>;
@@ -53,8 +53,8 @@ class Listener {
     }
   }
 
-  Group Next() {
-    const Group group = on_air.Next(GroupStart(groups++));
+  air::Group Next() {
+    const air::Group group = on_air.Next(GroupStart(groups++));
     Hear(group);
     return group;
   }
@@ -76,65 +76,68 @@ class Listener {
   std::map<std::string, Lines> said;
 
  private:
-  static unsigned Bits(std::uint16_t word, int low, int count) {
-    return word >> low & ((1U << count) - 1);
-  }
-  static std::string Hex(unsigned value, int digits) {
-    char text[9];
-    std::snprintf(text, sizeof text, "%0*X", digits, value);
-    return text;
-  }
-  static std::string Two(std::uint16_t word) {
-    return {static_cast<char>(word >> 8), static_cast<char>(word & 0xFF)};
+  static std::string TextOf(const air::BytePair& pair) { return {pair.begin(), pair.end()}; }
+  static std::string TextOf(const air::FourBytes& four) {
+    return TextOf(*four.first) + TextOf(*four.second);
   }
   // Gathers the segments of a text, and gives it when the last one has come in order.
-  void Gather(const std::string& subject, unsigned segment, const std::string& characters,
-              bool last) {
+  void Gather(const std::string& subject, int segment, const std::string& characters, bool last) {
     std::string& text = gathered_[subject];
     if (segment == 0) text.clear();
-    if (text.size() != segment * characters.size()) text = "out of order";
+    if (std::ssize(text) != segment * std::ssize(characters)) text = "out of order";
     text += characters;
     if (last) said[subject].push_back(text);
   }
 
-  void Hear(const Group& group) {
-    const auto& [pi, second, third, fourth] = group.blocks;
-    const unsigned type = Bits(second, 12, 4);
-    const bool b = Bits(second, 11, 1) != 0;
-    const unsigned own = Bits(second, 0, 5);
-    const std::string name = std::to_string(type) + (b ? "B" : "A");
+  void GatherName(const air::Switches& switches, const air::BytePair& characters) {
+    Gather("PS", switches.segment, TextOf(characters), switches.segment == 3);
+  }
+  // Every character of a segment keeps the flag in mind.
+  void GatherFlagged(const std::string& subject, bool flag, int segment,
+                     const std::string& characters, bool last) {
+    Gather(subject, segment, characters, last);
+    if (flag_[subject] != flag && segment > 0) said[subject].push_back("flag turned inside");
+    flag_[subject] = flag;
+    if (last) said[subject].back().insert(0, flag ? "1" : "0");
+  }
+
+  void Hear(const air::Group& sent) {
+    const air::HeardGroup group = air::Heard(sent);
+    const std::string name = air::HeadOf(group)->kind.Name();
+    const std::string line = air::HexLine(sent);
     said["group"].push_back(name);
-    if (b && third != pi) said[name].push_back("no PI in block 3");
-    const std::string four = Two(third) + Two(fourth);
-    if (type == 0) Gather("PS", own & 3, Two(fourth), (own & 3) == 3);
-    if (name == "0A") said["AF"].push_back(Hex(third, 4));
-    if (type == 2 || name == "10A") {
-      const std::string characters = b ? Two(fourth) : four;
-      const unsigned segment = own & 15;
-      const std::string subject = type == 10 ? "PTYN" : b ? "RT short" : "RT";
-      const std::string flag = (own & 16) != 0 ? "1" : "0";
-      const bool last =
-          type == 10 ? segment == 1 : segment == 15 || characters.find('\r') != std::string::npos;
-      // Every character of a segment keeps the flag in mind.
-      Gather(subject, segment, characters, last);
-      if (flag_[subject] != flag && segment > 0) said[subject].push_back("flag turned inside");
-      flag_[subject] = flag;
-      if (last) said[subject].back() = flag + said[subject].back();
-    }
-    if (type == 4) {
-      const unsigned offset = Bits(fourth, 0, 5);
-      said[name].push_back(std::to_string(Bits(second, 0, 2) << 15 | Bits(third, 1, 15)) + " " +
-                           std::to_string(Bits(third, 0, 1) << 4 | Bits(fourth, 12, 4)) + ":" +
-                           std::to_string(Bits(fourth, 6, 6)) +
-                           (Bits(fourth, 5, 1) != 0 ? " -" : " +") + std::to_string(offset));
-    }
-    if (type == 1 || type == 3 || type == 5 || type == 6 || type == 8 || type >= 14) {
-      said[name].push_back(Hex(own, 2) + " " + (b ? "" : Hex(third, 4) + " ") + Hex(fourth, 4));
+    const auto ends = [](const std::string& characters, int segment) {
+      return segment == 15 || characters.find('\r') != std::string::npos;
+    };
+    if (const auto name_0a = air::Take<air::Group0A>(group)) {
+      GatherName(name_0a->switches, *name_0a->characters);
+      said["AF"].push_back(line.substr(10, 4));
+    } else if (const auto name_0b = air::Take<air::Group0B>(group)) {
+      GatherName(name_0b->switches, *name_0b->characters);
+    } else if (const auto text = air::Take<air::Group2A>(group)) {
+      const std::string four = TextOf(text->characters);
+      GatherFlagged("RT", text->flag, text->segment, four, ends(four, text->segment));
+    } else if (const auto part = air::Take<air::Group2B>(group)) {
+      const std::string two = TextOf(*part->characters);
+      GatherFlagged("RT short", part->flag, part->segment, two, ends(two, part->segment));
+    } else if (const auto type = air::Take<air::Group10A>(group)) {
+      GatherFlagged("PTYN", type->flag, type->segment, TextOf(type->characters),
+                    type->segment == 1);
+    } else if (const auto time = air::Take<air::Group4A>(group)) {
+      const int offset = time->offset_half_hours;
+      said[name].push_back(std::to_string(time->day) + " " + std::to_string(time->hour) + ":" +
+                           std::to_string(time->minute) + (offset < 0 ? " " : " +") +
+                           std::to_string(offset));
+    } else {
+      // The group's own five bits, and the blocks.
+      const bool b = name.back() == 'B';
+      if (b && sent.blocks[2] != sent.blocks[0]) said[name].push_back("no PI in block 3");
+      said[name].push_back(Digits(sent.blocks[1] & 0x1F, 16) + line.substr(b ? 14 : 9));
     }
   }
 
   std::map<std::string, std::string> gathered_;
-  std::map<std::string, std::string> flag_;
+  std::map<std::string, bool> flag_;
 };
 
 }  // namespace corvalis::coder

@@ -69,7 +69,7 @@ TEST(OnAir, TellsSwitchesInTheVeryNextGroup) {
     for (const auto& c : cases) {
       air.Write(c.command, 0, c.body);
       for (int i = 0; i < 2; ++i) {
-        const Group group = air.Next();
+        const air::Group group = air.Next();
         const int b = group.blocks[1] & 0xF800;
         EXPECT_EQ(group.blocks[0], c.first);
         EXPECT_EQ(group.blocks[1] & 0x07F8, c.second) << c.body;
