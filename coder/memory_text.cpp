@@ -103,7 +103,7 @@ std::optional<Told> ReadLine(std::string_view line) {
   if (colon == std::string_view::npos) return std::nullopt;
   std::string_view rest = line.substr(colon + 2);
   auto bytes = TakeBytes(rest);
-  if (!bytes) return std::nullopt;
+  if (!bytes || (!rest.empty() && rest.front() != ' ')) return std::nullopt;
   const std::string_view words = rest.substr(0, rest.find(")  \""));
   return Told{line.substr(0, colon), std::move(*bytes), !words.ends_with(kNeverWritten)};
 }

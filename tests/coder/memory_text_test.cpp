@@ -81,6 +81,8 @@ TEST(MemoryText, TellsTheLineThatItCannotTake) {
        "line 2: \"PSN page 01 row 02\" does not take these bytes"},
       {"no bytes", "memory\nPI 00: \nend of memory\n",
        "line 2: no name, place and bytes of an item (such as \"PI 00: 35 32 30 31\")"},
+      {"half a byte", "memory\nPI 00: 35 32 30 31 3\nend of memory\n",
+       "line 2: no name, place and bytes of an item (such as \"PI 00: 35 32 30 31\")"},
       {"a size that is none", "memory\nRT count 00: 35 78\nend of memory\n",
        "line 2: \"RT count 00\" does not take these bytes"},
       {"an ID cut short", "memory\nID \"AB\nend of memory\n",
