@@ -144,6 +144,10 @@ const std::array kOptions = {
            [](Options& o, std::string_view v) { return ParseNumber(v, 0, kMost, o.dial_ms); }},
     Option{"--air", "PATH", "a path", "write each group on the air as hexadecimal text (see below)",
            [](Options& o, std::string_view v) { return ParsePath(v, o.air.text); }},
+    Option{"--bits", "PATH", "a path", "write the same as bits",
+           [](Options& o, std::string_view v) { return ParsePath(v, o.air.bits); }},
+    Option{"--mpx", "PATH", "a path", "write the same as the multiplex signal",
+           [](Options& o, std::string_view v) { return ParsePath(v, o.air.mpx); }},
     Option{"--air-speed", "N", "a whole number from 0",
            "be N times as fast as the air; 0: as fast as it can be",
            [](Options& o, std::string_view v) { return ParseNumber(v, 0, kMost, o.air.speed); }},
@@ -221,6 +225,15 @@ std::string HelpText() {
          "modem is\nset up with a guard time of 0: \"+++\" needs no silence before it. The call "
          "stays "
          "up when the\nport is closed.\n\n"
+         "On the air, a file is emptied, a FIFO may get a reader at any time, and \"-\" is the "
+         "standard\noutput; words then go to the standard error. A reader that is slow or goes "
+         "away "
+         "never holds up\nthe line: groups are dropped, and the standard error tells it. The "
+         "multiplex signal is 16 bits\nsigned, little-endian, one channel, 192000 samples a "
+         "second, "
+         "for a player at 192 kHz; a PATH\nthat ends in \".wav\" gets a header. Of --air, --bits "
+         "and "
+         "--mpx any or all may be given.\n\n"
          "A pseudo-terminal knows speed and stop bits and has no parity.\n";
 }
 

@@ -89,6 +89,12 @@ void Outlet::PutOver(std::string_view front) const {
   if (is_file_) static_cast<void>(!pwrite(descriptor_, front.data(), front.size(), 0));
 }
 
+std::uint64_t Outlet::FileBytes() const {
+  struct stat status {};
+  if (!is_file_ || fstat(descriptor_, &status) != 0) return 0;
+  return static_cast<std::uint64_t>(status.st_size);
+}
+
 void Outlet::Flush() {
   stuck_ = false;
   while (!left_.empty()) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -34,12 +35,14 @@ class Outlet {
   };
   /// Passes on what is left, looks for a reader, and says how it stands.
   State Look();
-  /// Only when ready: takes all bytes, whatever of them can leave at once.
+  /// Only when ready or busy: takes all bytes, whatever of them can leave at once.
   void Put(std::string_view bytes);
   /// True once for each reader (a file has one), and only when ready: it has got nothing yet.
   [[nodiscard]] bool TakeFresh();
   /// Writes over what stands at the front, if this is a file.
   void PutOver(std::string_view front) const;
+  /// How long this file is by now; 0 if it is none.
+  [[nodiscard]] std::uint64_t FileBytes() const;
 
   [[nodiscard]] const std::string& Path() const { return path_; }
   /// To be polled for writing while busy.

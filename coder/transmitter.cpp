@@ -4,8 +4,8 @@
 
 #include <algorithm>
 #include <ostream>
-
-#include "air/hex_text.h"
+#include <string_view>
+#include <utility>
 
 namespace corvalis::coder {
 
@@ -19,16 +19,19 @@ constexpr int kTogether = 16;
 // What the last of it may take to leave.
 constexpr milliseconds kLastMoment{300};
 constexpr milliseconds kLookAgain{20};
+constexpr std::string_view kWithHeader = ".wav";
 
 }  // namespace
 
 Transmitter::Transmitter(Coder& coder, const AirOptions& options, std::ostream& complaints)
     : on_air_(coder), options_(options), complaints_(complaints) {
-  Add(options.text);
+  Add(options.text, MakeTextFormat());
+  Add(options.bits, MakeBitFormat());
+  Add(options.mpx, MakeMpxFormat(options.mpx.ends_with(kWithHeader)));
 }
 
-void Transmitter::Add(const std::string& path) {
-  if (!path.empty()) outputs_.push_back({Outlet(path)});
+void Transmitter::Add(const std::string& path, std::unique_ptr<AirFormat> format) {
+  if (!path.empty()) outputs_.push_back({Outlet(path), std::move(format)});
 }
 
 void Transmitter::Begin(Time now) { begun_ = look_again_ = now; }
@@ -91,7 +94,8 @@ void Transmitter::Send(const air::Group& group) {
 }
 
 void Transmitter::Put(Output& output, const air::Group& group) {
-  output.outlet.Put(air::HexLine(group) + "\n");
+  const std::string front = output.outlet.TakeFresh() ? output.format->Begin() : "";
+  output.outlet.Put(front + output.format->Write(group));
 }
 
 void Transmitter::Drop(Output& output) {
@@ -101,6 +105,12 @@ void Transmitter::Drop(Output& output) {
 }
 
 void Transmitter::End() {
+  for (Output& output : outputs_) {
+    const Outlet::State state = output.outlet.Look();
+    if (state == Outlet::State::kReady || state == Outlet::State::kBusy) {
+      output.outlet.Put(output.format->End());
+    }
+  }
   const Time last = Clock::now() + kLastMoment;
   while (Output* const busy = FirstBusy()) {
     const auto left = std::chrono::duration_cast<milliseconds>(last - Clock::now());
@@ -109,6 +119,7 @@ void Transmitter::End() {
     poll(&polled, 1, static_cast<int>(left.count()));
   }
   for (const Output& output : outputs_) {
+    output.outlet.PutOver(output.format->Front(output.outlet.FileBytes()));
     if (output.dropped == 0) continue;
     complaints_ << "corvalis-coder: " << output.dropped << " groups were dropped for "
                 << output.outlet.Path() << std::endl;

@@ -3,10 +3,12 @@
 #include <chrono>
 #include <cstdint>
 #include <iosfwd>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "coder/air_format.h"
 #include "coder/coder.h"
 #include "coder/on_air.h"
 #include "coder/options.h"
@@ -44,12 +46,13 @@ class Transmitter {
  private:
   struct Output {
     Outlet outlet;
+    std::unique_ptr<AirFormat> format;
     std::uint64_t dropped = 0;
   };
 
-  void Add(const std::string& path);
+  void Add(const std::string& path, std::unique_ptr<AirFormat> format);
   void Send(const air::Group& group);
-  void Put(Output& output, const air::Group& group);
+  static void Put(Output& output, const air::Group& group);
   void Drop(Output& output);
   [[nodiscard]] Output* FirstBusy();
   [[nodiscard]] bool AllSent() const;

@@ -7,13 +7,18 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <vector>
 
+#include "air/bits.h"
+#include "air/hex_text.h"
+#include "air/modulator.h"
 #include "coder/frames.h"
 
 namespace corvalis::coder {
@@ -30,8 +35,8 @@ class TransmitterTest : public testing::Test {
   ~TransmitterTest() override { fs::remove_all(folder_); }
 
   [[nodiscard]] std::string Path(const char* name) const { return folder_ / name; }
-  [[nodiscard]] std::string Fifo() const {
-    const std::string path = Path("fifo");
+  [[nodiscard]] std::string Fifo(const char* name = "fifo") const {
+    const std::string path = Path(name);
     EXPECT_EQ(mkfifo(path.c_str(), 0600), 0);
     return path;
   }
@@ -60,6 +65,23 @@ class TransmitterTest : public testing::Test {
   }
   [[nodiscard]] static auto Lines(const std::string& text) {
     return std::count(text.begin(), text.end(), '\n');
+  }
+  // Little-endian, as it stands in a signal.
+  static std::uint32_t Number(const std::string& bytes, std::size_t at, std::size_t count) {
+    std::uint32_t number = 0;
+    while (count-- > 0) number = number << 8 | static_cast<unsigned char>(bytes[at + count]);
+    return number;
+  }
+  static void ExpectHeader(const std::string& signal, std::uint32_t data_bytes) {
+    EXPECT_EQ(signal.substr(0, 4) + signal.substr(8, 8) + signal.substr(36, 4), "RIFFWAVEfmt data");
+    const bool known = data_bytes != 0xFFFFFFFF;
+    EXPECT_EQ(Number(signal, 4, 4), known ? data_bytes + 36 : data_bytes);
+    EXPECT_EQ(Number(signal, 16, 4), 16U);
+    EXPECT_EQ(Number(signal, 20, 4), 0x00010001U) << "plain samples, one channel";
+    EXPECT_EQ(Number(signal, 24, 4), 192000U);
+    EXPECT_EQ(Number(signal, 28, 4), 384000U);
+    EXPECT_EQ(Number(signal, 32, 4), 0x00100002U) << "two bytes, 16 bits";
+    EXPECT_EQ(Number(signal, 40, 4), data_bytes);
   }
 
   Coder coder;
@@ -145,9 +167,57 @@ TEST_F(TransmitterTest, WaitsForItsReaderIfItIsToBeAsFastAsItCan) {
   EXPECT_EQ(complaints.str(), "");
 }
 
+TEST_F(TransmitterTest, WritesTheSameAsBitsAndAsASignal) {
+  coder.SetItem(kPi, 0, Text("5201"));
+  for (const char* name : {"signal.wav", "signal"}) {
+    Begin({.text = Path("air"), .bits = Path("bits"), .mpx = Path(name), .speed = 0, .groups = 19});
+    while (!transmitter->Over()) transmitter->RunDue(*transmitter->NextDue());
+    transmitter->End();
+    std::istringstream lines(FileText(Path("air")));
+    std::string bits;
+    air::Modulator modulator;
+    std::vector<std::int16_t> samples;
+    for (std::string line; std::getline(lines, line);) {
+      air::Group group;
+      std::ranges::transform(air::ReadHexLine(line)->blocks, group.blocks.begin(),
+                             [](const auto& block) { return *block; });
+      bits += air::BitText(group);
+      modulator.Add(group, samples);
+    }
+    modulator.End(samples);
+    EXPECT_EQ(FileText(Path("bits")), bits);
+    const std::string signal = FileText(Path(name));
+    const std::size_t header = std::string(name) == "signal" ? 0 : 44;
+    ASSERT_EQ(signal.size(), header + 2 * samples.size());
+    for (std::size_t i = 0; i < samples.size(); ++i) {
+      ASSERT_EQ(Number(signal, header + 2 * i, 2), static_cast<std::uint16_t>(samples[i])) << i;
+    }
+    if (header > 0) ExpectHeader(signal, static_cast<std::uint32_t>(2 * samples.size()));
+  }
+}
+
+// Each reader of a pipe gets a signal that begins, of a length that nobody knows; groups that found
+// no room leave no trace in it.
+TEST_F(TransmitterTest, BeginsTheSignalAnewForEachReader) {
+  const std::string path = Fifo("fifo.wav");
+  Begin({.mpx = path});
+  for (int second : {1, 5}) {
+    const int reader = open(path.c_str(), O_RDONLY | O_NONBLOCK);
+    RunUntil(seconds(second));
+    const std::string signal = ReadAll(reader);
+    close(reader);
+    RunUntil(seconds(second + 1));
+    ExpectHeader(signal, 0xFFFFFFFF);
+    EXPECT_EQ(Number(signal, 44, 4), 0U);
+    EXPECT_GE(signal.size(), 180000U);
+  }
+  transmitter->End();
+}
+
 TEST_F(TransmitterTest, SaysWhatItCannotWrite) {
   EXPECT_THROW(Begin({.text = Path("no/folder")}), CannotWrite);
-  EXPECT_THROW(Begin({.text = testing::TempDir()}), CannotWrite);
+  EXPECT_THROW(Begin({.bits = Path("no/folder")}), CannotWrite);
+  EXPECT_THROW(Begin({.mpx = testing::TempDir()}), CannotWrite);
 }
 
 }  // namespace
