@@ -31,7 +31,7 @@ class Program {
   ProfileStore profiles_;
   Platform platform_;
   QtScreenHost host_;
-  Guide guide_;  // after the host, so that it sees a key before it
+  Guide guide_{[] { return QString(); }};  // after the host, so that it sees a key before it
   std::unique_ptr<MainForm> menu_;
 };
 

@@ -6,11 +6,14 @@
 
 #include <QDir>
 #include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
+#include <QPrinter>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QScrollBar>
 #include <QTabBar>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QTextBlock>
 #include <QTextBrowser>
@@ -27,8 +30,14 @@ namespace {
 
 const QString kGuide = QStringLiteral("GuideWindow");
 
-QString PageText(const QString& file) {
-  QFile page(desktop::GuideFolder() + u'/' + file);
+const QStringList kLanguages = {QStringLiteral("en"), QStringLiteral("de")};
+
+desktop::GuidePages Pages(const QString& language) {
+  return desktop::GuidePages(desktop::GuideFolder(), language);
+}
+
+QString PageText(const QString& path) {
+  QFile page(path);
   return page.open(QIODevice::ReadOnly) ? QString::fromUtf8(page.readAll()) : QString();
 }
 
@@ -45,36 +54,84 @@ class GuideTest : public RunningProgram {
   }
 };
 
-TEST(GuidePagesTest, EveryLinkAndPictureIsThereAndEveryPageIsReached) {
-  const QDir folder(desktop::GuideFolder());
-  std::set<QString> reached{QStringLiteral("index.md")};
-  const QStringList pages = folder.entryList({QStringLiteral("*.md")});
-  EXPECT_GT(pages.size(), 0);
+TEST(GuidePagesTest, EveryLinkAndPictureIsThereAndEveryPageIsReachedInEachLanguage) {
   static const QRegularExpression link(QStringLiteral("\\]\\(([^)]+)\\)"));
-  for (const QString& page : pages) {
-    const QString text = PageText(page);
-    EXPECT_TRUE(text.startsWith(u"# ")) << page.toStdString();
-    for (auto found = link.globalMatch(text); found.hasNext();) {
-      const QString to = found.next().captured(1);
-      EXPECT_TRUE(folder.exists(to)) << page.toStdString() << " names " << to.toStdString();
-      reached.insert(to);
+  for (const QString& language : kLanguages) {
+    const desktop::GuidePages pages = Pages(language);
+    std::set<QString> reached{QStringLiteral("index.md")};
+    EXPECT_GT(pages.All().size(), 0);
+    for (const QString& page : pages.All()) {
+      SCOPED_TRACE(language.toStdString() + '/' + page.toStdString());
+      const QString path = pages.PathOf(page);
+      const QString text = PageText(path);
+      EXPECT_TRUE(text.startsWith(u"# "));
+      for (auto found = link.globalMatch(text); found.hasNext();) {
+        const QString to = found.next().captured(1);
+        EXPECT_TRUE(QFileInfo(path).dir().exists(to)) << to.toStdString();
+        reached.insert(to);
+      }
     }
+    for (const QString& page : pages.All())
+      EXPECT_TRUE(reached.contains(page)) << page.toStdString();
   }
-  for (const QString& page : pages) EXPECT_TRUE(reached.contains(page)) << page.toStdString();
 }
 
 TEST(GuidePagesTest, EveryTextOfALinkErrorIsExplained) {
-  const QString text = PageText(QStringLiteral("link-errors.md"));
-  for (std::int16_t error = -1; error <= 27; ++error) {
-    const std::string_view said = LinkErrorText(error);
-    const QString words =
-        QString::fromLatin1(said.data(), static_cast<int>(said.size())).simplified();
-    EXPECT_TRUE(text.contains(words)) << error << words.toStdString();
+  for (const QString& language : kLanguages) {
+    const QString text = PageText(Pages(language).PathOf(QStringLiteral("link-errors.md")));
+    for (std::int16_t error = -1; error <= 27; ++error) {
+      const std::string_view said = LinkErrorText(error);
+      const QString words =
+          QString::fromLatin1(said.data(), static_cast<int>(said.size())).simplified();
+      EXPECT_TRUE(text.contains(words)) << error << words.toStdString();
+    }
   }
 }
 
+TEST(GuidePagesTest, SearchFindsAllPlacesMarksThemAndGoesRound) {
+  desktop::GuideWindow window(desktop::GuideFolder(), [] { return QStringLiteral("de_AT"); });
+  window.Open(QStringLiteral("setup.md"), {});
+  auto* search = window.findChild<QLineEdit*>(QStringLiteral("GuideSearch"));
+  auto* places = window.findChild<QListWidget*>(QStringLiteral("GuidePlaces"));
+  auto* page = window.findChild<QTextBrowser*>();
+  search->setText(QStringLiteral("k"));  // one letter stands nearly everywhere
+  EXPECT_EQ(places->count(), 0);
+  search->setText(QStringLiteral("kunstKOPF"));
+  ASSERT_GT(places->count(), 0);
+  EXPECT_TRUE(places->isVisible());
+  QTest::keyClick(search, Qt::Key_Return);
+  EXPECT_EQ(window.windowTitle(), "Guide: CT - TP - DI - PI - ECC - LIC");
+  EXPECT_EQ(page->textCursor().selectedText(), "Kunstkopf");
+  EXPECT_EQ(page->extraSelections().size(), places->count());
+  for (const auto& mark : page->extraSelections()) {
+    EXPECT_EQ(mark.cursor.selectedText().toLower(), "kunstkopf");
+  }
+  QTest::keyClick(search, Qt::Key_Up);
+  EXPECT_EQ(places->currentRow(), places->count() - 1);
+  QTest::keyClick(search, Qt::Key_Escape);
+  EXPECT_TRUE(search->text().isEmpty());
+  EXPECT_FALSE(places->isVisible());
+  EXPECT_TRUE(window.isVisible());
+  EXPECT_TRUE(page->extraSelections().isEmpty());
+}
+
+TEST(GuidePagesTest, IsPrintedWholeWithItsPictures) {
+  const QTemporaryDir folder;
+  const QString path = folder.filePath(QStringLiteral("guide.pdf"));
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setOutputFormat(QPrinter::PdfFormat);
+  printer.setOutputFileName(path);
+  const desktop::GuidePages pages = Pages({});
+  pages.Print(printer, pages.All());
+  QFile file(path);
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray pdf = file.readAll();
+  EXPECT_GE(pdf.count("/Type /Page\n"), pages.All().size());
+  EXPECT_GE(pdf.count("/Subtype /Image"), 20);
+}
+
 TEST(GuidePagesTest, AGuideThatIsNotThereIsSaidInTheWindow) {
-  desktop::GuideWindow window(QStringLiteral("/nowhere"));
+  desktop::GuideWindow window(QStringLiteral("/nowhere"), [] { return QString(); });
   window.Open(QStringLiteral("setup.md"), {});
   const auto* page = window.findChild<QTextBrowser*>();
   EXPECT_TRUE(page->toPlainText().contains(QStringLiteral("/nowhere/setup.md can't be read")));
@@ -82,7 +139,7 @@ TEST(GuidePagesTest, AGuideThatIsNotThereIsSaidInTheWindow) {
 }
 
 TEST(GuidePagesTest, NothingHangsOnTheGuide) {
-  desktop::GuideWindow window(desktop::GuideFolder());
+  desktop::GuideWindow window(desktop::GuideFolder(), [] { return QString(); });
   window.Open(QStringLiteral("index.md"), {});
   EXPECT_EQ(desktop::FrontWindow(nullptr), nullptr);
   EXPECT_EQ(desktop::FrontWindow(&window), nullptr);

@@ -50,7 +50,10 @@ QString GuideFolder() {
                                                                    : built;
 }
 
-Guide::Guide(const QString& folder) : window_(folder) { qApp->installEventFilter(this); }
+Guide::Guide(std::function<QString()> language, const QString& folder)
+    : window_(folder, std::move(language)) {
+  qApp->installEventFilter(this);
+}
 
 bool Guide::OpenFor(const QWidget& window) {
   if (const auto* box = qobject_cast<const QMessageBox*>(&window)) {
@@ -66,7 +69,10 @@ bool Guide::OpenFor(const QWidget& window) {
   const int tab = tabs == nullptr ? -1 : tabs->currentIndex();
   const bool known = tab >= 0 && tab < static_cast<int>(page->tabs.size());
   window_.Open(QString::fromLatin1(page->file),
-               known ? QString::fromLatin1(page->tabs[static_cast<std::size_t>(tab)]) : QString());
+               // A page names its tabs as the screen does, or in English.
+               known ? tabs->tabText(tab).remove(u'&') + u'\n' +
+                           QString::fromLatin1(page->tabs[static_cast<std::size_t>(tab)])
+                     : QString());
   return true;
 }
 

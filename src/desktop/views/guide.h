@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QString>
+#include <functional>
 
 #include "desktop/widgets/windows/guide_window.h"
 
@@ -14,7 +15,8 @@ namespace corvalis::desktop {
 /// part of it. While the transfer or the wait screen is up F1 does nothing, so ESC stays with it.
 class Guide : public QObject {
  public:
-  explicit Guide(const QString& folder = GuideFolder());
+  /// `language` gives the code of the language that the program speaks.
+  explicit Guide(std::function<QString()> language, const QString& folder = GuideFolder());
 
   /// Opens the page of a window: of a screen by its name, of a box with help at the link's errors,
   /// of another box that of the screen under it. False if there is none.

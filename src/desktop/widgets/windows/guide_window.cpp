@@ -4,17 +4,25 @@
 #include <QFile>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
 #include <QPixmap>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTextDocument>
 #include <QUrl>
 #include <QWindow>
 #include <algorithm>
+#include <initializer_list>
+#include <utility>
 
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/windows/front_window.h"
@@ -25,6 +33,9 @@ namespace {
 
 constexpr Length kWidth{1000};
 constexpr Length kHeight{760};
+constexpr Length kSearchWidth{180};
+constexpr int kPlaceLines = 5;
+const QString kContents = QStringLiteral("index.md");
 
 /// A page whose pictures are no wider than it is. In place of one that isn't there it says so,
 /// whether a key or a link has led there.
@@ -52,56 +63,103 @@ class GuidePage : public QTextBrowser {
       return picture;
     }
     if (file.open(QIODevice::ReadOnly)) return file.readAll();
-    return QStringLiteral(
-               "# This page is not there\n\nThe file %1 can't be read.\n\n"
-               "The guide comes with the program. Install the program again, or put the "
-               "folder of the guide back in its place.\n")
-        .arg(path);
+    return PageThatIsNotThere(path);
   }
 };
 
 }  // namespace
 
-GuideWindow::GuideWindow(const QString& folder) : folder_(folder), page_(new GuidePage(this)) {
+GuideWindow::GuideWindow(QString folder, std::function<QString()> language)
+    : folder_(std::move(folder)),
+      language_(std::move(language)),
+      spoken_(language_()),
+      pages_(folder_, spoken_),
+      page_(new GuidePage(this)),
+      search_(new QLineEdit(this)),
+      count_(new QLabel(this)),
+      list_(new QListWidget(this)) {
   setObjectName(QStringLiteral("GuideWindow"));
   auto* contents = new QPushButton(QStringLiteral("&Contents"), this);
   auto* back = new QPushButton(QStringLiteral("&Back"), this);
+  auto* label = new QLabel(QStringLiteral("&Search"), this);
+  auto* print = new QPushButton(QStringLiteral("&Print..."), this);
   auto* close = new QPushButton(QStringLiteral("C&lose"), this);
   back->setEnabled(false);
-  connect(contents, &QPushButton::clicked, this, [this] { Open(QStringLiteral("index.md"), {}); });
+  label->setBuddy(search_);
+  search_->setObjectName(QStringLiteral("GuideSearch"));
+  search_->setAccessibleName(QStringLiteral("Search in all pages"));
+  search_->setClearButtonEnabled(true);
+  search_->setMinimumWidth(kSearchWidth);
+  search_->installEventFilter(this);
+  list_->setObjectName(QStringLiteral("GuidePlaces"));
+  list_->setAccessibleName(QStringLiteral("Places found"));
+  list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  list_->setVisible(false);
+  list_->setFixedHeight(kPlaceLines * kControlHeight);
+  connect(contents, &QPushButton::clicked, this, [this] { Open(kContents, {}); });
   connect(back, &QPushButton::clicked, page_, &QTextBrowser::backward);
   connect(page_, &QTextBrowser::backwardAvailable, back, &QWidget::setEnabled);
+  connect(print, &QPushButton::clicked, this, [this] { Print(); });
   connect(close, &QPushButton::clicked, this, &QWidget::close);
-  connect(page_, &QTextBrowser::sourceChanged, this, [this] { Dress(); });
+  connect(page_, &QTextBrowser::sourceChanged, this,
+          [this](const QUrl& page) { Dress(page.fileName()); });
+  connect(search_, &QLineEdit::textChanged, this, [this] { Search(); });
+  connect(list_, &QListWidget::currentRowChanged, this, [this](int row) { ShowPlace(row); });
+  connect(new QShortcut(QKeySequence::Find, this), &QShortcut::activated, search_, [this] {
+    search_->setFocus(Qt::ShortcutFocusReason);
+    search_->selectAll();
+  });
+  connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this,
+          [this] { Print(); });
 
   auto* row = new QHBoxLayout;
   row->addWidget(contents);
   row->addWidget(back);
-  row->addStretch();
+  row->addSpacing(kGap);
+  row->addWidget(label);
+  row->addWidget(search_, 1);
+  row->addWidget(count_);
+  row->addSpacing(kGap);
+  row->addWidget(print);
   row->addWidget(close);
   auto* column = new QVBoxLayout(this);
   column->addLayout(row);
+  column->addWidget(list_);
   column->addWidget(page_, 1);
-  setTabOrder(page_, contents);
-  setTabOrder(contents, back);
-  setTabOrder(back, close);
+  QWidget* before = page_;
+  for (QWidget* next :
+       std::initializer_list<QWidget*>{contents, back, search_, list_, print, close}) {
+    setTabOrder(before, next);
+    before = next;
+  }
   resize(QSize(kWidth, kHeight).boundedTo(screen()->availableSize()));
 }
 
 void GuideWindow::Open(const QString& file, const QString& about) {
+  if (language_() != spoken_) {
+    spoken_ = language_();
+    pages_ = GuidePages(folder_, spoken_);
+    Search();
+  }
   Present();  // first, so that the pictures know their room
-  page_->setSource(QUrl::fromLocalFile(folder_ + u'/' + file), QTextDocument::MarkdownResource);
+  ShowPage(file);
   GoToHeading(about);
   page_->setFocus();
 }
 
-void GuideWindow::Dress() {
+void GuideWindow::ShowPage(const QString& file) {
+  page_->setSource(QUrl::fromLocalFile(pages_.PathOf(file)), QTextDocument::MarkdownResource);
+}
+
+void GuideWindow::Dress(const QString& file) {
+  file_ = file;
   setWindowTitle(QStringLiteral("Guide: ") + page_->document()->begin().text());
   QTextBlockFormat apart;
   apart.setTopMargin(kApart);
   for (QTextBlock block = page_->document()->begin(); block.isValid(); block = block.next()) {
     if (block.blockFormat().headingLevel() > 1) QTextCursor(block).mergeBlockFormat(apart);
   }
+  MarkPlaces();
 }
 
 void GuideWindow::GoToHeading(const QString& about) {
@@ -130,6 +188,94 @@ void GuideWindow::Present() {
   show();
   raise();
   activateWindow();
+}
+
+// One letter stands nearly everywhere.
+void GuideWindow::Search() {
+  const QString words = search_->text().simplified();
+  places_ = words.size() < 2 ? std::vector<GuidePlace>() : pages_.Find(words);
+  const QSignalBlocker quiet(list_);
+  list_->clear();
+  for (const GuidePlace& place : places_) {
+    list_->addItem(place.title + QStringLiteral(": ") + place.around);
+  }
+  list_->setVisible(!places_.empty());
+  count_->setText(words.size() < 2  ? QString()
+                  : places_.empty() ? QStringLiteral("not found")
+                                    : QStringLiteral("%1 places").arg(places_.size()));
+  MarkPlaces();
+}
+
+void GuideWindow::ShowPlace(int row) {
+  if (row < 0) return;
+  const GuidePlace place = places_[static_cast<std::size_t>(row)];
+  if (place.file != file_) ShowPage(place.file);
+  count_->setText(QStringLiteral("%1 of %2").arg(row + 1).arg(places_.size()));
+  QTextCursor cursor(page_->document());
+  cursor.setPosition(place.position);
+  cursor.setPosition(place.position + static_cast<int>(search_->text().simplified().size()),
+                     QTextCursor::KeepAnchor);
+  page_->setTextCursor(cursor);
+  // In the middle, where the eye is.
+  QScrollBar* bar = page_->verticalScrollBar();
+  bar->setValue(bar->value() + page_->cursorRect().top() - page_->viewport()->height() / 3);
+}
+
+void GuideWindow::MarkPlaces() {
+  QList<QTextEdit::ExtraSelection> marks;
+  for (const GuidePlace& place : places_) {
+    if (place.file != file_) continue;
+    QTextEdit::ExtraSelection mark;
+    mark.cursor = QTextCursor(page_->document());
+    mark.cursor.setPosition(place.position);
+    mark.cursor.setPosition(place.position + static_cast<int>(search_->text().simplified().size()),
+                            QTextCursor::KeepAnchor);
+    mark.format.setBackground(QColor(colours::kPressed));
+    marks << mark;
+  }
+  page_->setExtraSelections(marks);
+}
+
+void GuideWindow::Step(int by) {
+  const int count = list_->count();
+  if (count == 0) return;
+  const int row = list_->currentRow();
+  list_->setCurrentRow(row < 0 ? (by > 0 ? 0 : count - 1) : (row + by + count) % count);
+}
+
+// "All" prints the whole guide, "Current page" the page on the screen.
+void GuideWindow::Print() {
+  QPrinter printer(QPrinter::HighResolution);
+  printer.setDocName(windowTitle());
+  QPrintDialog dialog(&printer, this);
+  dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
+  dialog.setPrintRange(QAbstractPrintDialog::CurrentPage);
+  if (dialog.exec() != QDialog::Accepted) return;
+  const bool all = dialog.printRange() != QAbstractPrintDialog::CurrentPage;
+  pages_.Print(printer, all ? pages_.All() : QStringList{file_});
+}
+
+bool GuideWindow::eventFilter(QObject* receiver, QEvent* event) {
+  if (receiver != search_ || event->type() != QEvent::KeyPress) return false;
+  const auto& key = static_cast<const QKeyEvent&>(*event);
+  switch (key.key()) {
+    case Qt::Key_Down:
+      Step(1);
+      return true;
+    case Qt::Key_Up:
+      Step(-1);
+      return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      Step(key.modifiers().testFlag(Qt::ShiftModifier) ? -1 : 1);
+      return true;
+    case Qt::Key_Escape:
+      if (search_->text().isEmpty()) return false;
+      search_->clear();
+      return true;
+    default:
+      return false;
+  }
 }
 
 void GuideWindow::keyPressEvent(QKeyEvent* event) {
