@@ -1,11 +1,12 @@
 // How many groups a second a Coder can make, with a memory in which every group has something to
-// say, and while that memory is written all the time.
+// say, and while that memory is written all the time; and how many can be written.
 
 #include <benchmark/benchmark.h>
 
 #include <string>
 #include <string_view>
 
+#include "coder/air_format.h"
 #include "coder/coder.h"
 #include "coder/on_air.h"
 
@@ -68,5 +69,18 @@ void BM_GroupsOfAChangingMemory(benchmark::State& state) {
   state.SetItemsProcessed(state.iterations());
 }
 BENCHMARK(BM_GroupsOfAChangingMemory);
+
+// Groups in each form in which they leave.
+void Write(benchmark::State& state, AirFormat& format) {
+  const corvalis::air::Group group{{0x5201, 0x0408, 0xE0CD, 0x4C41}};
+  for (auto _ : state) benchmark::DoNotOptimize(format.Write(group));
+  state.SetItemsProcessed(state.iterations());
+}
+void BM_AsText(benchmark::State& state) { Write(state, *MakeTextFormat()); }
+void BM_AsBits(benchmark::State& state) { Write(state, *MakeBitFormat()); }
+void BM_AsSignal(benchmark::State& state) { Write(state, *MakeMpxFormat(false)); }
+BENCHMARK(BM_AsText);
+BENCHMARK(BM_AsBits);
+BENCHMARK(BM_AsSignal);
 
 }  // namespace

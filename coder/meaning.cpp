@@ -3,8 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
 #include <string_view>
 #include <vector>
+
+#include "air/groups.h"
+#include "air/words.h"
 
 namespace corvalis::coder {
 
@@ -45,20 +49,20 @@ std::string ClockWords(const std::string& t) {
 
 std::string DiWords(const std::string& body) {
   const int di = Number(body, kSixteen);
-  return std::string((di & 1) != 0 ? "stereo" : "mono") +
-         ((di & 2) != 0 ? ", artificial head" : "") + ((di & 4) != 0 ? ", compressed" : "") +
-         ((di & 8) != 0 ? ", dynamic PTY" : ", static PTY");
+  return std::string((di & air::kStereo) != 0 ? "stereo" : "mono") +
+         ((di & air::kArtificialHead) != 0 ? ", artificial head" : "") +
+         ((di & air::kCompressed) != 0 ? ", compressed" : "") +
+         ((di & air::kDynamicPty) != 0 ? ", dynamic PTY" : ", static PTY");
 }
 
-std::string GroupName(int index) {
-  return std::to_string(index % kSixteen) + (index < kSixteen ? "A" : "B");
-}
+std::string GroupName(int index) { return air::GroupKind::OfIndex(index).Name(); }
 
 // Behind the digit of its number: issued, programme type, day and time.
 std::string ItemWords(const std::string& body) {
-  const int code = Number(body.substr(4), kSixteen);
-  return "day " + std::to_string(code >> 11) + ", " + TwoDigits(code >> 6 & 0x1F) + ":" +
-         TwoDigits(code & 0x3F) + ", type " + body.substr(2, 2) +
+  const auto item =
+      air::FromWord<air::ItemNumber>(static_cast<std::uint16_t>(Number(body.substr(4), kSixteen)));
+  return "day " + std::to_string(item.day) + ", " + TwoDigits(item.hour) + ":" +
+         TwoDigits(item.minute) + ", type " + body.substr(2, 2) +
          (body[1] == '1' ? ", issued" : "");
 }
 

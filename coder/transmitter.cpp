@@ -3,6 +3,7 @@
 #include <poll.h>
 
 #include <algorithm>
+#include <limits>
 #include <ostream>
 #include <string_view>
 #include <utility>
@@ -31,7 +32,9 @@ Transmitter::Transmitter(Coder& coder, const AirOptions& options, std::ostream& 
 }
 
 void Transmitter::Add(const std::string& path, std::unique_ptr<AirFormat> format) {
-  if (!path.empty()) outputs_.push_back({Outlet(path), std::move(format)});
+  if (path.empty()) return;
+  const bool has_front = !format->Front(std::numeric_limits<std::uint64_t>::max()).empty();
+  outputs_.push_back({Outlet(path), std::move(format), has_front});
 }
 
 void Transmitter::Begin(Time now) { begun_ = look_again_ = now; }
@@ -95,7 +98,13 @@ void Transmitter::Send(const air::Group& group) {
 
 void Transmitter::Put(Output& output, const air::Group& group) {
   const std::string front = output.outlet.TakeFresh() ? output.format->Begin() : "";
-  output.outlet.Put(front + output.format->Write(group));
+  Put(output, front + output.format->Write(group));
+}
+
+// What stands at the front is right at any time, whatever becomes of the program.
+void Transmitter::Put(Output& output, const std::string& bytes) {
+  output.outlet.Put(bytes);
+  if (output.has_front) output.outlet.PutOver(output.format->Front(output.outlet.FileBytes()));
 }
 
 void Transmitter::Drop(Output& output) {
@@ -107,8 +116,9 @@ void Transmitter::Drop(Output& output) {
 void Transmitter::End() {
   for (Output& output : outputs_) {
     const Outlet::State state = output.outlet.Look();
-    if (state == Outlet::State::kReady || state == Outlet::State::kBusy) {
-      output.outlet.Put(output.format->End());
+    const bool takes = state == Outlet::State::kReady || state == Outlet::State::kBusy;
+    if (takes && !output.outlet.TakeFresh()) {
+      Put(output, output.format->End());
     }
   }
   const Time last = Clock::now() + kLastMoment;
@@ -119,7 +129,6 @@ void Transmitter::End() {
     poll(&polled, 1, static_cast<int>(left.count()));
   }
   for (const Output& output : outputs_) {
-    output.outlet.PutOver(output.format->Front(output.outlet.FileBytes()));
     if (output.dropped == 0) continue;
     complaints_ << "corvalis-coder: " << output.dropped << " groups were dropped for "
                 << output.outlet.Path() << std::endl;

@@ -47,12 +47,14 @@ class Transmitter {
   struct Output {
     Outlet outlet;
     std::unique_ptr<AirFormat> format;
+    bool has_front = false;
     std::uint64_t dropped = 0;
   };
 
   void Add(const std::string& path, std::unique_ptr<AirFormat> format);
   void Send(const air::Group& group);
   static void Put(Output& output, const air::Group& group);
+  static void Put(Output& output, const std::string& bytes);
   void Drop(Output& output);
   [[nodiscard]] Output* FirstBusy();
   [[nodiscard]] bool AllSent() const;
