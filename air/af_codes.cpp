@@ -30,6 +30,11 @@ constexpr std::array kMarkers = {Marker{253, -0.024, 0.026, 87.525},
                                  Marker{255, -0.074, 0.076, 87.575}};
 constexpr Marker kOnRaster{0, -0.001, 0.001, kFirstFm};
 
+auto MarkerOf(std::uint8_t code) {
+  return std::find_if(kMarkers.begin(), kMarkers.end(),
+                      [code](const Marker& marker) { return marker.code == code; });
+}
+
 bool Covers(const Marker& marker, float offset) {
   return offset >= marker.from && offset <= marker.to;
 }
@@ -44,6 +49,10 @@ double AmSteps(float value, double below) { return std::floor((double{value} - b
 float FmFreq(std::uint8_t code, double first) { return static_cast<float>(code * kFmStep + first); }
 
 }  // namespace
+
+bool IsAfPrefix(std::uint8_t code) {
+  return code == kLfOrMfNext || MarkerOf(code) != kMarkers.end();
+}
 
 float AfCodeFreq(std::uint8_t code) { return FmFreq(code, kFirstFm); }
 
@@ -155,9 +164,8 @@ AfFrequencies AfAFrequencies(const AfCodes& codes) {
   std::size_t at = 1;
   for (std::size_t i = 0; i < kEntries && at <= kLastByte; ++i) {
     const std::uint8_t code = codes[at++];
-    const auto marker = std::find_if(kMarkers.begin(), kMarkers.end(),
-                                     [code](const Marker& m) { return m.code == code; });
-    if (code != kLfOrMfNext && marker == kMarkers.end()) {
+    const auto marker = MarkerOf(code);
+    if (!IsAfPrefix(code)) {
       list[i] = code > kLastFmCode ? kNoFreq : AfCodeFreq(code);
       continue;
     }

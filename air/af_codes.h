@@ -37,6 +37,8 @@ inline constexpr std::uint8_t kLastFmCode = 204;
 inline constexpr std::uint8_t kAfFiller = 205;
 inline constexpr std::uint8_t kAfCount = 224;     ///< byte 0 of a list: this and a number
 inline constexpr std::uint8_t kLfOrMfNext = 250;  ///< the next byte is a code of LF or MF
+/// True for `kLfOrMfNext`, and for the bytes before a frequency between two steps of 100 kHz.
+[[nodiscard]] bool IsAfPrefix(std::uint8_t code);
 /// What a code byte of an FM frequency stands for, whatever its value.
 [[nodiscard]] float AfCodeFreq(std::uint8_t code);
 /// The code byte of an FM frequency, rounded to 0.1 MHz.

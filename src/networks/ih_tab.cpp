@@ -105,7 +105,6 @@ void IhTab::TakeFolder() {
   ihData->SetPath(page_, Dir1.Path());
   ShowFiles();
   ShowPath();
-  LookIntoFile();
 }
 
 void IhTab::TakeFile() {
@@ -119,7 +118,6 @@ void IhTab::LeaveName() {
   ihData->SetFileName(page_, Text105.Text());
   File1.Match(Text105.Text());
   ShowPath();
-  LookIntoFile();
 }
 
 void IhTab::LeavePages() {
@@ -130,7 +128,6 @@ void IhTab::LeavePages() {
 void IhTab::ReadFile() {
   if (ihData->ReadFile(page_)) ShowPage();
   ShowFiles();  // a missing file has been made
-  LookIntoFile();
 }
 
 void IhTab::WriteFile() {
@@ -138,7 +135,6 @@ void IhTab::WriteFile() {
   ShowFiles();
   ShowPath();
   if (written) PathLabel.SetCaption(PathLabel.Caption() + "  (written)");
-  LookIntoFile();
 }
 
 void IhTab::GoTo(std::int16_t page) {
@@ -149,7 +145,6 @@ void IhTab::GoTo(std::int16_t page) {
   ShowFiles();
   ShowPage();
   ShowPath();
-  LookIntoFile();
 }
 
 // Shows where the page's file is, and leaves the page as it is. If there is no such folder the
@@ -175,14 +170,7 @@ void IhTab::ShowPage() {
 
 void IhTab::ShowCount() {
   CountLabel.SetCaption(std::to_string(RichTextBox1.Text().size()) + " of " +
-                        std::to_string(kIhCharacters) +
-                        (ihData->Page(page_) == in_file_ ? "" : ", not in its file"));
-}
-
-// A file may lie far away: it is not looked at while somebody types.
-void IhTab::LookIntoFile() {
-  in_file_ = ihData->PageInFile(page_);
-  ShowCount();
+                        std::to_string(kIhCharacters));
 }
 
 void IhTab::ShowPath() { PathLabel.SetCaption(ihData->FullName(page_)); }
