@@ -19,7 +19,7 @@ declare -A may=(
   [desktop]="air desktop radio machine app station programme networks link busy config screen platform"
   [radio]="air radio station programme networks link busy config screen platform"
   [machine]="machine config platform"
-  [send]="air send machine station programme networks link busy config screen platform"
+  [send]="air send machine app station programme networks link busy config screen platform"
   [coder]="air coder link/frame.h"
 )
 

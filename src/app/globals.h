@@ -4,8 +4,8 @@
 
 namespace corvalis {
 
-/// The single instances of the program, in their orders. `MainForm` alone has one of these, and
-/// whatever it has created goes with it.
+/// The single instances of the program, in their orders. There is one of these, which `MainForm`
+/// has, or the station of the program that sends unattended; whatever it has created goes with it.
 class Globals {
  public:
   Globals() = default;

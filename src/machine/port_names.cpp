@@ -17,11 +17,17 @@ std::string DeviceOfPort(int number, const std::string& settings_folder,
     name = fs::path(device_folder) / ("ttyUSB" + index);
     if (!fs::exists(name, error)) name = fs::path(device_folder) / ("ttyS" + index);
   }
-  if (const fs::path device = fs::canonical(name, error); !error) return device.string();
-  if (const fs::path target = fs::read_symlink(name, error); !error) {
-    return (name.parent_path() / target).lexically_normal().string();
+  return DeviceBehind(name.string());
+}
+
+std::string DeviceBehind(const std::string& name) {
+  const fs::path path(name);
+  std::error_code error;
+  if (const fs::path device = fs::canonical(path, error); !error) return device.string();
+  if (const fs::path target = fs::read_symlink(path, error); !error) {
+    return (path.parent_path() / target).lexically_normal().string();
   }
-  return name.string();
+  return name;
 }
 
 }  // namespace corvalis::machine

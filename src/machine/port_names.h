@@ -11,4 +11,7 @@ namespace corvalis::machine {
 [[nodiscard]] std::string DeviceOfPort(int number, const std::string& settings_folder,
                                        const std::string& device_folder = "/dev");
 
+/// What `name` leads to: all links on the way are followed, as far as they lead.
+[[nodiscard]] std::string DeviceBehind(const std::string& name);
+
 }  // namespace corvalis::machine

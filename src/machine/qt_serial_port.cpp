@@ -107,7 +107,8 @@ PortError QtSerialPort::SetPortOpen(bool open) {
 
 PortError QtSerialPort::Open() {
   if (PortOpen()) return {kAlreadyOpen, "The port is already open"};
-  device_ = DeviceOfPort(number_, Machine().settings_folder);
+  device_ =
+      given_.empty() ? DeviceOfPort(number_, Machine().settings_folder) : DeviceBehind(given_);
   if (const int error = hold_.Take(device_)) {
     return DeviceError(kCannotOpen, qt_error_string(error));
   }
@@ -236,8 +237,10 @@ void QtSerialPort::CheckDevice() {
 }
 
 PortError QtSerialPort::DeviceError(int number, const QString& words) const {
-  return {number, "COM " + std::to_string(number_) + " (" + ToBytes(FromFileName(device_)) +
-                      "): " + ToBytes(words)};
+  const std::string device = ToBytes(FromFileName(device_));
+  const std::string name =
+      given_.empty() ? "COM " + std::to_string(number_) + " (" + device + ")" : device;
+  return {number, name + ": " + ToBytes(words)};
 }
 
 }  // namespace corvalis::machine

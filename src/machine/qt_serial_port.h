@@ -19,6 +19,9 @@ class QtSerialPort : public SerialPort {
   QtSerialPort(const QtSerialPort&) = delete;
   QtSerialPort& operator=(const QtSerialPort&) = delete;
 
+  /// Makes every number stand for the line at `path`, a device or a link to one.
+  void UseDevice(const std::string& path) { given_ = path; }
+
   PortError SetCommPort(int number) override;
   [[nodiscard]] int CommPort() const override { return number_; }
   PortError SetPortOpen(bool open) override;
@@ -49,6 +52,7 @@ class QtSerialPort : public SerialPort {
   QSerialPort port_;
   LineHold hold_;
   int number_ = 1;
+  std::string given_;  // a path, instead of what the number stands for; empty: none
   std::string device_;
   std::string settings_ = "9600,N,8,1";
   int input_length_ = 0;

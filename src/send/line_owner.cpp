@@ -1,0 +1,57 @@
+#include "send/line_owner.h"
+
+#include "config/config_data.h"
+#include "link/list_commands.h"
+#include "link/serial_management.h"
+
+namespace corvalis::send {
+
+LineOwner::LineOwner(SerialPort& port) : port_(port) {
+  port_.CommEventRaised = [this] {
+    if (CommEventRaised) CommEventRaised();
+  };
+  CommEventRaised = OnComm;
+}
+
+LineOwner::~LineOwner() {
+  Close();
+  port_.CommEventRaised = nullptr;
+}
+
+LineOwner::State LineOwner::MakeReady() {
+  if (LinkOpen && AddressSent && PortOpen()) return State::kReady;
+  OpenLink(*this);
+  if (!LinkOpen) return State::kNoLine;
+  ProbeCoder();
+  if (!LinkOpen) return State::kFailed;
+  return Address() ? State::kReady : State::kFailed;
+}
+
+bool LineOwner::Address() {
+  SendAddress(configData->PresetPassword(), false);
+  return AddressSent;
+}
+
+void LineOwner::Doubt() { AddressSent = false; }
+
+void LineOwner::Close() {
+  ReleaseLink();
+  LinkOpen = false;
+  AddressSent = false;
+  static_cast<void>(port_.SetPortOpen(false));
+}
+
+PortError LineOwner::Output(std::span<const std::uint8_t> bytes) {
+  if (BeforeExchange && !between_) {
+    between_ = true;
+    BeforeExchange();
+    between_ = false;
+    // What somebody else's exchange left over is no answer to this one.
+    port_.ClearInput();
+    if (Queue* queue = ReceiveQueue()) queue->QReset();
+  }
+  if (Leaving) Leaving(bytes);
+  return port_.Output(bytes);
+}
+
+}  // namespace corvalis::send

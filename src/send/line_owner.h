@@ -1,0 +1,66 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "platform/serial_port.h"
+
+namespace corvalis::send {
+
+/// The one owner of the serial line. What goes over it are whole exchanges: a frame and all that
+/// the Coder answers to it; whoever writes begins the next one. So between two exchanges, and only
+/// there, somebody else may have the line.
+///
+/// It is the port of the link, in front of the real one.
+class LineOwner : public SerialPort {
+ public:
+  /// `port` is the real one, and has to outlive this.
+  explicit LineOwner(SerialPort& port);
+  ~LineOwner() override;
+  LineOwner(const LineOwner&) = delete;
+  LineOwner& operator=(const LineOwner&) = delete;
+
+  /// How it stands with the line.
+  enum class State {
+    kReady,   ///< open, and the Coder is addressed
+    kNoLine,  ///< it isn't there, or another program has it
+    kFailed,  ///< the Coder does not answer, or refuses; `LinkError` says how
+  };
+  /// Opens the line and addresses the Coder, where that is not done: an ENQ, and the Coder ID of
+  /// the record. What fails has been reported when this returns.
+  [[nodiscard]] State MakeReady();
+  /// The Coder ID goes out again. True if it was taken.
+  [[nodiscard]] static bool Address();
+  /// What is believed of the Coder no longer holds: the next `MakeReady` begins from nothing.
+  static void Doubt();
+  void Close();
+
+  /// Called before each exchange but those that it makes itself; may be empty.
+  std::function<void()> BeforeExchange;
+  /// Called with the bytes that begin an exchange, just before they leave; may be empty.
+  std::function<void(std::span<const std::uint8_t> bytes)> Leaving;
+
+  PortError SetCommPort(int number) override { return port_.SetCommPort(number); }
+  [[nodiscard]] int CommPort() const override { return port_.CommPort(); }
+  PortError SetPortOpen(bool open) override { return port_.SetPortOpen(open); }
+  [[nodiscard]] bool PortOpen() const override { return port_.PortOpen(); }
+  PortError SetSettings(const std::string& settings) override {
+    return port_.SetSettings(settings);
+  }
+  [[nodiscard]] std::string Settings() const override { return port_.Settings(); }
+  PortError SetInputLen(int length) override { return port_.SetInputLen(length); }
+  PortError SetInputMode(int mode) override { return port_.SetInputMode(mode); }
+  PortError SetRThreshold(int bytes) override { return port_.SetRThreshold(bytes); }
+  PortError SetRTSEnable(bool on) override { return port_.SetRTSEnable(on); }
+  [[nodiscard]] int InBufferCount() const override { return port_.InBufferCount(); }
+  PortError ClearInput() override { return port_.ClearInput(); }
+  std::vector<std::uint8_t> Input() override { return port_.Input(); }
+  PortError Output(std::span<const std::uint8_t> bytes) override;
+  [[nodiscard]] int CommEvent() const override { return port_.CommEvent(); }
+
+ private:
+  SerialPort& port_;
+  bool between_ = false;  // `BeforeExchange` runs
+};
+
+}  // namespace corvalis::send

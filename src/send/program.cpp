@@ -1,0 +1,88 @@
+#include "send/program.h"
+
+#include <unistd.h>
+
+#include <iostream>
+#include <memory>
+
+#include "machine/folders.h"
+#include "machine/qt_serial_port.h"
+#include "machine/qt_time.h"
+#include "platform/platform.h"
+#include "platform/profile_folder.h"
+#include "send/answers.h"
+#include "send/dry_port.h"
+#include "send/one_shot.h"
+
+namespace corvalis::send {
+
+namespace {
+
+constexpr std::string_view kExtension = ".rds";
+
+// The services of this machine, installed for as long as this lives.
+class Services {
+ public:
+  explicit Services(const Options& options) {
+    if (!options.device.empty()) real_.UseDevice(options.device);
+    dry_.Wrote = [](std::span<const std::uint8_t> bytes) { std::cout << AsHex(bytes) << "\n"; };
+    platform_.clock = &time_;
+    platform_.pump = &time_;
+    platform_.dialogs = &dialogs;
+    platform_.profiles = &profiles_;
+    platform_.settings_folder = machine::SettingsFolder();
+    if (options.file.empty()) {
+      platform_.program_folder = machine::ProgramFolder();
+    } else {
+      platform_.program_folder = FolderOf(options.file);
+      platform_.program_folder.pop_back();  // its "/"
+      const std::size_t name = options.file.rfind('/') + 1;
+      platform_.program_name =
+          options.file.substr(name, options.file.size() - name - kExtension.size());
+    }
+    InstallPlatform(&platform_);
+    line = std::make_unique<LineOwner>(options.dry ? static_cast<SerialPort&>(dry_) : real_);
+    platform_.port = line.get();
+  }
+  ~Services() {
+    line.reset();
+    InstallPlatform(nullptr);
+  }
+  Services(const Services&) = delete;
+  Services& operator=(const Services&) = delete;
+
+  [[nodiscard]] std::string StationFile() const {
+    return platform_.program_folder + "/" + platform_.program_name + std::string(kExtension);
+  }
+
+  KeptDialogs dialogs;
+  std::unique_ptr<LineOwner> line;
+
+ private:
+  machine::QtTime time_;
+  machine::QtSerialPort real_;
+  DryPort dry_;
+  ProfileStore profiles_;
+  Platform platform_;
+};
+
+}  // namespace
+
+int RunProgram(const Options& options) {
+  Services services(options);
+  // Without the file nothing says how the Coder is reached.
+  if (access(services.StationFile().c_str(), R_OK) != 0) {
+    std::cerr << "corvalis-send: the station file " << services.StationFile()
+              << " can't be read; --file names another\n";
+    return ExitCode(Outcome::Kind::kUnfit);
+  }
+  Station station({.id = options.id, .burst = options.burst, .port = options.port});
+  Sender sender(station, *services.line, services.dialogs, options.dry);
+  sender.Note = [](const std::string& words) { std::cerr << "corvalis-send: " << words << "\n"; };
+  OneShot one_shot(sender, options.rules, {.json = options.json, .verbose = options.verbose},
+                   std::cout, std::cerr);
+  if (options.command == std::vector<std::string>{"-"}) return one_shot.RunLines(std::cin);
+  return one_shot.RunWords(options.command);
+}
+
+}  // namespace corvalis::send
