@@ -7,6 +7,7 @@
 #include <optional>
 #include <utility>
 
+#include "air/characters.h"
 #include "air/judge_frequencies.h"
 
 namespace corvalis::air {
@@ -20,10 +21,9 @@ constexpr std::size_t kShortText = 32;
 
 constexpr const char* kFirstCode = "87.5 MHz";
 
-constexpr char kEndOfText = 0x0D;
 // What a radio text may have in it beside characters: a line's end, a headline's, a text's, and a
 // hyphen that shows at the end of a line only.
-constexpr std::string_view kControls = "\x0A\x0B\x0D\x1F";
+constexpr std::array kControls = {kLineBreak, kEndOfHeadline, kEndOfText, kSoftHyphen};
 
 // What a rule found, by item, with its figures.
 struct Found {
@@ -73,17 +73,15 @@ std::optional<std::string> When(bool wrong, std::string figures = {}) {
 
 std::size_t Length(const std::string& bytes) { return bytes.find_last_not_of(' ') + 1; }
 
-bool ShowsAsBlank(char character) {
-  const auto byte = static_cast<std::uint8_t>(character);
-  return byte < 0x20 || byte == 0x7F || byte == 0xFF;
-}
-// The first byte that no radio shows, in words.
-std::optional<std::string> NotShown(const std::string& bytes, std::string_view meant = {}) {
-  const auto found = std::ranges::find_if(bytes, [meant](char c) {
-    return ShowsAsBlank(c) && meant.find(c) == std::string_view::npos;
-  });
-  return When(found != bytes.end(),
-              found == bytes.end() ? "" : Hex(static_cast<std::uint8_t>(*found), 2));
+// The first byte that no radio shows, in words. Of a radio text some bytes have a meaning.
+std::optional<std::string> NotShown(const std::string& bytes, bool is_radio_text = false) {
+  for (const char character : bytes) {
+    const auto byte = static_cast<std::uint8_t>(character);
+    const bool control = std::ranges::find(kControls, byte) != kControls.end();
+    const bool blank = control || (byte != ' ' && RadioCharacter(byte) == U' ');
+    if (blank && !(control && is_radio_text)) return Hex(byte, 2);
+  }
+  return std::nullopt;
 }
 
 // Of texts that take turns, the one whose time is over before it has been sent.
@@ -199,7 +197,7 @@ const std::array kRules = {
          [](const Facts& f) {
            Founds founds = EachName(f, [](const auto& name) { return NotShown(name.bytes); });
            Append(founds,
-                  Each(f.texts, [](const auto& text) { return NotShown(text.bytes, kControls); }));
+                  Each(f.texts, [](const auto& text) { return NotShown(text.bytes, true); }));
            if (auto type = NotShown(f.type_name)) founds.push_back({"PTYN", std::move(*type)});
            Append(founds, Each(f.networks, [](const auto& n) { return NotShown(n.name); }));
            return founds;
@@ -278,7 +276,7 @@ const std::array kRules = {
     Rule{"a 0D is the end: what is behind it never shows",
          [](const Facts& f) {
            return Each(f.texts, [](const auto& text) {
-             const std::size_t end = text.bytes.find(kEndOfText);
+             const std::size_t end = text.bytes.find(static_cast<char>(kEndOfText));
              const std::size_t length = Length(text.bytes);
              return When(end != std::string::npos && end + 1 < length,
                          Text("%zu / %zu", end, length));

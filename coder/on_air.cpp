@@ -30,9 +30,6 @@ constexpr int k15B = air::Group15B::kKind.Index();
 // this is how far ahead the minute may lie that it tells.
 constexpr AirTime kTellsAhead = kGroupTime + kGroupTime / 2;
 
-// Longer than that the plan does not make up for, if nobody asked for a group.
-constexpr std::chrono::minutes kMadeUp{24 * 60};
-
 }  // namespace
 
 OnAir::OnAir(Coder& coder) : coder_(coder) {}
@@ -55,7 +52,7 @@ air::Group OnAir::Next(AirTime now) {
 void OnAir::Follow(AirTime now) {
   if (changes_ == coder_.Changes()) return;
   changes_ = coder_.Changes();
-  if (clock_.Follow(coder_, now)) minute_.reset();
+  clock_.Follow(coder_, now);
   FollowValues();
   plan_.Follow(coder_);
   if (items_.Follow(coder_)) item_ = items_.At(clock_.Local(now));
@@ -97,14 +94,9 @@ void OnAir::FollowValues() {
 void OnAir::FollowTime(AirTime now) {
   const auto local = clock_.Local(now);
   if (local == minute_) return;
-  const LocalMinute last = minute_.value_or(*local - std::chrono::minutes(1));
   minute_ = local;
   item_ = items_.At(local);
-  std::optional<int> page;
-  for (LocalMinute minute = std::max(last, *local - kMadeUp); minute < *local;) {
-    minute += std::chrono::minutes(1);
-    if (const auto at = plan_.PageAt(minute)) page = at;
-  }
+  const auto page = plan_.PageAt(*local);
   if (!page) return;
   const auto digit = static_cast<std::uint8_t>('0' + *page);
   coder_.SetItem(kPsnPageActive, 0, {&digit, 1});

@@ -61,7 +61,7 @@ class OnAir {
   std::optional<std::uint64_t> changes_;  // of the memory, seen last
 
   Clock clock_;
-  std::optional<LocalMinute> minute_;  // that it is; nullopt after the clock was set
+  std::optional<LocalMinute> minute_;  // that it is, if there is a time
   std::optional<LocalMinute> told_;    // by the last 4A, or would have been
   Plan plan_;
   ProgrammeItems items_;

@@ -7,8 +7,8 @@ namespace corvalis::coder {
 using std::chrono::hours;
 using std::chrono::minutes;
 
-bool Clock::Follow(const Coder& coder, AirTime now) {
-  if (!watch_.Changed(coder) || !coder.Written(kCt)) return false;
+void Clock::Follow(const Coder& coder, AirTime now) {
+  if (!watch_.Changed(coder) || !coder.Written(kCt)) return;
   // Year, month, day, weekday, hour, minute, two numbers of names, the offset and 24.
   const Bytes body = *coder.Item(kCt);
   const std::chrono::year_month_day day{
@@ -20,7 +20,6 @@ bool Clock::Follow(const Coder& coder, AirTime now) {
   begins_ =
       std::chrono::local_days(day) + hours(DecimalAt(body, 7, 2)) + minutes(DecimalAt(body, 9, 2));
   offset_ = DecimalAt(body, 15, 2) - 24;
-  return true;
 }
 
 std::optional<LocalMinute> Clock::Local(AirTime at) const {

@@ -16,8 +16,8 @@ using UtcMinute = std::chrono::sys_time<std::chrono::minutes>;
 /// with second 0; from then on it runs with the air. Its years are 2000 to 2099.
 class Clock {
  public:
-  /// Sets the clock if a clock time has been sent since the last call; true if it has.
-  bool Follow(const Coder& coder, AirTime now);
+  /// Sets the clock if a clock time has been sent since the last call.
+  void Follow(const Coder& coder, AirTime now);
 
   /// The minute that it is, and that it will be; nullopt until a clock time was sent.
   [[nodiscard]] std::optional<LocalMinute> Local(AirTime at) const;

@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 
+#include "air/characters.h"
 #include "coder/digits.h"
 
 namespace corvalis::coder {
@@ -12,7 +13,6 @@ namespace {
 
 constexpr int kPagesOnAir = 32;
 constexpr std::size_t kDigits = 3;  // of the page's number, before its text or time
-constexpr std::uint8_t kEndOfText = 0x0D;
 
 }  // namespace
 
@@ -39,7 +39,7 @@ air::Group6A PageRotation::Next(AirTime now) {
   if (at_ == 0) sent_ = turn_.At(pages_, now);
   std::array<std::uint8_t, 4> characters{};
   for (std::uint8_t& character : characters) {
-    character = at_ < sent_.text.size() ? sent_.text[at_] : kEndOfText;
+    character = at_ < sent_.text.size() ? sent_.text[at_] : air::kEndOfText;
     ++at_;
   }
   if (at_ >= sent_.text.size()) at_ = 0;

@@ -2,15 +2,10 @@
 
 #include <algorithm>
 
+#include "air/characters.h"
 #include "coder/digits.h"
 
 namespace corvalis::coder {
-
-namespace {
-
-constexpr std::uint8_t kEndOfText = 0x0D;
-
-}  // namespace
 
 void TextRotation::Follow(const Coder& coder) {
   if (!watch_.Changed(coder)) return;
@@ -62,7 +57,7 @@ TextRotation::Segment TextRotation::Next(Pass& pass, const Pass& other, AirTime 
   }
   const std::size_t length = std::min(text_.size(), pass.width * kSegments);
   Segment segment{.flag = flag_, .number = static_cast<int>(pass.segment), .characters = {}};
-  segment.characters.fill(kEndOfText);
+  segment.characters.fill(air::kEndOfText);
   const std::size_t at = pass.segment * pass.width;
   const std::size_t count = at < length ? std::min(pass.width, length - at) : 0;
   std::copy_n(text_.begin() + static_cast<std::ptrdiff_t>(std::min(at, length)), count,

@@ -43,7 +43,7 @@ Facts Good() {
   facts.names = {{{"PSN 00", 2, "LAKE FM "}, {"PSN 01", 2, " \x91 98.4 "}}};
   facts.texts = {{"RT 00", 9, std::string(63, 'x') + "\n"}, {"RT 01", 1, "\x1F\v\r  "}};
   facts.lists = {{"AF 00", {0xE5, 0x7D, 0x7D, 0x80, 0x57, 0x7D, 0xCD, 0xCD}},
-                 {"AF 01", {0xE4, 0x80, 0x80, 0x81, 0xFA, 0x80, 0xCD, 0xCD}}};
+                 {"AF 01", {0xE4, 0x80, 0x80, 0x81, 0xCD, 0xFA, 0x05, 0xCD}}};
   facts.time = true;
   facts.type_name = "FOLKLORE";
   facts.items = true;
@@ -114,7 +114,12 @@ TEST(Judge, FindsWhatRadiosWillNotMakeOfAStation) {
          off(f, {3, 8});
        },
        {"TMC" + deaf + "8A)"}},
-      {[&](Facts& f) { off(f, {14}); }, {"EON" + deaf + "14A)", "LI" + deaf + "14A)"}},
+      {[&](Facts& f) {
+         off(f, {14});
+         f.ta = true;
+         f.tp = false;
+       },
+       {"EON" + deaf + "14A)", "LI" + deaf + "14A)", "TA: radios ignore an a"}},
       {[&](Facts& f) {
          off(f, {1, 4, 5, 6, 8, 10, 14});
          Facts bare;
@@ -168,7 +173,7 @@ TEST(Judge, FindsWhatRadiosWillNotMakeOfAStation) {
        {"PS: a radio that looks (5.6 s)"}},
 
       {[](Facts& f) {
-         f.lists = {{"AF 00", {0xE3, 0x7D, 0xFD, 0x8A, 0x80, 0xCD}}};
+         f.lists = {{"AF 00", {0xE5, 0x7D, 0xFD, 0x8A, 0xFE, 0x80}}};
        },
        {"AF 00: some radios drop a (101.325 MHz)"}},
       {[](Facts& f) {
@@ -217,18 +222,22 @@ TEST(Judge, FindsWhatRadiosWillNotMakeOfAStation) {
       {[](Facts& f) {
          f.groups[14].repetitions = 1;
          f.networks.resize(7, f.networks[0]);
+         f.networks[1].codes.clear();
+         f.networks[2].pairs = 0;
        },
        {}},
       {[](Facts& f) {
          f.groups[14].repetitions = 1;
-         f.networks.resize(8, f.networks[0]);
+         f.networks[0].codes.resize(2, 0x33);
+         f.networks.resize(7, f.networks[0]);
        },
-       {"EON: it takes more than (126 s)"}},
+       {"EON: it takes more than (121 s)"}},
       {[](Facts& f) { f.linkage->set = 0; }, {"LI: the set 000 is lin"}},
-      {[](Facts& f) {
+      {[&](Facts& f) {
          f.linkage = {false, 0};
+         off(f, {14});
        },
-       {}},
+       {"EON" + deaf + "14A)"}},
 
       {[](Facts& f) {
          f.traffic_system = {0, false};

@@ -49,7 +49,7 @@ TEST(OnAir, ShowsDateAndHourAndFollowsThePlanOfPages) {
   air.Write(kPsnPageActive, 0, "2");
   // At 06:02 by weekday, at 06:04 by date; not enabled, another day, another date.
   for (const char* row : {"10602000000100000004", "10604280228000000002", "00603000000100000003",
-                          "10603000000011111103", "10603280227100000003"}) {
+                          "10603000000011111103", "10603280227100000003", "10603280328100000003"}) {
     static int number = 0;
     air.Write(kPsnPlan, number++, row);
   }
@@ -59,6 +59,54 @@ TEST(OnAir, ShowsDateAndHourAndFollowsThePlanOfPages) {
     EXPECT_EQ(air.Said("PS").back(), name) << until;
   }
   EXPECT_EQ(air.coder.Item(kPsnPageActive), Text("2")) << "who reads the active page is told";
+  // A clock that is set reaches a row's minute, or jumps over it.
+  for (const auto& [time, name] : {std::pair("0602", "FOUR    "),
+                                   {"0604", "TWO     "},
+                                   {"0601", "TWO     "},
+                                   {"0603", "TWO     "}}) {
+    air.Write(kCt, 0, "2802287" + std::string(time) + "080924");
+    air.Hear(8);
+    EXPECT_EQ(air.Said("PS").back(), name) << time;
+  }
+  air.Write(kCt, 0, "28022870602080924");
+  air.Hear(1);
+  air.Write(kPsnPageActive, 0, "2");
+  air.Hear(8);
+  EXPECT_EQ(air.Said("PS").back(), "TWO     ") << "a row acts once";
+}
+
+TEST(OnAir, ShowsPagesOnceTheyAreInUse) {
+  struct {
+    std::uint8_t command;
+    int number;
+    std::string body;
+    bool in_use;
+  } const cases[] = {
+      {kPsnPage, 1, "0" + Name(0, "ROW"), false},
+      {kPsnPage, 1, "0" + Name(1, "ROW"), true},
+      {kPsnPageActive, 0, "0", true},
+      {kPsnPlan, 3, "10602000000100000003", true},
+      {kPsnPlan, 3, "00602000000100000003", false},
+  };
+  for (const auto& c : cases) {
+    Listener air;
+    air.Write(kPsn, 0, Name(1, "LIST"));
+    air.Write(c.command, c.number, c.body);
+    air.Hear(4);
+    EXPECT_EQ(air.Said("PS").front() != "LIST    ", c.in_use) << c.body;
+  }
+  Listener air;
+  for (int row = 0; row < 3; ++row) {
+    for (const int page : {0, 1}) {
+      air.Write(kPsnPage, page * kPageStep + row, Digits(page, 10)[1] + Name(1, Digits(row, 10)));
+    }
+  }
+  air.Hear(6 * 4);
+  air.Write(kPsnPageActive, 0, "1");
+  air.Hear(3 * 4);
+  std::string order;
+  for (const std::string& name : air.Said("PS")) order += name[1];
+  EXPECT_EQ(order, "000111000") << "a page begins with its first name";
 }
 
 TEST(OnAir, EndsTextsAndTurnsTheFlagAtEachOther) {
@@ -113,6 +161,18 @@ TEST(OnAir, SendsATextWholeBeforeTheNext) {
   air.Said("group");
   air.Hear(9);
   EXPECT_EQ(air.Said("group"), Lines(9, "0A"));
+}
+
+TEST(OnAir, WaitsForNoKindOfTextThatIsOff) {
+  Listener air;
+  air.Enable({"2A", "2B"});
+  air.Write(kRt, 0, Rt(1, "LONG ENOUGH"));
+  air.Write(kRt, 1, Rt(1, "NEXT"));
+  air.Hear(2);
+  air.Enable({"2A"});
+  air.Hear(50);
+  const Lines said = air.Said("RT");
+  EXPECT_NE(std::ranges::find(said, "1NEXT\r\r\r\r"), said.end());
 }
 
 // Names and texts that are written all the time come whole or not at all.
