@@ -57,6 +57,10 @@ bool IhData::WriteFile(std::int16_t i) const {
   return WritePlainFile(FullName(i), Page(i) + kLineEnd);
 }
 
+std::string IhData::PageInFile(std::int16_t i) const {
+  return Padded(PeekPlainFile(FullName(i), kIhCharacters).value_or(""), kIhCharacters);
+}
+
 void IhData::GetOneRds(std::int16_t i) {
   IhPage& target = At(i);
   ReadIh(i, target.page, target.rotation_time);

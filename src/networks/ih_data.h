@@ -44,6 +44,9 @@ class IhData {
   /// false if that can't be done.
   [[nodiscard]] bool WriteFile(std::int16_t i) const;
 
+  /// What OPEN would make of the page's file: blanks where it can't be read. Makes no file.
+  [[nodiscard]] std::string PageInFile(std::int16_t i) const;
+
   /// Reads the page from the Coder. A failure leaves text and rotation.
   void GetOneRds(std::int16_t i);
   void SetOneRds(std::int16_t i) const;

@@ -105,6 +105,7 @@ void IhTab::TakeFolder() {
   ihData->SetPath(page_, Dir1.Path());
   ShowFiles();
   ShowPath();
+  LookIntoFile();
 }
 
 void IhTab::TakeFile() {
@@ -118,6 +119,7 @@ void IhTab::LeaveName() {
   ihData->SetFileName(page_, Text105.Text());
   File1.Match(Text105.Text());
   ShowPath();
+  LookIntoFile();
 }
 
 void IhTab::LeavePages() {
@@ -128,6 +130,7 @@ void IhTab::LeavePages() {
 void IhTab::ReadFile() {
   if (ihData->ReadFile(page_)) ShowPage();
   ShowFiles();  // a missing file has been made
+  LookIntoFile();
 }
 
 void IhTab::WriteFile() {
@@ -135,6 +138,7 @@ void IhTab::WriteFile() {
   ShowFiles();
   ShowPath();
   if (written) PathLabel.SetCaption(PathLabel.Caption() + "  (written)");
+  LookIntoFile();
 }
 
 void IhTab::GoTo(std::int16_t page) {
@@ -145,6 +149,7 @@ void IhTab::GoTo(std::int16_t page) {
   ShowFiles();
   ShowPage();
   ShowPath();
+  LookIntoFile();
 }
 
 // Shows where the page's file is, and leaves the page as it is. If there is no such folder the
@@ -170,7 +175,14 @@ void IhTab::ShowPage() {
 
 void IhTab::ShowCount() {
   CountLabel.SetCaption(std::to_string(RichTextBox1.Text().size()) + " of " +
-                        std::to_string(kIhCharacters));
+                        std::to_string(kIhCharacters) +
+                        (ihData->Page(page_) == in_file_ ? "" : ", not in its file"));
+}
+
+// A file may lie far away: it is not looked at while somebody types.
+void IhTab::LookIntoFile() {
+  in_file_ = ihData->PageInFile(page_);
+  ShowCount();
 }
 
 void IhTab::ShowPath() { PathLabel.SetCaption(ihData->FullName(page_)); }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "link/list_buttons.h"
 #include "networks/ih_data.h"
 #include "screen/button.h"
@@ -33,7 +35,7 @@ class IhTab {
   /// The page's text without the blanks that fill it up, which nobody could type behind. What is
   /// typed beyond the 2048 characters stays in sight, but is no part of the page.
   TextBox RichTextBox1{window_, "RichTextBox1"};
-  Label CountLabel{window_, "CountLabel"};  ///< how full the page is
+  Label CountLabel{window_, "CountLabel"};  ///< how full the page is, and whether its file has it
   DriveList Drive1{window_, "Drive1"};
   DirList Dir1{window_, "Dir1"};
   FileList File1{window_, "File1", ""};
@@ -65,9 +67,11 @@ class IhTab {
   void ShowFiles();
   void ShowPage();
   void ShowCount();
+  void LookIntoFile();
   void ShowPath();
 
   std::int16_t page_ = 0;
+  std::string in_file_;   // the page as its file had it at the last look
   bool showing_ = false;  // the lists follow the page, not the operator
   ListButtons buttons_;
 };

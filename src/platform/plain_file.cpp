@@ -70,6 +70,11 @@ std::optional<std::string> ReadPlainFile(const std::string& path, std::size_t li
   return OpenFile(path, place == Place::kFree ? O_RDONLY | O_CREAT : O_RDONLY).Read(limit);
 }
 
+std::optional<std::string> PeekPlainFile(const std::string& path, std::size_t limit) {
+  if (PlaceAt(path) != Place::kPlainFile) return std::nullopt;
+  return OpenFile(path, O_RDONLY).Read(limit);
+}
+
 bool WritePlainFile(const std::string& path, std::string_view bytes) {
   const Place place = PlaceAt(path);
   if (place == Place::kTaken) return false;

@@ -15,6 +15,8 @@ namespace corvalis {
 
 /// The first `limit` bytes of a file; a missing one is made, empty. nullopt if it can't be read.
 [[nodiscard]] std::optional<std::string> ReadPlainFile(const std::string& path, std::size_t limit);
+/// The same, but a missing file is left so: nullopt then too.
+[[nodiscard]] std::optional<std::string> PeekPlainFile(const std::string& path, std::size_t limit);
 
 /// Puts `bytes` in the place of a file, in the way of `ProfileFolder::Put`: whoever dies at
 /// whatever moment leaves the old file or the new one. False if they aren't known to be on the

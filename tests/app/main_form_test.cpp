@@ -264,6 +264,7 @@ TEST_F(MainFormTest, TheSetupScreenHasTheSizesAskedAgainInAnOrderOfItsOwn) {
 TEST_F(MainFormTest, OverACallTheNetworksAreAskedWhateverTheModel) {
   Run(std::string(kModem) + "[RDS Setup]\nEON Enable=Off\nTMC Enable=Off\n");
   configData->SetModemHookOn(true);
+  port.Wrote = [] { EXPECT_TRUE(TheWaitForm().window.Visible()); };
   form->NewButton.Press();
   EXPECT_EQ(Codes(), kCountsOfNew);
 }

@@ -34,6 +34,13 @@ TEST_F(BusyScreens, TransferScreenAbortsAndClosesOnceForEachPermission) {
   EXPECT_TRUE(form.window.Unload());
   EXPECT_FALSE(TransferCloseAllowed);
   EXPECT_FALSE(form.window.Unload());
+  for (const auto& [timer, bar] : {std::pair(&form.Timer1, &form.ProgressBar1),
+                                   std::pair(&TheWaitForm().WaitTimer, &TheWaitForm().WaitBar)}) {
+    const int before = bar->Value();
+    timer->Fire();
+    EXPECT_EQ(bar->Value(), before + 1);
+  }
+  ReleaseWaitForm();
 }
 
 TEST_F(BusyScreens, EscHasTheKeyboardWhileATransferRuns) {

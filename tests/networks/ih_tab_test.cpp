@@ -62,13 +62,14 @@ TEST_F(IhTabTest, APageIsChosenWhenItsListIsLeft) {
   EXPECT_EQ(ihData->Page(0), Full("ONE"));
   EXPECT_EQ(ihData->Page(1), Full("Default Page"));
   EXPECT_EQ(Tab().RichTextBox1.Text(), "Default Page");
-  EXPECT_EQ(Tab().CountLabel.Caption(), "12 of 2048");
+  EXPECT_EQ(Tab().CountLabel.Caption(), "12 of 2048, not in its file");
   EXPECT_EQ(Tab().Text105.Text(), "two.txt");
   EXPECT_EQ(Tab().PathLabel.Caption(), there + "/two.txt");  // one stroke between them
   EXPECT_EQ(Tab().File1.FileName(), "two.txt");
   GoToPage(2);  // where there is no folder
   EXPECT_EQ(Tab().PathLabel.Caption(), folder + "/no such folder/none.txt");
   EXPECT_EQ(Tab().File1.FileName(), "");
+  EXPECT_EQ(Tab().CountLabel.Caption(), "0 of 2048");  // blanks, as OPEN would make of no file
   // To look at the pages has changed none.
   EXPECT_EQ(ihData->Path(1), there + "/");
   EXPECT_EQ(ihData->Path(2), folder + "/no such folder");
@@ -96,7 +97,7 @@ TEST_F(IhTabTest, WhatIsTypedIsThePageAsFarAsItHasRoom) {
   EXPECT_EQ(ihData->Page(1), page);
   const std::string longer(2100, 'x');
   Tab().RichTextBox1.Edit(longer, 2100);
-  EXPECT_EQ(Tab().CountLabel.Caption(), "2100 of 2048");
+  EXPECT_EQ(Tab().CountLabel.Caption(), "2100 of 2048, not in its file");
   EXPECT_EQ(ihData->Page(0), std::string(2048, 'x'));
   Tab().Command1.Press();
   EXPECT_EQ(Tab().RichTextBox1.Text(), longer);
@@ -112,8 +113,13 @@ TEST_F(IhTabTest, APageIsReadFromItsFileAndWrittenToIt) {
   EXPECT_EQ(Tab().RichTextBox1.Text(), "ONE");
   Tab().Text105.SelectAll();
   Go(Tab().Text105);
+  EXPECT_EQ(Tab().CountLabel.Caption(), "3 of 2048");
   Tab().Text105.Edit("new.txt", 7);
+  Go(Tab().RichTextBox1);
+  EXPECT_EQ(Tab().CountLabel.Caption(), "3 of 2048, not in its file");
+  EXPECT_FALSE(std::filesystem::exists(there + "/new.txt"));
   Tab().Command16.Press();
+  EXPECT_EQ(Tab().CountLabel.Caption(), "3 of 2048");
   EXPECT_EQ(ReadFile(there + "/new.txt"), Full("ONE") + "\r\n");
   EXPECT_EQ(Tab().File1.FileName(), "new.txt");
   EXPECT_EQ(Tab().PathLabel.Caption(), there + "/new.txt  (written)");
