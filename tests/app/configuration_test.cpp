@@ -128,15 +128,6 @@ TEST_F(ConnectionTest, ThePagesGoOnInAWayOfTheirOwn) {
   form->Command1.Press();
   EXPECT_EQ(Codes(), (Runs{{kPage, 1}, {kPlan, 2}, {kPi, 1}}));
   EXPECT_EQ(Boxes().size(), 1U);
-
-  // The operator's abort ends all, also there.
-  for (Button* button : {&form->Command1, &form->Command11}) {
-    port.answer = [](const Bytes&) { return Bytes{}; };
-    time.After(1, [] { EscPressed = true; });
-    button->Press();
-    EXPECT_EQ(Codes(), (Runs{{kPage, 1}}));
-    EXPECT_EQ(Boxes(), no_boxes);
-  }
 }
 
 // Whatever happens to the line at some item of some step: it is said once, the rest is left, and
@@ -155,12 +146,6 @@ TEST_F(ConnectionTest, FaultsInMidTransfer) {
          return Bytes{0x55, 0xAA, 0x06};
        }},
       {"cut", [](const Bytes& answer) { return Bytes(answer.begin(), answer.end() - 1); }},
-      {"falsified",
-       [](const Bytes& answer) {
-         Bytes falsified;
-         for (const std::uint8_t byte : answer) falsified.push_back(byte ^ 0x10);
-         return falsified;
-       }},
       {"unplugged",
        [this](const Bytes&) {
          LinkOpen = false;
@@ -228,10 +213,6 @@ TEST_F(ConnectionTest, ItSaysHowFarItIsAndWhatIsLeftByWhatHasPassed) {
                                             "RT: 2 of 3; 2 of 4, about 11 seconds left",
                                             "RT: 3 of 3; 3 of 4, about 6 seconds left",
                                             "4 of 4, about a second left"}));
-  told.clear();
-  OpenScreen(File(kLocal, "Pi"));
-  form->Command11.Press();
-  EXPECT_EQ(told, std::vector<std::string>{""});
 }
 
 // A Coder that has not been addressed refuses all. The transfer screen says what the way is, and
@@ -239,31 +220,25 @@ TEST_F(ConnectionTest, ItSaysHowFarItIsAndWhatIsLeftByWhatHasPassed) {
 // later.
 TEST_F(ConnectionTest, TheWayOutOfManyBoxes) {
   const std::string hint = "The Coder wants its address first: CONNECTION, SEND ID.";
-  const std::tuple<const char*, std::string, Runs> cases[] = {
-      {"Psn", hint + " ESC ends the rest.", {{kPage, 1}}}, {"Pi", hint, {{kPi, 1}}}};
-  for (const auto& [preset, said, sent] : cases) {
-    OpenScreen(File(kLocal, preset));
+  const std::string ends = " ESC ends the rest.";
+  const std::tuple<const char*, Button ConnectionForm::*, std::string, Runs> cases[] = {
+      {"Psn", &ConnectionForm::Command11, hint + ends, {{kPage, 1}}},
+      {"Psn", &ConnectionForm::Command1, hint + ends, {{kPage, 1}}},
+      {"Pi", &ConnectionForm::Command11, hint, {{kPi, 1}}}};  // a single frame, and no rest
+  for (const auto& [preset, button, said, sent] : cases) {
+    OpenScreen(File(kLocal, preset, "PSN Plan Enable=On\n"));
     port.answer = [](const Bytes&) { return Bytes{0x15, 0x02, 0x00, 0x08, 0x03, 0x09}; };
     dialogs.Shown = [&, words = said] {
       EXPECT_EQ(StandingTransfer()->HintLabel.Caption(), words);
       StandingTransfer()->Command1.Press();
     };
-    form->Command11.Press();
+    ((*form).*button).Press();
     EXPECT_EQ(Codes(), sent);
     EXPECT_EQ(Boxes().size(), 1U);
     EXPECT_FALSE(EscPressed);
     dialogs.Shown = nullptr;
     port.answer = nullptr;
   }
-}
-
-TEST_F(ConnectionTest, WhatWasReadBeforeAFailureIsKept) {
-  OpenScreen(File(kLocal, "Rt"));
-  Hold(kRt, "07" + std::string(64, 'R'), 0);
-  Refuse([](const Bytes& frame) { return frame[1] == kRt && frame[2] == 1; });
-  form->Command1.Press();
-  EXPECT_EQ(Boxes().size(), 1U);
-  EXPECT_EQ(rtData->Data(0), std::string(64, 'R'));
 }
 
 TEST_F(ConnectionTest, OnAClosedLinkSingleValuesAreSilent) {

@@ -177,8 +177,11 @@ TEST_F(MainFormTest, NewGoesBackToTheDefaultFileAndLeavesTheLink) {
   form->NewButton.Press();
   EXPECT_EQ(configData->Country(), 7);
   EXPECT_EQ(configData->FullFileName(), ProgramFile());
-  EXPECT_EQ(form->Dir1.Path(), machine.program_folder);  // where Save would write now
+  EXPECT_EQ(form->Dir1.Path(), machine.program_folder);  // where Save writes now
   EXPECT_EQ(Codes(), kCountsOfNew);
+  EXPECT_EQ(form->File1.FileName(), "corvalis.rds");
+  form->SaveButton.Press();
+  EXPECT_EQ(profiles.Read(folder + "/elsewhere/a.rds", "PI", "Country"), "1");
 }
 
 TEST_F(MainFormTest, ATypedNameGoesAlongIntoAnotherFolder) {
@@ -197,18 +200,6 @@ TEST_F(MainFormTest, ATypedNameGoesAlongIntoAnotherFolder) {
   EXPECT_EQ(form->File1.FileName(), "night.rds");
   EXPECT_EQ(form->PathLabel.Caption(), elsewhere + "/night.rds  (saved 12:00:00)");
   EXPECT_EQ(ReadFile(elsewhere + "/corvalis.rds"), "[PI]\nCountry=1\n");
-}
-
-TEST_F(MainFormTest, SaveAfterNewLeavesTheStationThatWasOpen) {
-  Run("[PI]\nCountry=7\n");
-  WriteFile(machine.program_folder + "/a.rds", "[PI]\nCountry=1\n");
-  OpenFile("a.rds");
-  EXPECT_EQ(form->File1.FileName(), "a.rds");
-  form->NewButton.Press();
-  EXPECT_EQ(form->Text105.Text(), "corvalis.rds");
-  EXPECT_EQ(form->File1.FileName(), "corvalis.rds");
-  form->SaveButton.Press();
-  EXPECT_EQ(ReadFile(machine.program_folder + "/a.rds"), "[PI]\nCountry=1\n");
 }
 
 TEST_F(MainFormTest, SaveWritesTheNamesOrTheirPagesAndLeavesTheNamesOfTheTypes) {
@@ -357,7 +348,10 @@ TEST_F(MainFormTest, WhatIsNotSavedIsSaid) {
   change(6, name);
   EXPECT_EQ(told(path), "  (saved 12:00:00, changed since the last NEW)");
   configData->SetPath(folder + "/not there");
+  dialogs.boxes.clear();
   form->SaveButton.Press();
+  EXPECT_TRUE(dialogs.boxes.empty());
+  EXPECT_TRUE(form->window.Enabled());
   EXPECT_EQ(form->PathLabel.Caption(),
             folder + "/not there/corvalis.rds  (changed since the last NEW)");
   // A read from the Coder, while its screen stands.
@@ -366,17 +360,6 @@ TEST_F(MainFormTest, WhatIsNotSavedIsSaid) {
   Window screen(this, "Screen");
   RunRead(screen, [] { configData->SetCountry(9); });
   EXPECT_EQ(told(path), "  (saved 12:00:00, changed since the last NEW)");
-}
-
-TEST_F(MainFormTest, FileOperationsRunOnADisabledMenu) {
-  Run(kLocal);
-  for (Button* button : {&form->NewButton, &form->OpenButton, &form->SaveButton}) {
-    bool enabled = true;
-    time.After(0, [&] { enabled = form->window.Enabled(); });
-    button->Press();
-    EXPECT_FALSE(enabled) << button->Name();
-    EXPECT_TRUE(form->window.Enabled());
-  }
 }
 
 TEST_F(MainFormTest, FilePanelFollowsTheFolder) {
@@ -397,15 +380,6 @@ TEST_F(MainFormTest, FilePanelFollowsTheFolder) {
   form->Drive1.Choose(0);
   EXPECT_EQ(configData->Path(), "/");
   EXPECT_EQ(configData->Drive(), form->Drive1.Drive());
-}
-
-TEST_F(MainFormTest, FolderThatCantBeWrittenLosesAndShowsNothing) {
-  Run("");
-  configData->SetPath(folder + "/not there");
-  form->SaveButton.Press();
-  EXPECT_TRUE(dialogs.boxes.empty());
-  EXPECT_TRUE(form->window.Enabled());
-  EXPECT_EQ(form->PathLabel.Caption(), folder + "/not there/corvalis.rds");  // and no time
 }
 
 TEST_F(MainFormTest, OpenBringsTheLanguageOfItsFileFromItsFolder) {
@@ -435,19 +409,23 @@ TEST_F(MainFormTest, EndSendsEnqWhereTheCoderCanBeReached) {
   }
 }
 
-TEST_F(MainFormTest, MenuCantBeClosedWhileItIsBusy) {
+TEST_F(MainFormTest, TheMenuCantBeUsedOrClosedWhileItIsBusy) {
   Run(kLocal);
   bool ended = false;
   form->Ended = [&] { ended = true; };
-  port.answer = [](const Bytes&) { return Bytes{}; };
-  time.After(1, [this] {
-    form->window.Close();
-    form->SaveButton.Press();
-  });
-  form->OpenButton.Press();  // waits for the answer to its ENQ
+  for (Button* button : {&form->NewButton, &form->OpenButton, &form->SaveButton}) {
+    EXPECT_EQ(ReadFile(ProgramFile()), kLocal);
+    bool enabled = true;
+    time.After(0, [&] {
+      enabled = form->window.Enabled();
+      form->window.Close();
+      form->SaveButton.Press();
+    });
+    button->Press();
+    EXPECT_FALSE(enabled) << button->Name();
+    EXPECT_TRUE(form->window.Enabled() && form->window.Visible());
+  }
   EXPECT_FALSE(ended);
-  EXPECT_TRUE(form->window.Visible());
-  EXPECT_EQ(ReadFile(ProgramFile()), kLocal);
 }
 
 }  // namespace
