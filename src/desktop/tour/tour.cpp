@@ -90,6 +90,7 @@ void Tour::Tab(const Step& step) { hand_.TurnToTab(window_, Text(step.on)); }
 
 void Tour::Press(const Step& step) {
   hand_.Click(window_, Text(step.on));
+  static_cast<void>(coder_.Memory());  // what was sent before it has arrived
   Arrived();
 }
 

@@ -24,7 +24,7 @@ class StateChip : public QLabel {
     setMargin(kTight);
     setMinimumWidth(Length(84));
     setFont(Bold(font()));
-    Bind(*this, state, [this, &state, &box] {
+    const auto draw = [this, &state, &box] {
       setText(FromBytes(state.Caption()));
       QPalette colours = palette();
       colours.setColor(QPalette::Window,
@@ -32,7 +32,9 @@ class StateChip : public QLabel {
       colours.setColor(QPalette::WindowText,
                        QColor(box.Checked() ? colours::kField : colours::kQuietText));
       setPalette(colours);
-    });
+    };
+    Bind(*this, state, draw);
+    FollowScheme(*this, draw);
   }
 };
 

@@ -35,7 +35,7 @@ CalendarWidget::CalendarWidget(Calendar& calendar, QWidget* parent)
   setHorizontalHeaderFormat(QCalendarWidget::ShortDayNames);
   setDateEditEnabled(false);
   setSizePolicy(QSizePolicy::Fixed, QSizePolicy::MinimumExpanding);
-  DressParts();
+  FollowScheme(*this, [this] { DressParts(); });
   connect(this, &QCalendarWidget::selectionChanged, this, [this] {
     calendar_.Pick(FromDate(selectedDate()));
     Draw();
@@ -121,7 +121,7 @@ void CalendarWidget::paintCell(QPainter* painter, const QRect& rect, QDate date)
   painter->setRenderHint(QPainter::Antialiasing);
   if (chosen) {
     const bool focus = days_->hasFocus() && isEnabled();
-    if (isEnabled()) ink = focus ? colours::kField : colours::kAccent;
+    if (isEnabled()) ink = focus ? colours::kField : colours::kText;
     painter->setPen(focus ? Qt::NoPen
                           : QPen(QColor(isEnabled() ? colours::kAccent : colours::kBorder), 1));
     painter->setBrush(QColor(focus ? colours::kAccent : colours::kPressed));

@@ -53,7 +53,7 @@ OpenListWidget::OpenListWidget(ListBox& list, QWidget* parent, TextBox::Content 
   setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
   setTextElideMode(Qt::ElideNone);
   Bind(*this, list, [this] { Draw(); });
-  ShowSelection();
+  FollowScheme(*this, [this] { ShowSelection(); });
 }
 
 void OpenListWidget::ShowOnly() {

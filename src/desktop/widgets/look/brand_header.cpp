@@ -28,9 +28,7 @@ class Mark : public QLabel {
     setText(FromBytes(logo.Name().substr(logo.Name().find('_') + 1)).toUpper());
     setFont(WordMark(*this));
     setContentsMargins(kGap, kTight, kGap, kTight);
-    QPalette colour = palette();
-    colour.setColor(QPalette::WindowText, QColor(colours::kAccent));
-    setPalette(colour);
+    SetInk(*this, colours::kAccent);
     Bind(*this, logo, [] {});
   }
 

@@ -26,6 +26,7 @@ IndicatorWidget::IndicatorWidget(CheckBox& box, const Label& title, QWidget* par
   setAlignment(Qt::AlignCenter);
   setTextFormat(Qt::PlainText);
   Bind(*this, box, [this] { Draw(); });
+  FollowScheme(*this, [this] { Draw(); });
 }
 
 QSize IndicatorWidget::sizeHint() const {

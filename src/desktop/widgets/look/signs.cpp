@@ -10,7 +10,6 @@ namespace corvalis::desktop {
 
 namespace {
 
-constexpr QRgb kWarning = 0xff9a6700;
 constexpr int kSizes[] = {32, 48, 64, 96, 128};  // of pictures, in pixels, for screens of any scale
 constexpr double kStroke = 0.09;                 // of the height
 
@@ -20,8 +19,9 @@ void DrawWarning(QPainter& painter) {
   triangle.lineTo(0.95, 0.88);
   triangle.lineTo(0.05, 0.88);
   triangle.closeSubpath();
-  painter.setPen(QPen(QColor(kWarning), kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-  painter.setBrush(QColor(kWarning));
+  painter.setPen(
+      QPen(QColor(colours::kWarning), kStroke, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(QColor(colours::kWarning));
   painter.drawPath(triangle);
   painter.setPen(QPen(QColor(colours::kField), kStroke, Qt::SolidLine, Qt::RoundCap));
   painter.drawLine(QPointF(0.5, 0.38), QPointF(0.5, 0.58));

@@ -92,6 +92,23 @@ void DrawCheckBox(QPainter& painter, const QStyleOption& option) {
   painter.restore();
 }
 
+void DrawRadioButton(QPainter& painter, const QStyleOption& option) {
+  const bool enabled = option.state.testFlag(QStyle::State_Enabled);
+  const QRectF circle = QRectF(option.rect).adjusted(0.5, 0.5, -0.5, -0.5);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  painter.setPen(QPen(QColor(enabled ? colours::kBorder : colours::kDisabledText), 1));
+  painter.setBrush(QColor(enabled ? colours::kField : colours::kWindow));
+  painter.drawEllipse(circle);
+  if (option.state.testFlag(QStyle::State_On)) {
+    const double inset = circle.width() / 4;
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor(enabled ? colours::kAccent : colours::kDisabledText));
+    painter.drawEllipse(circle.adjusted(inset, inset, -inset, -inset));
+  }
+  painter.restore();
+}
+
 void DrawBar(QPainter& painter, const QStyleOptionProgressBar& bar) {
   painter.fillRect(bar.rect, QColor(colours::kFaintBorder));
   QRectF full = bar.rect;
@@ -116,10 +133,6 @@ void DrawSpinner(QPainter& painter, const QStyleOptionSpinBox& spinner, const QR
 }
 
 }  // namespace
-
-Length::operator int() const {
-  return qRound(usual_ * QFontMetricsF(QApplication::font()).height() / kUsualLine);
-}
 
 void DrawField(QPainter& painter, const QRect& rect, FieldLook look) {
   const bool focus = look.focus && look.enabled;
@@ -160,6 +173,9 @@ void Style::drawPrimitive(PrimitiveElement element, const QStyleOption* option, 
   switch (element) {
     case PE_PanelButtonCommand:
       DrawButton(*painter, *option);
+      return;
+    case PE_IndicatorRadioButton:
+      DrawRadioButton(*painter, *option);
       return;
     case PE_IndicatorCheckBox:
       DrawCheckBox(*painter, *option);

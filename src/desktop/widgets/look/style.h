@@ -1,33 +1,14 @@
 #pragma once
 
-#include <QColor>
 #include <QFont>
 #include <QIcon>
 #include <QProxyStyle>
 
+#include "desktop/widgets/look/inks.h"
+
 class QApplication;
 
 namespace corvalis::desktop {
-
-/// The colours of the program. There is one accent; everything else is calm.
-namespace colours {
-inline constexpr QRgb kWindow = 0xfff2f4f6;
-inline constexpr QRgb kCard = 0xfffafbfc;     ///< inside a group
-inline constexpr QRgb kField = 0xffffffff;    ///< what can be edited or pressed
-inline constexpr QRgb kDisplay = 0xffe9edf1;  ///< what only shows
-inline constexpr QRgb kBorder = 0xffa9b4bf;
-inline constexpr QRgb kFaintBorder = 0xffd3dae0;
-inline constexpr QRgb kText = 0xff17212b;
-inline constexpr QRgb kQuietText = 0xff52606d;
-inline constexpr QRgb kDisabledText = 0xff8b97a3;
-inline constexpr QRgb kAccent = 0xff0a67a6;
-inline constexpr QRgb kHover = 0xffe8f1f8;
-inline constexpr QRgb kPressed = 0xffcfe2f0;
-inline constexpr QRgb kOnAir = 0xffc62828;     ///< what the whole audience hears now
-inline constexpr QRgb kOn = 0xff1f7a45;        ///< what is switched on
-inline constexpr QRgb kOnGround = 0xffdff1e6;  ///< under it, where many switches stand side by side
-inline constexpr QRgb kOff = 0xffb27d77;       ///< what is switched off: red, but no alarm
-}  // namespace colours
 
 /// A length that grows with the program's font, so that whoever needs larger letters gets room for
 /// them. Converts to device-independent pixels.
@@ -59,6 +40,10 @@ class Style : public QProxyStyle {
  public:
   Style();
 
+  /// Makes the program's palette of the platform's.
+  void polish(QPalette& platform) override;
+  using QProxyStyle::polish;
+
   void drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
                      const QWidget* widget) const override;
   void drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,
@@ -86,9 +71,6 @@ void ApplyStyle(QApplication& application);
 [[nodiscard]] QFont Bold(QFont base);
 /// For values that are read digit by digit, at a distance.
 [[nodiscard]] QFont DigitsFont();
-
-/// Writes a widget's text in a colour.
-void SetInk(QWidget& widget, QRgb ink);
 
 /// The frame and the ground of a field, as every box of the program has it.
 struct FieldLook {

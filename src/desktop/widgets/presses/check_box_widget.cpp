@@ -28,6 +28,7 @@ void Colour(QPalette& palette, CheckBox::Tone tone) {
 CheckBoxWidget::CheckBoxWidget(CheckBox& box, QWidget* parent) : QCheckBox(parent), box_(box) {
   setSizePolicy(QSizePolicy::Minimum, QSizePolicy::Fixed);
   Bind(*this, box, [this] { Draw(); });
+  FollowScheme(*this, [this] { Draw(); });
 }
 
 void CheckBoxWidget::Draw() {

@@ -64,6 +64,17 @@ MemoWidget::MemoWidget(TextBox& box, QWidget* parent) : QPlainTextEdit(parent), 
   connect(this, &QPlainTextEdit::selectionChanged, this, [this] { TellSelection(); });
   connect(this, &QPlainTextEdit::cursorPositionChanged, this, [this] { TellSelection(); });
   Bind(*this, box, [this] { Draw(); });
+  FollowScheme(*this, [this] { Dress(); });
+}
+
+// What only shows stands on another ground.
+void MemoWidget::Dress() {
+  QPalette palette = parentWidget()->palette();
+  if (isReadOnly()) {
+    palette.setColor(QPalette::Active, QPalette::Base, QColor(colours::kDisplay));
+    palette.setColor(QPalette::Inactive, QPalette::Base, QColor(colours::kDisplay));
+  }
+  setPalette(palette);
 }
 
 QString MemoWidget::Plain() const {
@@ -77,12 +88,7 @@ void MemoWidget::Draw() {
   const QScopedValueRollback<bool> guard(in_step_, true);
   if (isReadOnly() != box_.Locked()) {
     setReadOnly(box_.Locked());
-    QPalette palette = parentWidget()->palette();
-    if (isReadOnly()) {
-      palette.setColor(QPalette::Active, QPalette::Base, QColor(colours::kDisplay));
-      palette.setColor(QPalette::Inactive, QPalette::Base, QColor(colours::kDisplay));
-    }
-    setPalette(palette);
+    Dress();
   }
   if (const std::string& text = box_.Text(); shown_ != text || Plain() != Shown(text)) {
     const QString had = Plain();

@@ -23,6 +23,7 @@ class MemoWidget : public QPlainTextEdit {
 
  private:
   void Draw();
+  void Dress();
   void TellEdit();
   void TellSelection();
   void Strike(int key);

@@ -132,6 +132,14 @@ GuideWindow::GuideWindow(QString folder, std::function<QString()> language)
     setTabOrder(before, next);
     before = next;
   }
+  // A page keeps the colour of its links.
+  FollowScheme(*page_, [this] {
+    if (page_->source().isEmpty()) return;
+    const int place = page_->verticalScrollBar()->value();
+    page_->reload();
+    Dress(file_);
+    page_->verticalScrollBar()->setValue(place);
+  });
   resize(QSize(kWidth, kHeight).boundedTo(screen()->availableSize()));
 }
 
@@ -231,6 +239,7 @@ void GuideWindow::MarkPlaces() {
     mark.cursor.setPosition(place.position + static_cast<int>(search_->text().simplified().size()),
                             QTextCursor::KeepAnchor);
     mark.format.setBackground(QColor(colours::kPressed));
+    mark.format.setForeground(QColor(colours::kText));
     marks << mark;
   }
   page_->setExtraSelections(marks);
