@@ -96,7 +96,8 @@ TEST(Facts, AreWhatTheMemorySays) {
   EXPECT_EQ(names, (Lines{"PSN page 00 row 0509\x03       ", "PSN page 02 row 0509\x03       "}));
   air.Write(kPsnPageActive, 0, "4");
   EXPECT_EQ(FactsOf(air.coder).names.back().at(0).item, "PSN page 04 row 00");
-  air.Write(kEon, 1, "NETWORK 11000000057FCD017D05CDCDCDCD0687542B1");
+  air.Write(kEon, 1, "NETWORK 11000000057FCD017D057DCD007D0687542B1");
+  EXPECT_TRUE(FactsOf(air.coder).tp);
   const auto networks = FactsOf(air.coder).networks;
   EXPECT_EQ(networks.at(0).codes, (std::vector<std::uint8_t>{5, 0x7F}));
   EXPECT_EQ(networks.at(0).pairs, 2);

@@ -199,8 +199,8 @@ TEST(OnAir, NumbersTheProgrammeItemThatIsOn) {
   air.Write(kPin, 1, "0000CCC0");   // day 25, 19:00
   air.Write(kPin, 2, "0000CC80");   // 18:00
   air.Write(kPin, 40, "0000CCBB");  // 18:59
-  air.Write(kPin, 41, "0000CC7C");  // minute 60
-  air.Write(kPin, 42, "0000D000");  // day 26
+  air.Write(kPin, 41, "0000CCFC");  // 19:60
+  air.Write(kPin, 42, "0000C5C0");  // day 24
   air.Hear(4);
   EXPECT_EQ(air.Said("1A"), (Lines{"00 00E0 0000", "00 3015 0000"}));
   EXPECT_EQ(air.Said("1B"), Lines(2, "00 0000"));
