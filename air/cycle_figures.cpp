@@ -1,9 +1,9 @@
 #include "air/cycle_figures.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 #include <numeric>
+
+#include "air/formatted.h"
 
 namespace corvalis::air {
 
@@ -27,13 +27,6 @@ int AllPlaces(const StationFacts& facts) {
 }
 double Seconds(const StationFacts& facts, int groups, int places) {
   return places == 0 ? 0 : groups * kGroupSeconds * AllPlaces(facts) / places;
-}
-
-template <typename... Values>
-std::string Text(const char* form, Values... values) {
-  std::array<char, 64> text{};
-  std::snprintf(text.data(), text.size(), form, values...);
-  return text.data();
 }
 
 }  // namespace
@@ -65,11 +58,12 @@ CycleFigures FiguresOf(const StationFacts& facts) {
 
 std::string Words(const CycleFigures& figures) {
   std::string words =
-      Text("%d %s in the cycle", figures.places, figures.places == 1 ? "place" : "places");
-  if (figures.name_seconds > 0) words += Text(", a whole name every %.1f s", figures.name_seconds);
+      Formatted("%d %s in the cycle", figures.places, figures.places == 1 ? "place" : "places");
+  if (figures.name_seconds > 0)
+    words += Formatted(", a whole name every %.1f s", figures.name_seconds);
   if (figures.text_seconds > 0) {
-    words += Text(", a radio text of %d characters in %.1f s", figures.text_length,
-                  figures.text_seconds);
+    words += Formatted(", a radio text of %d characters in %.1f s", figures.text_length,
+                       figures.text_seconds);
   }
   return words;
 }

@@ -2,12 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cstdio>
 #include <iterator>
 #include <optional>
 #include <utility>
 
 #include "air/characters.h"
+#include "air/formatted.h"
 #include "air/judge_frequencies.h"
 
 namespace corvalis::air {
@@ -32,14 +32,7 @@ struct Found {
 };
 using Founds = std::vector<Found>;
 
-template <typename... Values>
-std::string Text(const char* form, Values... values) {
-  std::array<char, 96> text{};
-  std::snprintf(text.data(), text.size(), form, values...);
-  return text.data();
-}
-
-std::string Hex(int value, int digits) { return Text("%0*X", digits, value); }
+std::string Hex(int value, int digits) { return Formatted("%0*X", digits, value); }
 
 Founds If(bool found, const char* item, std::string figures = {}) {
   if (!found) return {};
@@ -91,7 +84,7 @@ Founds TooFast(const std::vector<Facts::Text>& set, Needs needs) {
   if (std::ranges::all_of(set, same)) return {};
   return Each(set, [&](const auto& text) {
     const double seconds = needs(text);
-    return When(text.seconds < seconds, Text("%d s < %.1f s", text.seconds, seconds));
+    return When(text.seconds < seconds, Formatted("%d s < %.1f s", text.seconds, seconds));
   });
 }
 
@@ -215,7 +208,7 @@ const std::array kRules = {
          [](const Facts& f) {
            constexpr double kPatience = 4;
            const double seconds = NameSeconds(f);
-           return If(seconds > kPatience, "PS", Text("%.1f s", seconds));
+           return If(seconds > kPatience, "PS", Formatted("%.1f s", seconds));
          }},
 
     Rule{"some radios drop a list with a frequency between the steps of 100 kHz",
@@ -240,35 +233,35 @@ const std::array kRules = {
     Rule{"a list holds 25 frequencies, and no more go out",
          [](const Facts& f) {
            return EachList(f, [](const auto& list, const auto& read) {
-             return When(list.left_out > 0, Text("%d", read.frequencies + list.left_out));
+             return When(list.left_out > 0, Formatted("%d", read.frequencies + list.left_out));
            });
          }},
     Rule{"the count is not that of the frequencies, so radios read on too far or stop too early",
          [](const Facts& f) {
            return EachList(f, [](const auto&, const auto& read) {
              return When(!read.off_raster && read.counted != read.frequencies,
-                         Text("%d / %d", read.counted, read.frequencies));
+                         Formatted("%d / %d", read.counted, read.frequencies));
            });
          }},
     Rule{"the first frequency is in some pairs and not in others: neither method is read",
          [](const Facts& f) {
            return EachList(f, [](const auto&, const auto& read) {
              return When(read.IsMethodB() && read.other_pairs > 0,
-                         Text("%d / %d", read.pairs, read.other_pairs));
+                         Formatted("%d / %d", read.pairs, read.other_pairs));
            });
          }},
     Rule{"more than one list, and not of method B: radios keep one of them",
          [](const Facts& f) {
            const auto lists = std::ranges::count_if(
                f.lists, [](const auto& list) { return !Read(list).IsMethodB(); });
-           return If(lists > 0 && f.lists.size() > 1, "AF", Text("%zu", f.lists.size()));
+           return If(lists > 0 && f.lists.size() > 1, "AF", Formatted("%zu", f.lists.size()));
          }},
     Rule{"2B alone is on, and ends behind 32 characters",
          [](const Facts& f) {
            if (f.On(2) || !f.On(kB + 2)) return Founds();
            return Each(f.texts, [](const auto& text) {
              const std::size_t length = Length(text.bytes);
-             return When(length > kShortText, Text("%zu > %zu", length, kShortText));
+             return When(length > kShortText, Formatted("%zu > %zu", length, kShortText));
            });
          }},
     Rule{"2A and 2B are both on: radios mix what the two bring",
@@ -279,7 +272,7 @@ const std::array kRules = {
              const std::size_t end = text.bytes.find(static_cast<char>(kEndOfText));
              const std::size_t length = Length(text.bytes);
              return When(end != std::string::npos && end + 1 < length,
-                         Text("%zu / %zu", end, length));
+                         Formatted("%zu / %zu", end, length));
            });
          }},
     Rule{"the text changes before it has come, and is never whole",
@@ -310,7 +303,7 @@ const std::array kRules = {
          [](const Facts& f) {
            constexpr double kLongest = 120;
            const double seconds = SecondsOf(f, NetworkGroups(f), 14);
-           return If(seconds > kLongest, "EON", Text("%.0f s", seconds));
+           return If(seconds > kLongest, "EON", Formatted("%.0f s", seconds));
          }},
     Rule{"the set 000 is linked to nothing",
          [](const Facts& f) {

@@ -1,10 +1,9 @@
 #include "air/judge_frequencies.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdio>
 
 #include "air/af_codes.h"
+#include "air/formatted.h"
 
 namespace corvalis::air {
 
@@ -15,10 +14,8 @@ constexpr std::uint8_t kFirstOffset = 253;
 constexpr std::uint8_t kSteps25[] = {1, 2, 3};
 
 std::string Megahertz(std::uint8_t step_code, std::uint8_t offset_code) {
-  std::array<char, 16> text{};
   const int kilohertz = 87500 + 100 * step_code + 25 * kSteps25[offset_code - kFirstOffset];
-  std::snprintf(text.data(), text.size(), "%d.%03d MHz", kilohertz / 1000, kilohertz % 1000);
-  return text.data();
+  return Formatted("%d.%03d MHz", kilohertz / 1000, kilohertz % 1000);
 }
 
 }  // namespace
