@@ -25,6 +25,7 @@ void FrequencyReceiver::Hear(const std::optional<BytePair>& codes, const Moment&
   left_ -= lost;
   if (lost > 0) {
     gap_ = true;
+    lost_ = true;
     stream_ = {};
   }
   if (!codes) return;
@@ -34,12 +35,14 @@ void FrequencyReceiver::Hear(const std::optional<BytePair>& codes, const Moment&
     --left_;
     TakePair(*codes, sets, moment.at);
   }
+  lost_ = false;
 }
 
 void FrequencyReceiver::Begin(int count, std::uint8_t first, FrequencySets& sets, AirSeconds at) {
   method_ = count == 0 ? Method::kNone : Method::kOpen;
   left_ = count / 2;
   gap_ = false;
+  lost_ = false;
   first_ = {.code = first};
   stream_ = {};
   if (count == 0) return;
@@ -66,10 +69,8 @@ void FrequencyReceiver::TakePair(const BytePair& codes, FrequencySets& sets, Air
     TakeB(codes, sets, at);
     return;
   }
-  // Behind a gap, the first code may belong to one that was lost.
-  if (!gap_ || !straddles_) TakeA(codes[0], sets, at);
+  if (!lost_ || IsAfPrefix(codes[0])) TakeA(codes[0], sets, at);
   TakeA(codes[1], sets, at);
-  straddles_ = straddles_ || stream_.IsInFrequency();
 }
 
 void FrequencyReceiver::TakeA(std::uint8_t code, FrequencySets& sets, AirSeconds at) {

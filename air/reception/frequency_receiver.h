@@ -30,9 +30,9 @@ class FrequencyReceiver {
   Method method_ = Method::kNone;
   int left_ = 0;      // groups of this list that surely follow, if nothing was lost of those so far
   bool gap_ = false;  // something may have been lost since it began
+  bool lost_ = false;  // and just before
   HeardFrequency first_;
   FrequencyStream stream_;
-  bool straddles_ = false;  // the station cuts frequencies of two codes between two groups
 };
 
 }  // namespace corvalis::air

@@ -4,14 +4,12 @@ namespace corvalis::air {
 
 namespace {
 
-// None if two blocks that say it contradict each other.
-std::optional<std::uint16_t> IdentityOf(const HeardGroup& group) {
+// Of its PI in the first block and in the third.
+bool ContradictsItself(const HeardGroup& group) {
   const auto& [first, second, third, fourth] = group.blocks;
-  if (first && third && first != third) {
-    const auto head = HeadOf(group);
-    if (head && head->kind.version_b) return std::nullopt;
-  }
-  return PiOf(group);
+  if (!first || !third || first == third) return false;
+  const auto head = HeadOf(group);
+  return head && head->kind.version_b;
 }
 
 }  // namespace
@@ -27,8 +25,9 @@ bool StationGate::Take(const HeardGroup& group, AirSeconds at) {
     count_ = 0;
     candidate_at_ = 0;
   }
-  const auto pi = IdentityOf(group);
-  waiting_[count_++] = {.group = group, .at = at, .pi = pi};
+  const bool spoilt = ContradictsItself(group);
+  const auto pi = spoilt ? std::nullopt : PiOf(group);
+  waiting_[count_++] = {.group = group, .at = at, .pi = pi, .foreign = spoilt};
   if (!pi) return false;
   if (pi == station_) {
     candidate_.reset();
@@ -51,7 +50,7 @@ void StationGate::LetThrough(std::size_t from) {
   from_ = from;
   through_ = count_ - from;
   for (std::size_t i = from; i < count_; ++i) {
-    waiting_[i].foreign = waiting_[i].pi && waiting_[i].pi != station_;
+    if (waiting_[i].pi && waiting_[i].pi != station_) waiting_[i].foreign = true;
   }
 }
 

@@ -19,7 +19,7 @@ class StationGate {
     HeardGroup group;
     AirSeconds at = 0;
     std::optional<std::uint16_t> pi;
-    bool foreign = false;  ///< what it says is not the station's; a group of it may be lost there
+    bool foreign = false;  ///< not of the station, or spoilt: where it was, one may be lost
   };
 
   /// Groups that wait at most; when more come, they all are lost.

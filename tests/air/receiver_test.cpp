@@ -5,11 +5,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <random>
 #include <sstream>
 #include <string>
+#include <string_view>
+#include <vector>
 
 #include "air/hex_text.h"
 #include "support/heard_facts.h"
@@ -25,10 +28,11 @@ constexpr double kGroup = 104 / 1187.5;
 air::Receiver Heard(const std::string& told) {
   air::Receiver radio;
   double at = 0;
+  double step = kGroup;
   const auto hear = [&](const std::string& line) {
     const auto group = air::ReadHexLine(line);
     EXPECT_TRUE(group) << line;
-    if (group) radio.Hear(*group, at += kGroup);
+    if (group) radio.Hear(*group, at += step);
   };
   for (int i = 0; i < 2; ++i) hear("5201 F000 0000 0000");
   std::istringstream text(told);
@@ -39,6 +43,10 @@ air::Receiver Heard(const std::string& told) {
     words >> word;
     if (word == "Break") {
       radio.Break();
+      continue;
+    }
+    if (word == "Hold") {
+      step = 0;
       continue;
     }
     if (word == "Wait" || word == "Lost") words >> number;
@@ -86,6 +94,8 @@ std::string Rt(bool flag, std::string text, std::size_t from = 0, std::size_t to
   return lines;
 }
 
+std::string Shown(const std::vector<std::uint8_t>& bytes) { return {bytes.begin(), bytes.end()}; }
+
 // Those that begin so, "; " between them, and of a PI nothing.
 std::string Facts(const air::Receiver& radio, const std::string& begin) {
   std::string text;
@@ -100,6 +110,7 @@ TEST(Receiver, TakesForHeardWhatTheRulesSay) {
   const std::string b = " 98.4   ";
   const std::string text = "Jazz by the water|";
   const std::string other = "Jazz by the river|";
+  const std::string day = "Jazz all day";
   const std::string full(64, 'x');
   struct {
     const char* rule;
@@ -116,13 +127,21 @@ TEST(Receiver, TakesForHeardWhatTheRulesSay) {
       {"a group without PI is whose the next is",
        "2x ---- F400 0000 0000/5202 F400 0000 0000/F000 0000 0000", "TP", "TP on"},
       {"not the other's", "2x ---- F400 0000 0000/2x 5202 F000 0000 0000", "TP", "TP off"},
-      {"nor one that says two", "2x 5201 FC00 5202 FC00/2x 5201 F000 0000 0000", "TP", "TP off"},
+      {"nor one that says two", "2x 5201 FC00 5202 FC00/F000 0000 0000", "TP", "TP off"},
+
+      {"nor what came before it", "2x ---- 1000 00E0 CC80/2x 5202 F000 0000 0000", "PIN", ""},
+      {"nor half of what came before", Ps(a, 0, 1) + "5202 0002 E0CD 5A5A/5202 0003 E0CD 5A5A",
+       "PS", ""},
+      {"what came with another once is lost", Ps(a, 0, 1) + "5202 0002 E0CD 5A5A/" + Ps(a, 3), "PS",
+       ""},
+      {"not in a row over a break", "5202 F000 0000 0000/Break/5202 F000 0000 0000", "PI",
+       "PI 5201"},
 
       {"a switch comes twice in a row", "0010 E0CD 4142/0000 E0CD 4142/0010 E0CD 4142", "TA", ""},
       {"and keeps until another did", "2x 0010 E0CD 4142/0000 E0CD 4142/0010 E0CD 4142", "TA",
        "TA on"},
-      {"15B tells its second block twice", "2x 5201 F814 5201 F814/2x 5201 F810 5201 F804", "music",
-       "music off"},
+      {"15B tells its second block twice", "2x 5201 F818 5201 F818/2x 5201 F800 5201 F808", "music",
+       "music on"},
 
       {"a name in one pass", Ps(a), "PS", "PS " + a},
       {"from its first segment", Ps(a, 1) + Ps(a, 0, 0), "PS", ""},
@@ -146,26 +165,33 @@ TEST(Receiver, TakesForHeardWhatTheRulesSay) {
       {"the flag turned", Rt(false, text, 0, 2) + Rt(true, other, 3), "RT", ""},
       {"the flag turned unheard", Rt(false, text, 0, 2) + "Lost 12/" + Rt(false, other, 3), "RT",
        ""},
+      {"not within a second", Rt(false, text, 1) + "Lost 3/" + Rt(false, text, 0, 0), "RT",
+       "RT Jazz by the water"},
       {"as much lost as is of this text", Rt(false, text, 0, 2) + "Lost 4/" + Rt(false, text, 3),
        "RT", "RT Jazz by the water"},
       {"a segment left out, nothing lost",
        Rt(false, text, 0, 2) + Rt(false, other, 4) + Rt(false, other, 3, 3), "RT", ""},
       {"another text, the same flag",
        Rt(false, text, 0, 3) + Rt(false, "Rock", 0, 0) + "Lost 3/" + Rt(false, text, 4), "RT", ""},
-      {"a text without an end, twice",
-       Rt(false, "Jazz all day") + Rt(false, "Jazz all day") + Rt(false, "Jazz", 0, 0), "RT",
-       "RT Jazz all day"},
-      {"once", Rt(false, "Jazz all day") + Rt(false, "Jazz", 0, 0), "RT", ""},
+      {"a text without an end, twice", Rt(false, day) + Rt(false, day) + Rt(false, day, 0, 0), "RT",
+       "RT " + day},
+      {"once", Rt(false, day) + Rt(false, day, 0, 0), "RT", ""},
       {"with something lost",
-       Rt(false, "Jazz all day") + Rt(false, "Jazz all day", 0, 1) + "Lost 1/" +
-           Rt(false, "Jazz all day", 2) + Rt(false, "Jazz", 0, 0),
+       Rt(false, day) + Rt(false, day, 0, 1) + "Lost 1/" + Rt(false, day, 2) + Rt(false, day, 0, 0),
        "RT", ""},
+
+      {"lost at the end", Rt(false, day) + Rt(false, day) + "Lost 1/" + Rt(false, day, 0, 0), "RT",
+       ""},
+      {"lost between",
+       Rt(false, day) + Rt(false, day) + "Lost 1/" + Rt(false, day) + Rt(false, day, 0, 0), "RT",
+       ""},
 
       {"a type's name, each part again behind the last",
        "A000 4A41 5A5A/A001 2020 2020/A000 4A41 5A5A", "PTYN", ""},
       {"then it counts", "2x A000 4A41 5A5A/2x A001 2020 2020/A000 4A41 5A5A", "PTYN",
        "PTYN JAZZ    "},
-      {"not over the flag", "2x A000 4A41 5A5A/A010 4A41 5A5A/2x A011 2020 2020", "PTYN", ""},
+      {"not over the flag", "A000 4A41 5A5A/A011 2020 2020/A010 4A41 5A5A/A011 2020 2020", "PTYN",
+       ""},
 
       {"an item number comes twice", "1000 0000 CC80", "PIN", ""},
       {"in 1A and 1B", "1000 0000 CC80/5201 1800 5201 CC80", "PIN", "PIN CC80"},
@@ -189,8 +215,15 @@ TEST(Receiver, SortsFrequenciesIntoLists) {
       {"LF, MF and between the steps", "E2CD FD41 FA10 FA05 E2CD FD41 FA10 FA05",
        "AF 189; AF 531; AF 94025"},
       {"over two groups", "E341 44FA 10CD E341 44FA 10CD", "AF 531; AF 94000; AF 94300"},
+      {"no code that is none", "E541 0042 FAC8 D0FF E541 0042 FAC8 D0FF", "AF 94000; AF 94100"},
+      {"nor the rest of a lost one", "E741 5A5B ---- 1011 E741 5A5B ---- 1011",
+       "AF 89200; AF 94000; AF 96500; AF 96600"},
+      {"nor a lost one's", "E741 5AFA ---- 1011 E741 5AFA ---- 1011",
+       "AF 89200; AF 94000; AF 96500"},
+      {"MF of the same code", "E241 FA41 E241 FA41", "AF 94000; AF 972"},
       {"by method B", "E541 415F 4441 E541 415F 4441",
        "AF B 94000 regional 94300; AF B 94000 same 97000"},
+      {"without another", "E341 41CD 4141 E341 41CD 4141", ""},
       {"no pair of another list", "E541 415F 4442 E541 415F 4442", "AF B 94000 same 97000"},
       {"behind a gap, while the list lasts", "E741 415F ---- 4441 E741 415F * 4441",
        "AF B 94000 regional 94300; AF B 94000 same 97000"},
@@ -232,6 +265,7 @@ TEST(Receiver, HearsOfOthersAndData) {
        "EON 542B PTY 10"},
       {"its linkage", "2x E00C 82A1 542B", "EON 542B l", "EON 542B linkage 82A1"},
       {"the station's own linkage", "2x E00C 82A1 5201/2x E00D 5001 5201", "l", "linkage 82A1"},
+      {"and no announcement", "2x 5201 E808 5201 5201", "EON", ""},
       {"the network is missing", "2x E00C 82A1 ----", "EON", ""},
 
       {"an application comes twice", "2x 3010 0241 CD46/3010 0241 4BD7", "AID", "AID 8A CD46"},
@@ -250,7 +284,10 @@ TEST(Receiver, HearsOfOthersAndData) {
        "page 0 ABC"},
       {"from one 0D to the next", "2x 6000 4142 430D/6001 4142 4344", "page", "page 0 ABC"},
       {"with line ends", "6001 4142 4344/6000 4142 430D/6000 0A42 430D/6001 4142 4344", "page 0",
-       "page 0 ABC\r\nBC"},
+       "page 0 ABC\r|BC"},
+      {"a line end may be missing", "6001 4142 4344/6000 4142 430D/6000 ---- 4444/6001 4142 4344",
+       "page", ""},
+      {"one too long", "6001 4142 4344/1100x 6000 4142 4344/6001 4142 4344", "page", ""},
       {"told once",
        "6001 2020 2020/6000 4142 4344/6000 4546 4748/6000 4142 4344/6000 4546 4748/6001 2020 2020",
        "page 0", "page 0 ABCDEFGH"},
@@ -259,8 +296,8 @@ TEST(Receiver, HearsOfOthersAndData) {
       {"a block is missing", "6001 4142 4344/6000 4142 ----/6000 4142 430D/6001 4142 4344", "page",
        ""},
 
-      {"a time that another bears out", "41C1 C3EF 5AC4/Wait 60/41C1 C3EF 5B04", "CT", "CT 4"},
-      {"by the groups that came", "41C1 C3EF 5AC4/999x F000 0000 0000/41C1 C3EF 5B44", "CT",
+      {"a time that another bears out", "41C1 C3EF 5AC4/Wait 300/41C1 C3EF 5C04", "CT", "CT 4"},
+      {"by the groups that came", "41C1 C3EF 5AC4/Hold/3400x F000 0000 0000/41C1 C3EF 5C04", "CT",
        "CT 4"},
       {"not by itself", "41C1 C3EF 5AC4", "CT", ""},
       {"nor by another", "41C1 C3EF 5AC4/41C1 C3EF 6AC4", "CT", ""},
@@ -270,6 +307,49 @@ TEST(Receiver, HearsOfOthersAndData) {
   for (const auto& c : cases) {
     EXPECT_EQ(Facts(Heard(c.told), c.begin), c.facts) << c.rule;
   }
+}
+
+TEST(Receiver, RemembersTheLastTexts) {
+  std::string told;
+  for (int i = 0; i < 10; ++i) {
+    const std::string text = "Text " + std::to_string(i) + "|";
+    told += Rt(i % 2 != 0, text) + Rt(i % 2 != 0, text);
+  }
+  const air::Receiver radio = Heard(told);
+  const air::TextOfStation& rt = radio.Heard().rt;
+  EXPECT_EQ(rt.remembered.size(), 8U);
+  EXPECT_EQ(Shown(rt.remembered.front().bytes), "Text 9");
+  EXPECT_TRUE(rt.remembered.front().flag);
+  EXPECT_EQ(Shown(rt.remembered.back().bytes), "Text 2");
+  EXPECT_EQ(rt.texts.begin()->times, 2U);
+  EXPECT_TRUE(rt.now.IsHeard());
+  const air::Receiver turned = Heard(told + Rt(false, "Text", 0, 0));
+  EXPECT_EQ(turned.Heard().rt.now.hearing, air::Hearing::kBeing);
+  EXPECT_EQ(turned.Heard().rt.pairs, 3U);
+}
+
+TEST(Receiver, TakesAnyGarbage) {
+  std::mt19937 random(1);
+  const auto word = [&] { return static_cast<std::uint16_t>(random()); };
+  air::Receiver radio;
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  const double steps[] = {kGroup, -5, 1e300, kInfinity, -kInfinity, std::nan("")};
+  double at = 0;
+  for (int i = 0; i < 100000; ++i) {
+    air::HeardGroup group{{0x5201, word(), word(), word()}};
+    if (i % 3 == 0) group.blocks.at(word() % 4).reset();
+    const double step = i % 1000 == 0 ? steps[word() % 6] : kGroup;
+    radio.Hear(group, at + step);
+    if (step == kGroup) at += step;
+  }
+  radio.Hear({{0x5201, 0}}, std::nan(""));
+  radio.Hear({{0x5201, 0}}, 0);
+  const air::Reception& heard = radio.Heard();
+  EXPECT_GE(heard.tp.last, at);
+  EXPECT_EQ(heard.groups.all.groups, 100002U);
+  EXPECT_EQ(heard.networks.size(), air::OtherNetwork::kMost);
+  EXPECT_EQ(heard.traffic.messages.size(), 128U);
+  EXPECT_LE(heard.ps.names.size(), 256U);
 }
 
 }  // namespace

@@ -14,9 +14,12 @@ std::string Hex(unsigned value, std::size_t digits = 4) {
   return std::string(digits - std::min(digits, text.str().size()), '0') + text.str();
 }
 
+// A line end is a "|".
 template <typename Bytes>
 std::string TextOf(const Bytes& bytes) {
-  return {bytes.begin(), bytes.end()};
+  std::string text(bytes.begin(), bytes.end());
+  std::replace(text.begin(), text.end(), '\n', '|');
+  return text;
 }
 std::string TextOf(bool value) { return value ? "on" : "off"; }
 std::string TextOf(int value) { return std::to_string(value); }
