@@ -6,7 +6,6 @@ namespace corvalis::air {
 
 namespace {
 
-constexpr std::uint32_t kRegisterMask = (1U << kBlockBits) - 1;
 constexpr std::size_t kRightOfFour = 3;  // that chance does not bring about
 // A group with one right block may be chance; so many of them in a row are out of step.
 constexpr int kSilentGroups = 6;
@@ -45,7 +44,7 @@ std::string BitText(const Group& group) {
 }
 
 std::optional<HeardGroup> GroupFinder::Take(bool bit) {
-  register_ = (register_ << 1 | (bit ? 1U : 0U)) & kRegisterMask;
+  register_ = register_ << 1 | (bit ? 1U : 0U);
   at_ = at_ + 1 < past_.size() ? at_ + 1 : 0;
   past_[at_] = register_;
   if (in_step_) {
@@ -84,7 +83,6 @@ void GroupFinder::LookForStep() {
   }
   if (right < kRightOfFour) return;
   in_step_ = true;
-  silent_groups_ = 0;
   bits_ = (position + 1) * kBlockBits;
 }
 

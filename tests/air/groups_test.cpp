@@ -44,7 +44,7 @@ TEST(Groups, HaveEachFieldInItsPlace) {
   ExpectLine(Group1A{SlowLabel{.content = 0xE0}, ItemNumber{1, 0, 59}}, "5201 1540 00E0 083B");
   ExpectLine(Group1B{ItemNumber{31, 16, 1}}, "5201 1D40 5201 FC01");
   ExpectLine(Group2A{.flag = true, .segment = 5, .characters = kAbcd}, "5201 2555 4142 4344");
-  ExpectLine(Group2B{.segment = 15, .characters = kAb}, "5201 2D4F 5201 4142");
+  ExpectLine(Group2B{.flag = true, .segment = 15, .characters = kAb}, "5201 2D5F 5201 4142");
   ExpectLine(Group3A{{8, false}, std::uint16_t{0x4FC0}, 0xCD46}, "5201 3550 4FC0 CD46");
   ExpectLine(Group3A{{5, true}, std::uint16_t{1}, 0x8000}, "5201 354B 0001 8000");
   ExpectLine(Group4A{61406, 23, 59, -3}, "5201 4541 DFBD 7EE3");
