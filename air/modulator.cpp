@@ -102,9 +102,6 @@ void Modulator::Emit(std::size_t count, std::vector<std::int16_t>& samples) {
   std::fill(rest, ahead_.end(), 0.F);
 }
 
-void Modulator::End(std::vector<std::int16_t>& samples) {
-  Emit(kSymbolSamples, samples);
-  *this = Modulator();
-}
+void Modulator::End(std::vector<std::int16_t>& samples) { Emit(kSymbolSamples, samples); }
 
 }  // namespace corvalis::air

@@ -21,7 +21,7 @@ class Modulator {
   /// early or late. A group is whole on the air when the next one or the end has been appended, as
   /// symbols overlap.
   void Add(const Group& group, std::vector<std::int16_t>& samples);
-  /// Appends the rest of the last symbols. What is added behind it begins anew.
+  /// Appends the rest of the last symbols.
   void End(std::vector<std::int16_t>& samples);
 
  private:

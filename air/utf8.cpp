@@ -44,7 +44,8 @@ char32_t TakeUtf8(std::string_view& text) {
     while (length <= tails && length < text.size() && (byte(length) & 0xC0) == 0x80) {
       character = character << 6 | (byte(length++) & 0x3F);
     }
-    if (length <= tails || character < kForms[tails].least) character = kNoCharacter;
+    // One that is cut short comes out too small, as one that is longer than it need be.
+    if (character < kForms[tails].least) character = kNoCharacter;
   }
   text.remove_prefix(length);
   return character;

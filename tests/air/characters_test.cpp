@@ -52,6 +52,7 @@ TEST(RadioCharacters, ComeNearestOneForOne) {
       {"дом 音 😀", "??? ? ?"},
       {"\r\n\xC2\xAD", "\x0D\x0A\x1F"},
       {"a\xFF\xC3 \xE2\x80", "a?? ?"},
+      {"\xC0\xAF \xF4\x80\x80", "? ?"},
   };
   for (const auto& [text, bytes] : texts) {
     const auto radio = air::RadioBytes(text);

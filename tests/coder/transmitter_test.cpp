@@ -214,7 +214,11 @@ TEST_F(TransmitterTest, BeginsTheSignalAnewForEachReader) {
     EXPECT_EQ(Number(signal, 44, 4), 0U);
     EXPECT_GE(signal.size(), 180000U);
   }
+  // One that comes too late gets nothing rather than an end without a beginning.
+  const int late = open(path.c_str(), O_RDONLY | O_NONBLOCK);
   transmitter->End();
+  EXPECT_EQ(ReadAll(late), "");
+  close(late);
 }
 
 TEST_F(TransmitterTest, SaysWhatItCannotWrite) {
