@@ -4,17 +4,20 @@ include(GNUInstallDirs)
 set(made ${CMAKE_CURRENT_BINARY_DIR}/packaging)
 configure_file(packaging/corvalis.1.in ${made}/corvalis.1 @ONLY)
 configure_file(packaging/corvalis-coder.1.in ${made}/corvalis-coder.1 @ONLY)
+configure_file(packaging/corvalis-send.1.in ${made}/corvalis-send.1 @ONLY)
 configure_file(packaging/org.example.corvalis.metainfo.xml.in
   ${made}/org.example.corvalis.metainfo.xml @ONLY)
 configure_file(packaging/changelog.in ${made}/changelog @ONLY)
 # Compressed without a name and a time, so that two builds are alike.
-foreach(page corvalis.1 corvalis-coder.1 changelog)
+foreach(page corvalis.1 corvalis-coder.1 corvalis-send.1 changelog)
   execute_process(COMMAND gzip -9nc ${made}/${page} OUTPUT_FILE ${made}/${page}.gz)
 endforeach()
 
-install(TARGETS corvalis corvalis-coder RUNTIME)
-install(FILES ${made}/corvalis.1.gz ${made}/corvalis-coder.1.gz
+install(TARGETS corvalis corvalis-coder corvalis-send RUNTIME)
+install(FILES ${made}/corvalis.1.gz ${made}/corvalis-coder.1.gz ${made}/corvalis-send.1.gz
   DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+# The service that sends, which nobody has enabled.
+install(FILES packaging/corvalis-send.service DESTINATION lib/systemd/system)
 install(FILES packaging/corvalis.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${made}/org.example.corvalis.metainfo.xml
   DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)

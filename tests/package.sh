@@ -18,13 +18,16 @@ dpkg-deb -x "$package" "$folder/root" || exit 1
 share=$folder/root/usr/share
 
 "$folder/root/usr/bin/corvalis-coder" --help | grep -q '^usage' || fail "the Coder does not start"
-for name in corvalis corvalis-coder; do
+for name in corvalis corvalis-coder corvalis-send; do
   zcat "$share/man/man1/$name.1.gz" | grep -q '^\.SH SYNOPSIS' || fail "no page for $name"
 done
-"$folder/root/usr/bin/corvalis-coder" --help | grep -oE '^  --[a-z-]+' | while read -r option; do
-  zcat "$share/man/man1/corvalis-coder.1.gz" | tr -d '\\' | grep -q -e "$option" ||
-    fail "its page lacks $option"
-done || exit 1
+for name in corvalis-coder corvalis-send; do
+  "$folder/root/usr/bin/$name" --help | grep -oE '^  --[a-z-]+' | while read -r option; do
+    zcat "$share/man/man1/$name.1.gz" | tr -d '\\' | grep -q -e "$option" ||
+      fail "the page of $name lacks $option"
+  done || exit 1
+done
+[ -f "$folder/root/usr/lib/systemd/system/corvalis-send.service" ] || fail "no unit of the service"
 grep -q '^Page00=.*;/usr.*/corvalis/examples;harbour.txt;' "$share/corvalis/examples/station.rds" ||
   fail "the sample station does not know where its pages are"
 [ -f "$share/corvalis/examples/harbour.txt" ] || fail "no sample page"

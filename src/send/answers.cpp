@@ -1,13 +1,17 @@
 #include "send/answers.h"
 
+#include <QString>
+
 #include "config/conversions.h"
 
 namespace corvalis::send {
 
 namespace {
 
-// What is no UTF-8 comes from a command line or a socket, and would be no JSON either.
-std::string JsonString(std::string_view text) {
+// What is no UTF-8, as a socket may bring it, would be no JSON either.
+std::string JsonString(std::string_view bytes) {
+  const std::string text =
+      QString::fromUtf8(bytes.data(), static_cast<qsizetype>(bytes.size())).toStdString();
   constexpr unsigned char kFirstPrintable = 0x20;
   std::string json = "\"";
   for (const char c : text) {

@@ -6,6 +6,17 @@
 
 namespace corvalis::send {
 
+class LineOwner::Together {
+ public:
+  explicit Together(int& count) : count_(++count) {}
+  ~Together() { --count_; }
+  Together(const Together&) = delete;
+  Together& operator=(const Together&) = delete;
+
+ private:
+  int& count_;
+};
+
 LineOwner::LineOwner(SerialPort& port) : port_(port) {
   port_.CommEventRaised = [this] {
     if (CommEventRaised) CommEventRaised();
@@ -20,6 +31,7 @@ LineOwner::~LineOwner() {
 
 LineOwner::State LineOwner::MakeReady() {
   if (LinkOpen && AddressSent && PortOpen()) return State::kReady;
+  const Together together(together_);
   OpenLink(*this);
   if (!LinkOpen) return State::kNoLine;
   ProbeCoder();
@@ -28,6 +40,7 @@ LineOwner::State LineOwner::MakeReady() {
 }
 
 bool LineOwner::Address() {
+  const Together together(together_);
   SendAddress(configData->PresetPassword(), false);
   return AddressSent;
 }
@@ -42,15 +55,13 @@ void LineOwner::Close() {
 }
 
 PortError LineOwner::Output(std::span<const std::uint8_t> bytes) {
-  if (BeforeExchange && !between_) {
-    between_ = true;
+  if (BeforeExchange && together_ == 0) {
+    const Together together(together_);
     BeforeExchange();
-    between_ = false;
     // What somebody else's exchange left over is no answer to this one.
     port_.ClearInput();
     if (Queue* queue = ReceiveQueue()) queue->QReset();
   }
-  if (Leaving) Leaving(bytes);
   return port_.Output(bytes);
 }
 

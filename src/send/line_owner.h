@@ -27,18 +27,17 @@ class LineOwner : public SerialPort {
     kFailed,  ///< the Coder does not answer, or refuses; `LinkError` says how
   };
   /// Opens the line and addresses the Coder, where that is not done: an ENQ, and the Coder ID of
-  /// the record. What fails has been reported when this returns.
+  /// the record. What fails has been reported when this returns. Nobody comes in between.
   [[nodiscard]] State MakeReady();
   /// The Coder ID goes out again. True if it was taken.
-  [[nodiscard]] static bool Address();
+  [[nodiscard]] bool Address();
   /// What is believed of the Coder no longer holds: the next `MakeReady` begins from nothing.
   static void Doubt();
   void Close();
 
-  /// Called before each exchange but those that it makes itself; may be empty.
+  /// Called before each exchange of others, whose turn comes when it returns; may be empty. What is
+  /// exchanged within it goes straight on.
   std::function<void()> BeforeExchange;
-  /// Called with the bytes that begin an exchange, just before they leave; may be empty.
-  std::function<void(std::span<const std::uint8_t> bytes)> Leaving;
 
   PortError SetCommPort(int number) override { return port_.SetCommPort(number); }
   [[nodiscard]] int CommPort() const override { return port_.CommPort(); }
@@ -59,8 +58,11 @@ class LineOwner : public SerialPort {
   [[nodiscard]] int CommEvent() const override { return port_.CommEvent(); }
 
  private:
+  // While one of these lives, exchanges belong together.
+  class Together;
+
   SerialPort& port_;
-  bool between_ = false;  // `BeforeExchange` runs
+  int together_ = 0;
 };
 
 }  // namespace corvalis::send

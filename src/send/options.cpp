@@ -2,12 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <string_view>
 
 #include "config/conversions.h"
 #include "link/autosetting.h"
 #include "link/list_commands.h"
 #include "send/command.h"
+#include "send/words.h"
 
 namespace corvalis::send {
 
@@ -50,6 +52,27 @@ bool TakeId(Options& options, std::string_view value) {
   return id.error.empty() && !value.empty();
 }
 
+// The loopback alone: a wider net is the administrator's choice, through the service manager.
+bool TakeLoopback(Options& options, std::string_view value) {
+  const std::size_t colon = value.rfind(':');
+  const std::string_view host = value.substr(0, colon);
+  if (colon == std::string_view::npos || (host != "127.0.0.1" && host != "localhost")) return false;
+  constexpr std::int32_t kLastPort = 65535;
+  const auto port = ParseDecimal<std::int32_t>(value.substr(colon + 1));
+  if (port && *port >= 1 && *port <= kLastPort) options.listen_port = *port;
+  return options.listen_port.has_value();
+}
+
+// A command with a text, which is not there yet.
+bool TakeFollowAs(Options& options, std::string_view value) {
+  options.follow_as = value;
+  auto words = SplitWords(value);
+  if (!words) return false;
+  words->emplace_back("x");
+  const Parsed parsed = ParseWords(*words);
+  return parsed.command && parsed.command->text == "x";
+}
+
 constexpr std::array kOptions = {
     Option{"--file", "STATION.rds", "the path of a station file, which ends in .rds",
            "how the Coder is reached, its ID, and the times of the rows",
@@ -64,6 +87,18 @@ constexpr std::array kOptions = {
            [](Options& o, std::string_view v) {
              return TakeNumber(v, kFewestPasses, kMostPasses, o.burst);
            }},
+    Option{"--listen", "PATH", "the path of a socket", "be a service on a Unix socket",
+           [](Options& o, std::string_view v) { return TakeText(v, o.listen); }},
+    Option{"--group", "GROUP", "the name of a group", "give that socket to a group",
+           [](Options& o, std::string_view v) { return TakeText(v, o.group); }},
+    Option{"--listen-tcp", "127.0.0.1:PORT", "127.0.0.1:PORT, as it serves this machine alone",
+           "be a service on the loopback", TakeLoopback},
+    Option{"--allow-raw", "", "", "take frames of clients; they can lock a Coder away",
+           [](Options& o, std::string_view) { return o.allow_raw = true; }},
+    Option{"--follow", "FILE", "a path", "send the first line of a file whenever it is another",
+           [](Options& o, std::string_view v) { return TakeText(v, o.follow); }},
+    Option{"--as", "COMMAND", "a command whose text is missing, as \"rt 1\"",
+           "the command whose text that line is", TakeFollowAs},
     Option{"--dry-run", "", "", "write no line, print the frames instead",
            [](Options& o, std::string_view) { return o.dry = true; }},
     Option{"--replace", "", "", "write what the line can't carry as its nearest plain letter",
@@ -104,14 +139,25 @@ std::string ParseOptions(std::span<const char* const> words, Options& options) {
     }
   }
   options.command.assign(words.begin() + static_cast<std::ptrdiff_t>(at), words.end());
-  if (options.command.empty() && !options.help && !options.version) return "the command is missing";
+  if (options.help || options.version) return {};
+  if (options.follow.empty() != options.follow_as.empty()) return "--follow and --as go together";
+  if (options.Serves() != options.command.empty()) {
+    return options.Serves() ? "a service takes no command" : "the command is missing";
+  }
   return {};
+}
+
+bool Options::Serves() const {
+  // What the service manager hands over counts as well.
+  return !listen.empty() || listen_port || !follow.empty() || std::getenv("LISTEN_FDS") != nullptr;
 }
 
 std::string HelpText() {
   std::string text =
       "usage: corvalis-send [option ...] command\n"
       "       corvalis-send [option ...] -\n"
+      "       corvalis-send [option ...] --listen PATH | --listen-tcp 127.0.0.1:PORT | --follow "
+      "FILE\n"
       "\n"
       "Sends single items to the Coder while nobody sits at the program; with -, a command from\n"
       "each line of the standard input. Rows, lists and pages count from 0, as on the screens.\n"

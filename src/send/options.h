@@ -18,12 +18,21 @@ struct Options {
   std::optional<std::string> id = {};      ///< the Coder ID, as the line carries it
   std::optional<std::int16_t> burst = {};  ///< 2 to 10
   TextRules rules;
+  std::string listen = {};              ///< path of a Unix socket; empty: none
+  std::string group = {};               ///< of that socket; empty: the user's own
+  std::optional<int> listen_port = {};  ///< of the loopback, 1 to 65535
+  bool allow_raw = false;               ///< from clients
+  std::string follow = {};              ///< path of a file; empty: none
+  std::string follow_as = {};           ///< the command whose text its line is
   bool dry = false;
   bool json = false;
   bool verbose = false;
   bool help = false;
   bool version = false;
   std::vector<std::string> command = {};  ///< the words behind the options
+
+  /// True for a service, which takes no command.
+  [[nodiscard]] bool Serves() const;
 };
 
 /// Reads the words behind the program's name into `options`. Returns an empty text, or what is

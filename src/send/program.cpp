@@ -13,6 +13,7 @@
 #include "send/answers.h"
 #include "send/dry_port.h"
 #include "send/one_shot.h"
+#include "send/service.h"
 
 namespace corvalis::send {
 
@@ -79,6 +80,7 @@ int RunProgram(const Options& options) {
   Station station({.id = options.id, .burst = options.burst, .port = options.port});
   Sender sender(station, *services.line, services.dialogs, options.dry);
   sender.Note = [](const std::string& words) { std::cerr << "corvalis-send: " << words << "\n"; };
+  if (options.Serves()) return RunService(options, station, *services.line, sender);
   OneShot one_shot(sender, options.rules, {.json = options.json, .verbose = options.verbose},
                    std::cout, std::cerr);
   if (options.command == std::vector<std::string>{"-"}) return one_shot.RunLines(std::cin);

@@ -18,6 +18,8 @@ namespace {
 
 constexpr std::int16_t kErrorUnaddressed = 8;
 constexpr int kTriesToEndTa = 3;
+constexpr const char* kModem =
+    "the station is reached through a modem, and a call is only made by hand in the program";
 
 std::uint8_t Byte(int value) { return static_cast<std::uint8_t>(value); }
 std::int16_t Short(int value) { return static_cast<std::int16_t>(value); }
@@ -75,9 +77,7 @@ void SendFrame(const std::vector<std::uint8_t>& bytes) {
 }  // namespace
 
 std::string Sender::Impossible(const Command& command) const {
-  if (configData->Modem()) {
-    return "the station is reached through a modem, and a call is only made by hand in the program";
-  }
+  if (configData->Modem()) return kModem;
   if (command.read && configData->Satellite()) {
     return "the station is reached over a one-way link: nothing can be read";
   }
@@ -102,31 +102,36 @@ Outcome Sender::Send(const Command& command) {
   return outcome;
 }
 
-Outcome Sender::SendBetween(const Command& command) {
-  Outcome outcome;
-  Run(command, outcome);
-  return LinkError == kLinkOk ? outcome : Failure(Outcome::Kind::kFailed);
-}
+Outcome Sender::SendBetween(const Command& command) { return RunAddressed(command); }
 
-Outcome Sender::Try(const Command& command) {
+Outcome Sender::MakeReady() {
   dialogs_.Take();
+  if (configData->Modem()) return {.kind = Outcome::Kind::kUnfit, .words = kModem};
   switch (line_.MakeReady()) {
     case LineOwner::State::kReady:
-      break;
+      return {};
     case LineOwner::State::kNoLine:
       return Failure(Outcome::Kind::kNoLine);
     case LineOwner::State::kFailed:
-      return Failure(Outcome::Kind::kFailed);
+      break;
   }
+  return Failure(Outcome::Kind::kFailed);
+}
+
+Outcome Sender::Try(const Command& command) {
+  Outcome ready = MakeReady();
+  return ready.kind == Outcome::Kind::kDone ? RunAddressed(command) : ready;
+}
+
+Outcome Sender::RunAddressed(const Command& command) {
   Outcome outcome;
   Run(command, outcome);
   // Somebody has sent an ENQ, or the Coder has lost its supply meanwhile.
-  if (LinkError == kErrorUnaddressed && LineOwner::Address()) {
+  if (LinkError == kErrorUnaddressed && line_.Address()) {
     outcome = {};
     Run(command, outcome);
   }
-  if (LinkError == kLinkOk) return outcome;
-  return Failure(Outcome::Kind::kFailed);
+  return LinkError == kLinkOk ? outcome : Failure(Outcome::Kind::kFailed);
 }
 
 Outcome Sender::Failure(Outcome::Kind kind) {

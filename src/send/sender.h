@@ -22,9 +22,12 @@ class Sender {
   /// Makes the line ready, sends or reads, and returns when all is answered. A refusal for want of
   /// an address is met with one, once. A TA that does not go off is tried three times.
   [[nodiscard]] Outcome Send(const Command& command);
-  /// The same within another command's run, between two of its exchanges: over the line as it is,
-  /// and once.
+  /// The same within another command's run, between two of its exchanges: once, over the line as it
+  /// is.
   [[nodiscard]] Outcome SendBetween(const Command& command);
+
+  /// Opens the line and addresses the Coder, so that the next command need not.
+  [[nodiscard]] Outcome MakeReady();
 
   /// Hears what a person should know while a command takes long; may be empty.
   std::function<void(const std::string& words)> Note;
@@ -33,6 +36,7 @@ class Sender {
   [[nodiscard]] std::string Impossible(const Command& command) const;
   [[nodiscard]] Outcome Try(const Command& command);
   [[nodiscard]] Outcome Failure(Outcome::Kind kind);
+  [[nodiscard]] Outcome RunAddressed(const Command& command);
   void Run(const Command& command, Outcome& outcome);
   void Write(const Command& command);
   void SendLists(const Command& command);

@@ -116,6 +116,16 @@ std::uint8_t Station::TimeOfName(int page, int row) {
 
 const TmcData& Station::Messages() { return Loaded<tmcData>(); }
 
+void Station::LoadForItems() {
+  Loaded<rtData>();
+  if (configData->PsnPagesEnable()) {
+    Loaded<psnPageData>();
+  } else {
+    Loaded<psnData>();
+  }
+  Loaded<tmcData>();
+}
+
 void Station::Select(const std::vector<std::string>& lists) {
   selected_ = *configData;
   if (lists.empty()) return;

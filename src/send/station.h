@@ -39,6 +39,9 @@ class Station {
   /// The traffic messages of the file.
   [[nodiscard]] static const TmcData& Messages();
 
+  /// Loads what these need now; else they do it when they are asked first.
+  static void LoadForItems();
+
   /// Makes a run over the whole configuration carry these lists, those that the file selects if
   /// there are none, and nothing else; until the next `Unselect`.
   void Select(const std::vector<std::string>& lists);

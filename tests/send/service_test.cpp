@@ -1,0 +1,116 @@
+// The service as a process, at a socket.
+
+#include <gtest/gtest.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <csignal>
+#include <stdexcept>
+
+#include "desktop/coder_process.h"
+#include "support/places.h"
+
+namespace corvalis::test {
+namespace {
+
+sockaddr_un AddressOf(const std::string& path) {
+  sockaddr_un address{};
+  address.sun_family = AF_UNIX;
+  path.copy(static_cast<char*>(address.sun_path), sizeof address.sun_path - 1);
+  return address;
+}
+
+// A client that says all and reads until the other side ends.
+std::string Ask(const std::string& path, const std::string& lines) {
+  const int client = socket(AF_UNIX, SOCK_STREAM, 0);
+  const sockaddr_un address = AddressOf(path);
+  std::string answers;
+  if (connect(client, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0 &&
+      write(client, lines.data(), lines.size()) == static_cast<ssize_t>(lines.size())) {
+    shutdown(client, SHUT_WR);
+    char byte = 0;
+    while (read(client, &byte, 1) == 1) answers += byte;
+  }
+  close(client);
+  return answers;
+}
+
+class ServiceTest : public testing::Test {
+ protected:
+  // Starts the service and returns when it has said that it is ready.
+  void Start(const QStringList& options) {
+    const std::string name = Path("notify");
+    unlink(name.c_str());
+    const int notified = socket(AF_UNIX, SOCK_DGRAM, 0);
+    const sockaddr_un address = AddressOf(name);
+    ASSERT_EQ(bind(notified, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+    const timeval patience{10, 0};
+    setsockopt(notified, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert("NOTIFY_SOCKET", name.c_str());
+    service.setProcessEnvironment(environment);
+    service.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    service.start(CORVALIS_SEND_PROGRAM,
+                  QStringList{"--file", QString(kExamples) + "/station.rds", "--port",
+                              Path("line").c_str(), "--listen", Path("socket").c_str()} +
+                      options);
+    std::string state(16, '\0');
+    state.resize(static_cast<std::size_t>(
+        std::max<ssize_t>(recv(notified, state.data(), state.size(), 0), 0)));
+    EXPECT_EQ(state, "READY=1");
+    close(notified);
+  }
+  int End(int signal) {
+    kill(static_cast<pid_t>(service.processId()), signal);
+    service.waitForFinished();
+    return service.exitCode();
+  }
+  [[nodiscard]] std::string Path(const char* name) const {
+    return folder.filePath(name).toStdString();
+  }
+
+  QTemporaryDir folder;
+  QProcess service;
+};
+
+TEST_F(ServiceTest, ServesASocketAndStartsAgainAfterEveryEnd) {
+  CoderProcess coder({"--link", Path("line").c_str(), "--print", "--dump"});
+  Start({});
+  struct stat status {};
+  ASSERT_EQ(stat(Path("socket").c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777, 0660U);
+  EXPECT_EQ(Ask(Path("socket"), "rt 1 x\nread rt 1\nraw 0F0031"),
+            "ok\nrt 1 \"x\" --time 15\nok\n"
+            "error: frames are not taken here, as they can lock a Coder away\n");
+  End(SIGKILL);
+  Start({"--allow-raw"});
+  EXPECT_EQ(Ask(Path("socket"), "TA=1\nraw 0F0030\n"), "OK\nok\n");
+  EXPECT_EQ(End(SIGTERM), 0);
+  EXPECT_NE(stat(Path("socket").c_str(), &status), 0);
+}
+
+TEST_F(ServiceTest, FollowsAFile) {
+  CoderProcess coder({"--link", Path("line").c_str(), "--print", "--dump"});
+  Start({"--follow", Path("now").c_str(), "--as", "rt 1 ", "--cut", "--replace"});
+  const auto write = [](const std::string& path, const char* text) {
+    QFile file(path.c_str());
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+  };
+  write(Path("now"), "\xEF\xBB\xBFOne\r\nnot this\r\n");
+  coder.WaitForLine("RT 1 <- 15One");
+  write(Path("new"), "Tw\xC5\x8D");
+  ASSERT_EQ(rename(Path("new").c_str(), Path("now").c_str()), 0);
+  coder.WaitForLine("RT 1 <- 15Two");
+  write(Path("now"), "Three");
+  coder.WaitForLine("RT 1 <- 15Three");
+  EXPECT_EQ(End(SIGTERM), 0);
+}
+
+}  // namespace
+}  // namespace corvalis::test
