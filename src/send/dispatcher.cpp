@@ -62,6 +62,8 @@ void Dispatcher::Begin() {
   under_way_ = true;
   const Outcome outcome = sender_.MakeReady();
   under_way_ = false;
+  EscPressed = false;
+  if (stopping_) return;
   if (MayPass(outcome)) return Fails(outcome);
   if (outcome.kind != Outcome::Kind::kDone && Note) Note(outcome.words);
 }

@@ -30,7 +30,10 @@ LineOwner::~LineOwner() {
 }
 
 LineOwner::State LineOwner::MakeReady() {
-  if (LinkOpen && AddressSent && PortOpen()) return State::kReady;
+  if (LinkOpen && AddressSent && PortOpen()) {
+    // Nothing tells over a one-way link that the Coder has lost its supply, and its addressing.
+    return !configData->Satellite() || Address() ? State::kReady : State::kFailed;
+  }
   const Together together(together_);
   OpenLink(*this);
   if (!LinkOpen) return State::kNoLine;

@@ -27,7 +27,8 @@ class LineOwner : public SerialPort {
     kFailed,  ///< the Coder does not answer, or refuses; `LinkError` says how
   };
   /// Opens the line and addresses the Coder, where that is not done: an ENQ, and the Coder ID of
-  /// the record. What fails has been reported when this returns. Nobody comes in between.
+  /// the record. A Coder on a one-way link is addressed each time. What fails has been reported
+  /// when this returns. Nobody comes in between.
   [[nodiscard]] State MakeReady();
   /// The Coder ID goes out again. True if it was taken.
   [[nodiscard]] bool Address();

@@ -60,16 +60,14 @@ TEST_F(SendTest, ACommandIsOneFrameBehindEnqAndAddress) {
   EXPECT_EQ(ReadFile(ProgramFile()), kTwoWay);
 }
 
-TEST_F(SendTest, AOneWayLinkIsAddressedOnceAndGetsBursts) {
+TEST_F(SendTest, AOneWayLinkIsAddressedEachTimeAndGetsBursts) {
   Start(std::string("[RDS Setup]\r\nPSN Pages Enable=Off\r\n") + kOneWay, {}, {.id = "AB"});
   for (const Written& row : kWritten) {
     SCOPED_TRACE(row.line);
     EXPECT_EQ(Send(row.line).kind, Kind::kDone);
-    const bool first = &row == &kWritten[0];
-    ASSERT_EQ(port.written.size(), static_cast<std::size_t>(row.passes + (first ? 2 : 0)));
-    if (first) {
-      EXPECT_EQ(port.written[1], Address("AB"));
-    }
+    const std::size_t before = &row == &kWritten[0] ? 2 : 1;
+    ASSERT_EQ(port.written.size(), before + static_cast<std::size_t>(row.passes));
+    EXPECT_EQ(port.written[before - 1], Address("AB"));
     EXPECT_EQ(port.written.back()[kCommandOffset], static_cast<int>(row.code));
     port.written.clear();
   }
