@@ -130,8 +130,8 @@ void Transmitter::End() {
   }
   for (const Output& output : outputs_) {
     if (output.dropped == 0) continue;
-    complaints_ << "corvalis-coder: " << output.dropped << " groups were dropped for "
-                << output.outlet.Path() << std::endl;
+    complaints_ << "corvalis-coder: groups dropped for " << output.outlet.Path() << ": "
+                << output.dropped << std::endl;
   }
 }
 

@@ -92,7 +92,7 @@ TEST(Judge, FindsWhatRadiosWillNotMakeOfAStation) {
       {[](Facts&) {}, {}},
       // Off, or without what is asked of it.
       {[&](Facts& f) {
-         off(f, {0, 1, 2, 4, 6, 8, 10, 14});
+         off(f, {0, 1, 2, 3, 4, 6, 8, 10, 14});
          f.groups[5].repetitions = 0;
          f.names[0].resize(1);
          f.ta = true;
@@ -136,8 +136,9 @@ TEST(Judge, FindsWhatRadiosWillNotMakeOfAStation) {
          f.ecc = 0xE6;
          f.ta = true;
          f.tp = false;  // another network has it
+         f.networks[0].pi = 0;
        },
-       {"ECC: no country has thi (E6)"}},
+       {"ECC: no country has thi (E6)", "EON 00: another network wi (0000)"}},
 
       {[](Facts& f) {
          f.names[0][0].bytes[7] = '\x1F';
