@@ -95,7 +95,7 @@ double SecondsUntil(const std::vector<air::Group>& groups, const std::set<std::s
 }
 
 void PrintLosses() {
-  constexpr const char* kItems[] = {"PI",  "TP", "stereo", "PS",  "RT",  "PTYN",    "CT",  "PIN",
+  constexpr const char* kItems[] = {"PI",  "TP", "stereo", "PS",  "RT",  "CT",      "PIN",
                                     "ECC", "AF", "EON",    "TMC", "AID", "channel", "page"};
   const auto groups = SampleAir(3600);
   air::Receiver all;
@@ -146,25 +146,24 @@ void PrintNoise(std::uint64_t count) {
     }
   }
   air::Receiver radio;
-  std::string line;
+  std::uint64_t bytes = 0;
   std::size_t groups = 0;
-  constexpr std::string_view kCharacters = "0123456789ABCDEFabcdef----    \t,x";
-  for (std::uint64_t i = 0; i < count; ++i) {
-    const std::uint64_t bits = random();
-    const bool any = (bits >> 32) % 8 == 0;
-    const char next = any ? static_cast<char>(bits) : kCharacters[bits % kCharacters.size()];
-    if (next != '\n' && line.size() < 24) {
-      line += next;
-      continue;
+  while (bytes < count) {
+    // Mostly a group with some bytes changed, so that some still are groups.
+    std::string line = air::HexLine(Noise(random, true));
+    for (auto changes = random() % 4; changes > 0; --changes) {
+      const std::size_t at = random() % line.size();
+      const auto byte = static_cast<char>(random());
+      random() % 2 == 0 ? line.replace(at, 1, 1, byte) : line.insert(at, random() % 9, byte);
     }
+    bytes += line.size() + 1;
     if (const auto group = air::ReadHexLine(line)) {
-      radio.Hear(*group, static_cast<double>(i));
+      radio.Hear(*group, static_cast<double>(bytes));
       ++groups;
     }
-    line.clear();
   }
   std::printf("%llu bytes of random text: %zu groups in them, %zu bytes held\n",
-              static_cast<unsigned long long>(count), groups, Held());
+              static_cast<unsigned long long>(bytes), groups, Held());
 }
 
 }  // namespace

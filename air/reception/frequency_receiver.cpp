@@ -22,7 +22,7 @@ void FrequencyReceiver::Hear(const std::optional<BytePair>& codes, const Moment&
   const auto lost =
       static_cast<int>(std::min<std::uint64_t>(moment.LostSince(moment_), 100)) + (codes ? 0 : 1);
   moment_ = moment;
-  left_ -= lost;
+  left_ = std::max(0, left_ - 2 * lost);
   if (lost > 0) {
     gap_ = true;
     lost_ = true;
@@ -32,7 +32,8 @@ void FrequencyReceiver::Hear(const std::optional<BytePair>& codes, const Moment&
   if (const auto count = CountOf((*codes)[0]); count && !stream_.IsInFrequency()) {
     Begin(*count, (*codes)[1], sets, moment.at);
   } else if (method_ != Method::kNone && (!gap_ || left_ > 0)) {
-    --left_;
+    const auto prefixes = std::count(codes->begin(), codes->end(), kLfOrMfNext);
+    left_ = std::max(0, left_ - 2 + static_cast<int>(prefixes));
     TakePair(*codes, sets, moment.at);
   }
   lost_ = false;
@@ -40,7 +41,7 @@ void FrequencyReceiver::Hear(const std::optional<BytePair>& codes, const Moment&
 
 void FrequencyReceiver::Begin(int count, std::uint8_t first, FrequencySets& sets, AirSeconds at) {
   method_ = count == 0 ? Method::kNone : Method::kOpen;
-  left_ = count / 2;
+  left_ = count - 1;
   gap_ = false;
   lost_ = false;
   first_ = {.code = first};

@@ -28,8 +28,8 @@ class FrequencyReceiver {
 
   Moment moment_;
   Method method_ = Method::kNone;
-  int left_ = 0;      // groups of this list that surely follow, if nothing was lost of those so far
-  bool gap_ = false;  // something may have been lost since it began
+  int left_ = 0;       // codes of this list that surely follow, if whatever was lost were of it
+  bool gap_ = false;   // something may have been lost since it began
   bool lost_ = false;  // and just before
   HeardFrequency first_;
   FrequencyStream stream_;

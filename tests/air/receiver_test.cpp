@@ -227,6 +227,8 @@ TEST(Receiver, SortsFrequenciesIntoLists) {
       {"no pair of another list", "E541 415F 4442 E541 415F 4442", "AF B 94000 same 97000"},
       {"behind a gap, while the list lasts", "E741 415F ---- 4441 E741 415F * 4441",
        "AF B 94000 regional 94300; AF B 94000 same 97000"},
+      {"which MF makes longer", "E641 FA10 FA11 ---- FA12 E641 FA10 FA11 ---- FA12",
+       "AF 531; AF 540; AF 549; AF 94000"},
       {"and no longer", "E541 415F ---- 4441 E541 415F * 4441", "AF B 94000 same 97000"},
   };
   for (const auto& c : cases) {
