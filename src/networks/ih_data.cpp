@@ -5,6 +5,7 @@
 #include "config/ini_management.h"
 #include "config/joined_values.h"
 #include "platform/plain_file.h"
+#include "platform/platform.h"
 
 namespace corvalis {
 
@@ -48,7 +49,9 @@ std::string IhData::FullName(std::int16_t i) const {
 }
 
 bool IhData::ReadFile(std::int16_t i) {
-  const auto bytes = ReadPlainFile(FullName(i), kIhCharacters);
+  const bool makes = !Machine().profiles->Catching();
+  const auto bytes =
+      makes ? ReadPlainFile(FullName(i), kIhCharacters) : PeekPlainFile(FullName(i), kIhCharacters);
   if (bytes) SetPage(i, *bytes);
   return bytes.has_value();
 }

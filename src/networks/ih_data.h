@@ -37,8 +37,9 @@ class IhData {
   /// The text of a page that is new.
   [[nodiscard]] static const std::string& NewPage();
 
-  /// Reads the page from its file, which is made if it is missing: its first 2048 bytes. A file
-  /// that can't be read, or that is no plain file, leaves the page; false then.
+  /// Reads the page from its file, which is made if it is missing, but not while writes are caught
+  /// (`ProfileStore::Catch`): its first 2048 bytes. A file that can't be read, or that is no plain
+  /// file, leaves the page; false then.
   bool ReadFile(std::int16_t i);
   /// Writes all 2048 characters and a line end in the place of its file, as one whole operation;
   /// false if that can't be done.

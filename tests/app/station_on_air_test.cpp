@@ -9,16 +9,11 @@
 
 #include "air/af_codes.h"
 #include "air/judge.h"
-#include "app/configuration.h"
-#include "app/main_form.h"
 #include "coder/facts.h"
 #include "coder/listener.h"
 #include "coder/memory_text.h"
-#include "link/station_commands.h"
-#include "networks/ih_data.h"
-#include "station/groups_data.h"
 #include "support/places.h"
-#include "support/test_machine.h"
+#include "support/sent_station.h"
 
 namespace corvalis::test {
 namespace {
@@ -43,28 +38,10 @@ Lines Repeated(const Lines& lines, std::size_t count) {
   return all;
 }
 
-class StationOnAirTest : public MachineTest {
+class StationOnAirTest : public SentStation {
  protected:
   StationOnAirTest() {
-    port.line = &line;
-    std::string file = ReadFile(std::string(kExamples) + "/station.rds");
-    for (const char* item : {"Psn", "Rt", "Pin", "Af", "Tdc", "Pi", "Ct", "Tp", "Di", "Ecc", "Lic",
-                             "Li", "Eon", "Ptyn", "Tmc"}) {
-      file.insert(file.find("TP="), "Preset" + std::string(item) + "=On\r\n");
-    }
-    for (const char* page : {"Page00=30;", "Page01=15;"}) {
-      file.replace(file.find(page) + 10, 11, "/;" + std::string(kExamples) + ";");
-    }
-    WriteFile(ProgramFile(), file + "[PTYN]\r\nPtyN10=LAKESIDE;\r\n");
-    // As an operator does: the whole of CONNECTION, then what the other screens have.
-    form.Load();
-    RunConfiguration(ConfigurationRun::kSend);
-    SendPty(configData->Pty());
-    for (int group = 0; group < kGroups; ++group) {
-      SendEnable(static_cast<std::uint8_t>(group), groupsData->Active(group),
-                 groupsData->Repetitions(group));
-    }
-    for (std::int16_t page = 0; page < 2; ++page) ihData->SetOneRds(page);
+    SendAll(SampleFile());
     EXPECT_EQ(coder::ReadMemory(coder::MemoryText(the_coder), air.coder), "");
   }
 
@@ -120,9 +97,6 @@ class StationOnAirTest : public MachineTest {
     return lines;
   }
 
-  coder::Coder the_coder{"?????", true};
-  coder::Line line{the_coder, coder::Faults{}};
-  MainForm form;
   coder::Listener air;
 };
 

@@ -1,0 +1,128 @@
+#include "radio/values.h"
+
+#include <algorithm>
+#include <span>
+#include <utility>
+
+#include "air/characters.h"
+#include "config/conversions.h"
+#include "config/programme_types.h"
+#include "station/country_table.h"
+#include "station/language_codes.h"
+
+namespace corvalis::radio {
+
+namespace {
+
+void Add(std::string& text, const std::string& word) { text += (text.empty() ? "" : ", ") + word; }
+
+std::string Hex(std::uint32_t value, int digits) {
+  std::string text(static_cast<std::size_t>(digits), '0');
+  for (auto digit = text.rbegin(); digit != text.rend(); ++digit, value >>= 4) {
+    *digit = "0123456789ABCDEF"[value & 0xF];
+  }
+  return text;
+}
+
+}  // namespace
+
+std::string InWords(std::string_view english) { return std::string(english); }
+
+Value Plain(std::string shown) {
+  Value value{.key = shown, .shown = {}};
+  value.shown = std::move(shown);
+  return value;
+}
+
+Value TextValue(std::string bytes) {
+  const auto* const first = reinterpret_cast<const std::uint8_t*>(bytes.data());
+  std::string shown = air::RadioText({first, bytes.size()});
+  return {.key = std::move(bytes), .shown = std::move(shown)};
+}
+
+Value OnOffValue(bool on) { return {.key = on ? "1" : "0", .shown = InWords(on ? "on" : "off")}; }
+
+Value MusicValue(bool music) {
+  return {.key = music ? "1" : "0", .shown = InWords(music ? "music" : "speech")};
+}
+
+Value HexValue(std::uint32_t value, int digits) { return Plain(Hex(value, digits)); }
+
+Value PtyValue(int pty) {
+  return Plain(std::to_string(pty) + " " + ProgramTypeNames().at(static_cast<std::size_t>(pty)));
+}
+
+Value LanguageValue(int code) {
+  const std::string_view name = code < kLanguageCodes ? LanguageOfCode(code) : "";
+  return Plain(Hex(static_cast<std::uint32_t>(code), 2) + (name.empty() ? "" : " ") +
+               std::string(name));
+}
+
+Value ItemNumberValue(const air::ItemNumber& number) {
+  const std::string code = Hex(air::WordOf(number), 4);
+  if (number.day == 0) return Plain(code + " (" + InWords("none") + ")");
+  return Plain(code + " (" + std::to_string(number.day) + ", " + Digits(number.hour, 2) + ":" +
+               Digits(number.minute, 2) + ")");
+}
+
+Value FrequencyValue(const air::HeardFrequency& frequency) {
+  const int khz = frequency.Kilohertz();
+  if (frequency.prefix == air::kLfOrMfNext) return Plain(std::to_string(khz) + " kHz");
+  std::string text = std::to_string(khz / 1000) + "." + Digits(khz % 1000, 3);
+  while (text.ends_with("00") || (text.ends_with('0') && text[text.size() - 2] != '.')) {
+    text.pop_back();
+  }
+  return Plain(text);
+}
+
+Value PairValue(const air::FrequencyPair& pair) {
+  return Plain(FrequencyValue(pair.own).shown + " - " + FrequencyValue(pair.other).shown);
+}
+
+Value LinkageValue(const air::Linkage& linkage) {
+  Value value = HexValue(static_cast<std::uint32_t>(linkage.number), 3);
+  if (linkage.extended) Add(value.shown, InWords("extended generic"));
+  if (linkage.international) Add(value.shown, InWords("international"));
+  return Plain(value.shown);
+}
+
+Value OffsetValue(int half_hours) { return Plain(SignedHours(half_hours)); }
+
+Value SubchannelValue(std::uint32_t bits) {
+  constexpr int kCommandBits = 20;
+  return Plain(Hex(bits >> kCommandBits, 3) + " " + Hex(bits, kCommandBits / 4));
+}
+
+Value ScopesValue(const air::TrafficTable& table) {
+  std::string text;
+  std::string key;
+  for (const auto& [on, word] : {std::pair(table.international, "international"),
+                                 {table.national, "national"},
+                                 {table.regional, "regional"},
+                                 {table.urban, "urban"}}) {
+    key += on ? '1' : '0';
+    if (on) Add(text, InWords(word));
+  }
+  return {.key = key, .shown = text.empty() ? InWords("none") : text};
+}
+
+Value MessageValue(const air::Group8A& message) {
+  std::string text = InWords("event") + " " + std::to_string(message.event);
+  Add(text, InWords("location") + " " + std::to_string(message.location));
+  Add(text, InWords("extent") + " " + std::to_string(message.extent));
+  Add(text, InWords("direction") + (message.direction ? " -" : " +"));
+  Add(text, InWords("duration") + " " + std::to_string(message.duration));
+  if (message.diversion) Add(text, InWords("diversion"));
+  return Plain(text);
+}
+
+std::string CountryOf(int pi, int ecc) {
+  constexpr int kCountryBits = 12;
+  const auto countries = Countries();
+  const auto found = std::ranges::find_if(countries, [&](const CountryRecord& record) {
+    return record.country == pi >> kCountryBits && record.ecc == ecc;
+  });
+  return found == countries.end() ? std::string() : std::string(found->name);
+}
+
+}  // namespace corvalis::radio

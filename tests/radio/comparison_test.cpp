@@ -1,0 +1,277 @@
+// What a radio makes of the air, held against the station file that was sent.
+
+#include "radio/comparison.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <map>
+#include <set>
+#include <sstream>
+
+#include "air/hex_text.h"
+#include "air/receiver.h"
+#include "coder/on_air.h"
+#include "link/serial_management.h"
+#include "radio/program.h"
+#include "radio/report.h"
+#include "support/sent_station.h"
+
+namespace corvalis::radio {
+namespace {
+
+using Names = std::vector<std::string>;
+using test::kExamples;
+
+class ComparisonTest : public test::SentStation {
+ protected:
+  ComparisonTest() : file_(SampleFile()) {
+    Change("MaxPinNum=255\r\n", "MaxPinNum=255\r\nPin020=15;08:30;10;Off\r\n");
+    SendAll(file_);
+  }
+
+  // The air of so many seconds, as a receiver takes it.
+  void Hear(double seconds) {
+    coder::OnAir on_air(the_coder);
+    for (std::uint64_t group = 0;; ++group) {
+      const coder::AirTime now = coder::GroupStart(group);
+      const double at = std::chrono::duration<double>(now).count();
+      if (at > seconds) return;
+      const air::Group sent = on_air.Next(now);
+      receiver_.Hear(air::Heard(sent), at);
+      lines_ += air::HexLine(sent) + "\n";
+    }
+  }
+
+  void Change(const std::string& from, const std::string& to) {
+    ASSERT_EQ(file_.find(from), file_.rfind(from)) << from;
+    ASSERT_NE(file_.find(from), std::string::npos) << from;
+    file_.replace(file_.find(from), from.size(), to);
+  }
+
+  [[nodiscard]] std::string Place(const std::string& name) const { return folder + "/" + name; }
+  std::vector<Row> Rows(const std::string& file) {
+    WriteFile(Place("station.rds"), file);
+    Prepared prepared;
+    EXPECT_EQ(ReadPrepared(Place("station.rds"), prepared), "");
+    return Compare(prepared, receiver_.Heard(), machine.clock->Now());
+  }
+  // The rows that do not agree, but for those of pages that are not on the air.
+  static Names Named(const std::vector<Row>& rows) {
+    Names names;
+    for (const Row& row : rows) {
+      if (row.verdict == Verdict::kAgrees || row.verdict == Verdict::kSilent) continue;
+      names.push_back(row.name + " " + InWords(row));
+    }
+    return names;
+  }
+
+  std::string file_;
+  air::Receiver receiver_;
+  std::string lines_;
+};
+
+TEST_F(ComparisonTest, NamesWhatWasChangedInTheFileAndNothingElse) {
+  Hear(600);
+  const std::vector<Row> same = Rows(file_);
+  EXPECT_EQ(Named(same), Names()) << ReportText(same);
+  EXPECT_EQ(OutcomeOf(same), Outcome::kAgrees);
+  std::set<Item> kinds;
+  for (const Row& row : same) kinds.insert(row.item);
+  EXPECT_EQ(kinds.size(), static_cast<std::size_t>(Item::kGroup)) << "all but one of a network";
+
+  std::string page = ReadFile(std::string(kExamples) + "/harbour.txt");
+  page[100] = '#';
+  WriteFile(Place("page.txt"), page);
+  const std::string page_00 = "/;" + std::string(kExamples) + ";harbour.txt";
+  const struct {
+    std::string from;
+    std::string to;
+    std::string named;
+  } changes[] = {
+      {"Program Number=2A", "Program Number=2B", "PI differs"},
+      {"Extended Country Code=E0", "Extended Country Code=E1", "ECC differs"},
+      {"Language Identification Code=15", "Language Identification Code=08", "Language differs"},
+      {"\nTP=On", "\nTP=Off", "TP differs"},
+      {"\nTA=Off", "\nTA=On", "TA differs"},
+      {"Music=On", "Music=Off", "M/S differs"},
+      {"Mono=Off", "Mono=On", "Stereo differs"},
+      {"Artificial Head=Off", "Artificial Head=On", "Artificial head differs"},
+      {"Compressed=Off", "Compressed=On", "Compressed differs"},
+      {"Static PTY=On", "Static PTY=Off", "Dynamic PTY differs"},
+      {"\nPTY=10", "\nPTY=11", "PTY differs"},
+      {"LAKESIDE", "LAKESHOR", "PTYN differs"},
+      {"PtyN10=", "PtyN11=", "PTYN not prepared"},
+      {"  98.4  ", "  98.5  ", "PS 00.01 differs"},
+      {"Psn00.04=04;On", "Psn00.04=04;Off", "PS not prepared"},
+      {" & NEWS ;", " & NEWS ;\r\nPsn00.05=04;On;NIGHT FM;", "PS 00.05 not heard yet"},
+      {"with Nora and Tim, w", "with Nora and Tom, w", "RT 01 differs"},
+      {"Rt05=15", "Rt05=00", "RT not prepared"},
+      {"Clock Time Offset=2", "Clock Time Offset=3", "CT offset differs"},
+      {"15;08:30;10", "15;08:31;10", "PIN differs"},
+      {"106.800;093.500;0", "106.900;093.500;0", "AF 00 differs"},
+      {"FreqList=098.400;", "FreqList=000.000;", "AF 00 differs"},
+      {"1458;000.000", "1458;104.000", "AF 00 differs"},
+      {"\nLa=On", "\nLa=Off", "LA differs"},
+      {"Lsn=2A1", "Lsn=2A2", "LSN differs"},
+      {"Egi=Off", "Egi=On", "LSN differs"},
+      {"Pi0=542B", "Pi0=542D", "EON 00 PI differs"},
+      {"RIDGE FM", "BRIDGE F", "EON 00 PS differs"},
+      {"Tp0=On", "Tp0=Off", "EON 00 TP differs"},
+      {"Ta0=Off", "Ta0=On", "EON 00 TA differs"},
+      {"Pty0=0A", "Pty0=0B", "EON 00 PTY differs"},
+      {"Pin0=52352", "Pin0=52353", "EON 00 PIN differs"},
+      {"AfMethodA0=095.7;", "AfMethodA0=095.8;", "EON 00 AF differs"},
+      {"089.2;093.5;000.0", "089.2;093.6;000.0", "EON 00 AF B differs"},
+      {"103.1;106.8;000.0", "000.0;106.8;000.0", "EON 01 AF B differs"},
+      {"Enable1=On", "Enable1=Off", "EON 542C not prepared"},
+      {"10110010011101010001", "10110010011101010000", "TDC 0 01 differs"},
+      {"11001010000100110101110011110000", "11001010000100110101110011110001", "TDC 02 differs"},
+      {page_00, "/;" + folder + ";page.txt", "IH 00 differs"},
+      {page_00, ";;harbour.txt", ""},
+      {"Ltn=09", "Ltn=10", "TMC LTN differs"},
+      {"Sid=12", "Sid=13", "TMC SID differs"},
+      {"National=On\r\nRegional", "National=Off\r\nRegional", "TMC scopes differs"},
+      {"04D2;101", "04D3;101", "TMC 00 differs"},
+      {"Group02A=03;On", "Group02A=04;On", "Group 2A differs"},
+      {"Group02A=03;On", "Group02A=30;On", "Group 2A differs"},
+      {"Group00A=04;On", "Group00A=05;On", "Group 0A differs"},
+      {"Group10A=01;On", "Group10A=01;Off", "Group 10A differs"},
+  };
+  const std::string kept = file_;
+  for (const auto& change : changes) {
+    Change(change.from, change.to);
+    const std::vector<Row> rows = Rows(file_);
+    EXPECT_EQ(Named(rows), change.named.empty() ? Names() : Names{change.named})
+        << change.from << "\n"
+        << ReportText(rows);
+    EXPECT_EQ(OutcomeOf(rows) == Outcome::kAgrees, change.named.empty());
+    file_ = kept;
+  }
+}
+
+TEST_F(ComparisonTest, MarksWhatDiffersAndSaysWhatStaysSilent) {
+  Change("106.800;093.500;0", "106.900;093.500;0");
+  Change("  98.4  ", "  98.55 ");
+  Change("Group02A=03;On", "Group02A=03;Off");
+  Rows(file_);
+  const auto row_of = [](const std::vector<Row>& rows, const std::string& name) {
+    for (const Row& row : rows) {
+      if (row.name == name) return row;
+    }
+    return Row{};
+  };
+  EXPECT_EQ(InWords(row_of(Rows(file_), "RT 00")), "2A, 2B off");
+  EXPECT_EQ(OutcomeOf(Rows(file_)), Outcome::kNotHeard);
+  Hear(120);
+  const std::vector<Row> rows = Rows(file_);
+  const Row name = row_of(rows, "PS 00.01");
+  EXPECT_EQ(name.heard, "  98.4  ");
+  EXPECT_EQ(name.heard_marks, (std::vector<Span>{{5, 2}}));
+  EXPECT_EQ(name.prepared_marks, name.heard_marks);
+  const Row list = row_of(rows, "AF 00");
+  EXPECT_EQ(list.remark, "without 106.9; beside it 106.8");
+  const std::string marked =
+      list.heard.substr(list.heard_marks.at(0).begin, list.heard_marks.at(0).length);
+  EXPECT_EQ(marked, "106.8");
+  EXPECT_EQ(ReportText({name}),
+            "Item      Verdict  Prepared    Heard\n"
+            "PS 00.01  differs  \"  98.55 \"  \"  98.4  \"\n"
+            "                         ^^          ^^\n");
+  EXPECT_NE(ReportCsv(rows).find(
+                "\"PS 00.01\",\"differs\",\"  98.55 \",\"  98.4  \",\"\",\"6-7\",\"6-7\"\n"),
+            std::string::npos);
+}
+
+TEST_F(ComparisonTest, EndsWithWhatCameOfIt) {
+  Hear(600);
+  WriteFile(Place("air.txt"), lines_);
+  WriteFile(Place("short.txt"), lines_.substr(0, lines_.size() / 20));
+  WriteFile(Place("station.rds"), file_);
+  Change("LAKESIDE", "LAKESHOR");
+  WriteFile(Place("other.rds"), file_);
+  WriteFile(Place("junk.rds"), "nothing of a station\n");
+  std::filesystem::create_directory(Place("empty"));
+  const struct {
+    std::string compare;
+    std::string source;
+    int code;
+    std::string told;  // on the output, or of what is wrong
+  } cases[] = {
+      {"station.rds", "air.txt", 0, "agree"},
+      {"other.rds", "air.txt", 1, "1 differ"},
+      {"station.rds", "short.txt", 2, "not heard yet"},
+      {"", "air.txt", 0, "AF 00            98.4, 95.7, 101.325"},
+      {"", "air.txt", 0, "CT               15.11.2026 12:10 (+01.0)"},
+      {"junk.rds", "air.txt", 3, "junk.rds: that is no station file"},
+      {"missing.rds", "air.txt", 3, "missing.rds: there is no such file"},
+      {"empty", "air.txt", 3, "empty: that is no file"},
+      {"station.rds", "missing.txt", 3, "missing.txt: No such file or directory"},
+      {"station.rds", "empty", 3, "empty: Is a directory"},
+      {"station.rds", "junk.rds", 2, "1 lines, and none of them is a group"},
+  };
+  for (const auto& c : cases) {
+    Options options;
+    options.compare = c.compare.empty() ? "" : Place(c.compare);
+    options.source = Place(c.source);
+    std::ostringstream out;
+    EXPECT_EQ(RunReport(options, out, out), c.code) << c.compare << " " << c.source;
+    EXPECT_NE(out.str().find(c.told), std::string::npos) << c.told << "\n" << out.str();
+  }
+  Options options;
+  options.judge = Place("station.rds");
+  std::ostringstream out;
+  EXPECT_EQ(RunJudge(options, out, out), 1);
+  EXPECT_NE(out.str().find("(101.325 MHz)\n19 places in the cycle"), std::string::npos);
+}
+
+TEST_F(ComparisonTest, ReadingAFileLeavesItAndItsFolderAsTheyWere) {
+  const std::string other = Place("other");
+  std::filesystem::create_directory(other);
+  const std::string page_01 = std::string(kExamples) + ";service.txt";
+  Change(page_01, other + ";missing.txt");
+  Change("FileName0=English.ini", "FileName0=Missing.ini");
+  WriteFile(other + "/station.rds", file_);
+  const auto snapshot = [&] {
+    std::map<std::string, std::string> files;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(folder)) {
+      if (entry.is_regular_file()) files[entry.path()] = ReadFile(entry.path());
+    }
+    return files;
+  };
+  const auto before = snapshot();
+  const ConfigData* const record = configData;
+  port.operations.clear();
+  Prepared prepared;
+  EXPECT_EQ(ReadPrepared(other + "/station.rds", prepared), "");
+  EXPECT_EQ(prepared.pages.at(1).bytes, "");
+  EXPECT_EQ(snapshot(), before);
+  EXPECT_EQ(port.operations, Names());
+  EXPECT_EQ(configData, record);
+  EXPECT_TRUE(LinkOpen) << "as it was";
+}
+
+TEST(RadioOptions, RefuseBadUseInASentence) {
+  const struct {
+    std::vector<const char*> words;
+    std::string wrong;
+  } cases[] = {
+      {{"--report", "--compare", "a.rds", "--wait", "2.5", "-"}, ""},
+      {{"--judge", "a.rds"}, ""},
+      {{}, ""},
+      {{"--compare"}, "--compare wants a station file"},
+      {{"--report", "--wait", "x"}, "--wait wants a number of seconds, not \"x\""},
+      {{"--report", "--wait", "-1"}, "--wait wants a number of seconds, not \"-1\""},
+      {{"--wait", "5"}, "--wait wants --report"},
+      {{"a", "b"}, "there is one source, not \"a\" and \"b\""},
+      {{"--quiet"}, "unknown option --quiet"},
+      {{"--judge", "a.rds", "--report"}, "--judge stands alone, as it listens to nothing"},
+  };
+  for (const auto& c : cases) {
+    Options options;
+    EXPECT_EQ(ParseOptions(c.words, options), c.wrong);
+  }
+}
+
+}  // namespace
+}  // namespace corvalis::radio
