@@ -5,20 +5,23 @@ set(made ${CMAKE_CURRENT_BINARY_DIR}/packaging)
 configure_file(packaging/corvalis.1.in ${made}/corvalis.1 @ONLY)
 configure_file(packaging/corvalis-coder.1.in ${made}/corvalis-coder.1 @ONLY)
 configure_file(packaging/corvalis-send.1.in ${made}/corvalis-send.1 @ONLY)
+configure_file(packaging/corvalis-radio.1.in ${made}/corvalis-radio.1 @ONLY)
 configure_file(packaging/org.example.corvalis.metainfo.xml.in
   ${made}/org.example.corvalis.metainfo.xml @ONLY)
 configure_file(packaging/changelog.in ${made}/changelog @ONLY)
 # Compressed without a name and a time, so that two builds are alike.
-foreach(page corvalis.1 corvalis-coder.1 corvalis-send.1 changelog)
+foreach(page corvalis.1 corvalis-coder.1 corvalis-send.1 corvalis-radio.1 changelog)
   execute_process(COMMAND gzip -9nc ${made}/${page} OUTPUT_FILE ${made}/${page}.gz)
 endforeach()
 
-install(TARGETS corvalis corvalis-coder corvalis-send RUNTIME)
+install(TARGETS corvalis corvalis-coder corvalis-send corvalis-radio RUNTIME)
 install(FILES ${made}/corvalis.1.gz ${made}/corvalis-coder.1.gz ${made}/corvalis-send.1.gz
+  ${made}/corvalis-radio.1.gz
   DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 # The service that sends, which nobody has enabled.
 install(FILES packaging/corvalis-send.service DESTINATION lib/systemd/system)
-install(FILES packaging/corvalis.desktop DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES packaging/corvalis.desktop packaging/corvalis-radio.desktop
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${made}/org.example.corvalis.metainfo.xml
   DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 set(icons ${CMAKE_INSTALL_DATADIR}/icons/hicolor)
@@ -50,7 +53,8 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION
 "A broadcast engineer prepares here everything that an RDS encoder at an FM
 transmitter puts on the air, keeps it in one file, and sends it to the encoder
 or reads it back over a serial line: a local two-way line, a dialled modem, or
-a one-way satellite path. A simulated encoder comes with it.")
+a one-way satellite path. A simulated encoder comes with it, and a radio that
+shows what listeners receive and holds it against the file.")
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION hamradio)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)

@@ -18,10 +18,10 @@ dpkg-deb -x "$package" "$folder/root" || exit 1
 share=$folder/root/usr/share
 
 "$folder/root/usr/bin/corvalis-coder" --help | grep -q '^usage' || fail "the Coder does not start"
-for name in corvalis corvalis-coder corvalis-send; do
+for name in corvalis corvalis-coder corvalis-send corvalis-radio; do
   zcat "$share/man/man1/$name.1.gz" | grep -q '^\.SH SYNOPSIS' || fail "no page for $name"
 done
-for name in corvalis-coder corvalis-send; do
+for name in corvalis-coder corvalis-send corvalis-radio; do
   "$folder/root/usr/bin/$name" --help | grep -oE '^  --[a-z-]+' | while read -r option; do
     zcat "$share/man/man1/$name.1.gz" | tr -d '\\' | grep -q -e "$option" ||
       fail "the page of $name lacks $option"
@@ -56,7 +56,7 @@ if command -v lintian >/dev/null; then
   lintian --allow-root --fail-on error,warning "$package" || exit 1
 fi
 if command -v desktop-file-validate >/dev/null; then
-  desktop-file-validate "$share/applications/corvalis.desktop" || exit 1
+  desktop-file-validate "$share/applications/"*.desktop || exit 1
 fi
 if command -v appstreamcli >/dev/null; then
   appstreamcli validate --no-net "$share/metainfo/"*.xml || exit 1

@@ -242,7 +242,8 @@ void TakeChannels(Prepared& prepared) {
   for (std::int16_t i = 0; i < pages.PagesCount(); ++i) {
     const std::string text = WithoutBlanksAtEnd(pages.Page(i));
     std::error_code error;
-    const bool is_there = std::filesystem::is_regular_file(pages.FullName(i), error);
+    const std::filesystem::path own = pages.FullName(i);
+    const bool is_there = own.is_absolute() && std::filesystem::is_regular_file(own, error);
     if ((text.empty() && is_there) || text == IhData::NewPage()) continue;
     prepared.pages.push_back({i, text, pages.RotationTime(i)});
   }
