@@ -75,7 +75,7 @@ void HoldCoderId(TextBox& box, void (ConfigData::*store)(const std::string& id))
 
 std::string LoadInWords(ConfigurationRun run) {
   const ConfigurationLoad load = LoadOfConfiguration(run);
-  if (load.items == 0) return "nothing";
+  if (load.items == 0 || load.passes <= 0) return "nothing";
   return std::to_string(load.items) + (load.items == 1 ? " item" : " items") +
          (load.passes > 1 ? " in " + std::to_string(load.passes) + " passes" : "") + ", " +
          AboutInWords(load.seconds);

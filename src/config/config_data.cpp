@@ -216,6 +216,10 @@ const std::string& ConfigData::LanguageName(int index) const {
 // The argument has no name: which pages exist is the Coder's affair, not the operator's.
 void ConfigData::SetPsnPageEnable(bool /*enable*/) { psn_pages_enable_ = PsnPagesEnable(); }
 
+std::string ConfigData::DefaultFileName() {
+  return Machine().program_folder + "/" + Machine().program_name + ".rds";
+}
+
 void ConfigData::GetIniFile() {
   const Platform& machine = Machine();
   drive_ = PlaceOf(machine.program_folder);

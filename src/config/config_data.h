@@ -165,6 +165,8 @@ class ConfigData {
   void SetFile(const std::string& file) { file_ = file; }
   /// Folder and name, as the profile store takes them.
   [[nodiscard]] std::string FullFileName() const { return path_ + "/" + file_; }
+  /// That of the default file, in the program's folder.
+  [[nodiscard]] static std::string DefaultFileName();
 
   /// Loads the record from the file. A missing or empty key takes its default; a value that can't
   /// be converted leaves the field as it was. Shows nothing, never stops.

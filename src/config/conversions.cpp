@@ -43,6 +43,11 @@ std::string LongToHex(std::int32_t value, std::int16_t width) {
   return text;
 }
 
+std::string HexDigits(std::int32_t value, int least, int most) {
+  return LongToHex(value, static_cast<std::int16_t>(least))
+      .substr(0, static_cast<std::size_t>(most));
+}
+
 std::string BitsToHex(std::string_view bits, std::int16_t width) {
   std::string padded((4 - bits.size() % 4) % 4, '0');
   padded += bits;
@@ -188,7 +193,7 @@ std::optional<double> ParseNumber(std::string_view text) {
 double LeadingNumber(std::string_view text) {
   std::string number;
   bool point = false;
-  for (const char c : text) {
+  for (const char c : WithoutBlanks(text)) {
     const bool digit = c >= '0' && c <= '9';
     const bool sign = number.empty() && (c == '-' || c == '+');
     if (!digit && !sign && (c != '.' || point)) break;
@@ -233,6 +238,11 @@ std::string Padded(std::string_view text, std::size_t width) {
   std::string padded(text.substr(0, width));
   padded.resize(width, ' ');
   return padded;
+}
+
+std::string_view WithoutBlanks(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
+  return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
 std::string UpperCase(std::string_view text) {

@@ -22,6 +22,10 @@ namespace corvalis {
 /// value must not be negative. A value of 0 with width 0 gives an empty text.
 [[nodiscard]] std::string LongToHex(std::int32_t value, std::int16_t width);
 
+/// The same for a place of `most` digits: of a value that has more, and of a negative one in its
+/// 32 bits, the first of them.
+[[nodiscard]] std::string HexDigits(std::int32_t value, int least, int most);
+
 /// One upper-case digit for each group of four of the "0" and "1" in `bits`, aligned to the right
 /// and filled with "0" to `width` digits. A group of other characters gives no digit, but counts.
 [[nodiscard]] std::string BitsToHex(std::string_view bits, std::int16_t width);
@@ -79,8 +83,8 @@ extern template std::optional<std::int32_t> ParseDecimal(std::string_view text);
 /// for anything else.
 [[nodiscard]] std::optional<double> ParseNumber(std::string_view text);
 
-/// The number that a text begins with, as far as its digits, sign and one point go; 0 if there is
-/// none. What follows is not looked at.
+/// The number that a text begins with, behind any blanks, as far as its digits, sign and one point
+/// go; 0 if there is none. What follows is not looked at.
 [[nodiscard]] double LeadingNumber(std::string_view text);
 
 /// As `ParseNumber`, for a 32-bit float, which a frequency is: computed in 64 bits and narrowed
@@ -98,6 +102,9 @@ extern template std::optional<std::int32_t> ParseDecimal(std::string_view text);
 
 /// `text` in exactly `width` bytes: cut, or filled with blanks, on the right.
 [[nodiscard]] std::string Padded(std::string_view text, std::size_t width);
+
+/// `text` without the blanks around it.
+[[nodiscard]] std::string_view WithoutBlanks(std::string_view text);
 
 /// ASCII letters in upper case.
 [[nodiscard]] std::string UpperCase(std::string_view text);

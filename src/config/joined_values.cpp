@@ -36,7 +36,7 @@ JoinedReader& JoinedReader::Text(std::string& target) {
 }
 
 JoinedReader& JoinedReader::Real(float& target) {
-  target = ParseFloat(Next()).value_or(target);
+  target = ParseFloat(WithoutBlanks(Next())).value_or(target);
   return *this;
 }
 

@@ -37,7 +37,7 @@ class JoinedWriter {
 };
 
 /// Reads the fields of a value one after the other. A field that can't be converted leaves its
-/// target as it was; one that is missing is empty.
+/// target as it was; one that is missing is empty. Blanks around a number don't count.
 class JoinedReader {
  public:
   /// `text` is not copied.
@@ -51,9 +51,17 @@ class JoinedReader {
   /// A decimal number within the limits of `Int`.
   template <std::integral Int>
   JoinedReader& Number(Int& target) {
-    if (const auto value = ParseDecimal<std::int32_t>(Next())) {
+    if (const auto value = ParseDecimal<std::int32_t>(WithoutBlanks(Next()))) {
       target = Narrow<Int>(*value).value_or(target);
     }
+    return *this;
+  }
+  /// A hexadecimal number within the limits of `Int`; letters are -1. An empty field leaves its
+  /// target.
+  template <std::integral Int>
+  JoinedReader& Hex(Int& target) {
+    const std::string_view field = WithoutBlanks(Next());
+    if (!field.empty()) target = Narrow<Int>(HexToLong(field)).value_or(target);
     return *this;
   }
   JoinedReader& Real(float& target);

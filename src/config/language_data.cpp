@@ -24,19 +24,6 @@ constexpr Source kSources[] = {
 #undef CORVALIS_TEXT
 };
 
-// Where the texts are, as the record says; empty if nowhere. The record may come from anywhere, so
-// it names a file of its own folder and no other: this program writes into it.
-std::string FileName() {
-  const std::string& name = configData->LanguageFileName();
-  if (name.find('/') != std::string::npos) return {};
-  const std::string path = configData->Path() + "/" + name;
-  // A record of other systems has the name in their code page.
-  std::error_code error;
-  const std::string in_utf8 = configData->Path() + "/" + Utf8From1252(name);
-  return !std::filesystem::exists(path, error) && std::filesystem::exists(in_utf8, error) ? in_utf8
-                                                                                          : path;
-}
-
 std::string LoadText(const Source& source, const std::string& file) {
   if (file.empty()) return source.preset;
   ProfileStore& profiles = *Machine().profiles;
@@ -53,11 +40,24 @@ std::string LoadText(const Source& source, const std::string& file) {
 
 LanguageData* languageData = nullptr;
 
+// The record may come from anywhere, so it names a file of its own folder and no other: this
+// program writes into it.
+std::string LanguageFile() {
+  const std::string& name = configData->LanguageFileName();
+  if (name.find('/') != std::string::npos) return {};
+  const std::string path = configData->Path() + "/" + name;
+  // A record of other systems has the name in their code page.
+  std::error_code error;
+  const std::string in_utf8 = configData->Path() + "/" + Utf8From1252(name);
+  return !std::filesystem::exists(path, error) && std::filesystem::exists(in_utf8, error) ? in_utf8
+                                                                                          : path;
+}
+
 LanguageData::LanguageData() { InitLanguage(); }
 
 void LanguageData::InitLanguage() {
   const ProfileStore::Series series(*Machine().profiles);
-  const std::string file = FileName();
+  const std::string file = LanguageFile();
   for (std::size_t i = 0; i < kTextCount; ++i) texts_[i] = LoadText(kSources[i], file);
 }
 

@@ -38,6 +38,10 @@ class LanguageData {
   std::array<std::string, kTextCount> texts_;
 };
 
+/// The file that the texts are loaded from, as the station record names it at this moment; empty if
+/// that names none of its own folder.
+[[nodiscard]] std::string LanguageFile();
+
 /// The texts; null before `MainForm` has loaded its captions.
 extern LanguageData* languageData;
 

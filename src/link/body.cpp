@@ -30,11 +30,7 @@ std::span<const std::uint8_t> BytesOf(const std::string& text) {
 BodyWriter& BodyWriter::Flag(bool value) { return Byte(value ? '1' : '0'); }
 
 BodyWriter& BodyWriter::Hex(std::int32_t value, int digits) {
-  const std::string text = LongToHex(value, static_cast<std::int16_t>(digits));
-  for (int i = 0; i < digits; ++i) {
-    Byte(static_cast<std::uint8_t>(text[static_cast<std::size_t>(i)]));
-  }
-  return *this;
+  return Text(HexDigits(value, digits, digits), digits);
 }
 
 BodyWriter& BodyWriter::Dec1(std::int32_t value) {

@@ -20,7 +20,7 @@ class BodyWriter {
 
   /// "1" for true, "0" for false.
   BodyWriter& Flag(bool value);
-  /// The first `digits` upper-case hexadecimal digits of `value` written in at least that many.
+  /// So many upper-case hexadecimal digits: see `HexDigits`.
   BodyWriter& Hex(std::int32_t value, int digits);
   /// One decimal digit, 0x30 + value.
   BodyWriter& Dec1(std::int32_t value);

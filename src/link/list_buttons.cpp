@@ -108,9 +108,15 @@ void ListButtons::Prepare(bool commit) {
   Machine().pump->RunPending();
 }
 
-void ListButtons::Refresh() {
-  for (ListItems& table : tables_) {
+void ListButtons::Repaint() const {
+  for (const ListItems& table : tables_) {
     if (table.grid != nullptr) table.grid->Repaint();
+  }
+}
+
+void ListButtons::Refresh() const {
+  Repaint();
+  for (const ListItems& table : tables_) {
     if (table.refresh) table.refresh();
   }
 }
@@ -123,7 +129,7 @@ void ListButtons::SendOne() {
       const auto send = [&](int i) { table.send(items[static_cast<std::size_t>(i)]); };
       if (!RunItems(static_cast<int>(items.size()), send)) break;
     }
-    Refresh();
+    Repaint();
   });
 }
 
@@ -133,7 +139,7 @@ void ListButtons::SendAll() {
     for (ListItems& table : tables_) {
       if (!RunItems(table.count(), table.send, rules_.pause_send)) break;
     }
-    Refresh();
+    Repaint();
   });
 }
 
@@ -144,7 +150,7 @@ void ListButtons::Burst() {
     for (ListItems& table : tables_) {
       const auto pass = [&](int /*number*/) {
         RunItems(table.count(), table.send, rules_.pause_burst);
-        Refresh();
+        Repaint();
       };
       if (!RunItems(passes, pass)) break;
     }

@@ -43,7 +43,7 @@ struct ListItems {
   std::function<void(int item)> show = {};
   /// Before what is sent is sent, once for a burst.
   std::function<void()> prepare = {};
-  /// After a run, whatever it left: the screen shows the list.
+  /// After a read, whatever it left: the screen shows the list. A send shows nothing.
   std::function<void()> refresh = {};
   /// The grid that the items are the rows of; null for none.
   Grid* grid = nullptr;
@@ -80,7 +80,8 @@ class ListButtons {
 
   void Send(const std::function<void()>& work) const;
   void Prepare(bool commit);
-  void Refresh();
+  void Repaint() const;
+  void Refresh() const;
   bool Read(ListItems& table, int item);
   void EndRead(const ListItems& table) const;
   static std::vector<int> Selected(const ListItems& table);

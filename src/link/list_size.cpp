@@ -19,11 +19,7 @@ bool CoderCanBeAsked() {
 void ListSize::Load(bool offered) {
   std::string text = ReadIniKey(source_.section, source_.key);
   if (source_.in_fields) text = GetToken(text, 0, kFieldSeparator);
-  if (text.empty()) {
-    file_ = source_.fallback;
-  } else {
-    file_ = ParseDecimal<std::int16_t>(text).value_or(file_);
-  }
+  file_ = text.empty() ? source_.fallback : ParseDecimal<std::int16_t>(text).value_or(file_);
   const bool asked = offered && CoderCanBeAsked();
   if (!asked || !source_.keeps_answer) coder_ = kNotAsked;
   if (asked) source_.read_count(coder_);

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <limits>
 #include <string_view>
 
 namespace corvalis {
@@ -10,8 +9,10 @@ namespace corvalis {
 /// two-way line.
 [[nodiscard]] bool CoderCanBeAsked();
 
-/// An item's number is one byte of a frame: beyond, it would be another item's.
-inline constexpr std::int16_t kItemNumbers = 256;
+/// The numbers that an item can have in a frame: beyond, it would be another item's.
+inline constexpr std::int16_t kItemNumbers = 256;            ///< one byte
+inline constexpr std::int16_t kPageNumbers = 16;             ///< one digit, of a page of names
+inline constexpr std::int16_t kProgrammeItemNumbers = 4096;  ///< a byte and a digit
 
 /// The size of a list: the Coder's count if it answered, else the file's, else a fixed one.
 class ListSize {
@@ -22,9 +23,9 @@ class ListSize {
     std::string_view key;
     std::int16_t fallback;
     void (*read_count)(std::int16_t& count);  ///< the Coder's own count command
+    std::int16_t limit;                       ///< a higher count is cut
     int digits = 1;                           ///< of the key's value, at least
     bool in_fields = false;                   ///< the key's first field is the count
-    std::int16_t limit = std::numeric_limits<std::int16_t>::max();  ///< a higher count is cut
     /// A Coder that doesn't answer still has the count that it answered last.
     bool keeps_answer = false;
   };

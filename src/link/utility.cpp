@@ -27,11 +27,14 @@ void RefuseKey(int& key) {
   key = kKeyCancelled;
 }
 
-void WarnNotAllowed(const Window& screen) {
+void RefuseBox(TextBox& box, const std::string& shown) {
+  box.SetFocus();
   Machine().dialogs->Show({.text = "WARNING! Not Allowed.",
-                           .title = screen.Caption(),
+                           .title = box.ParentWindow().Caption(),
                            .style = BoxStyle::kWarning,
                            .help_file = {}});
+  box.SetText(shown);
+  box.SelectAll();
 }
 
 void CommitGridRow(Grid& grid) { grid.Commit(); }

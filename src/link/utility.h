@@ -1,10 +1,11 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 #include "config/conversions.h"
 #include "screen/grid.h"
-#include "screen/window.h"
+#include "screen/text_box.h"
 
 namespace corvalis {
 
@@ -18,8 +19,9 @@ int FrequencyKeyFilter(std::string_view text, int& key, int max_length, int sel_
 /// Refuses a struck key: a beep, and `key` becomes 0.
 void RefuseKey(int& key);
 
-/// Tells the operator that what stands in a box of `screen` is none of its values.
-void WarnNotAllowed(const Window& screen);
+/// Refuses what stands in a box that is being left: it has the focus again, the operator is told,
+/// and then `shown` stands there with all of it selected.
+void RefuseBox(TextBox& box, const std::string& shown);
 
 /// Makes a grid store the row being edited, before its contents are sent. What a rule refuses is
 /// not stored.

@@ -27,8 +27,9 @@ constexpr std::int32_t kUnknownPi = 0x5158;
 constexpr std::int32_t kSixteenBits = 0xFFFF;
 constexpr int kPsn = kPsnCharacters;
 
+// What is no frequency of the band, as a file may bring it, is none.
 std::uint8_t FmCode(float value) {
-  return value == air::kNoFreq ? air::kAfFiller : air::AfFreqCode(value);
+  return air::IsFm(value) ? air::AfFreqCode(value) : air::kAfFiller;
 }
 
 std::uint8_t AmCode(float value) {
@@ -105,22 +106,17 @@ void EonData::GetOneRds(std::int16_t list) {
   target.enable = body.Flag();
 }
 
-// A place takes the low digits of what a file has brought too large for it.
 void EonData::SetOneRds(std::int16_t list) const {
   const EonList& source = At(list);
   std::string payload(kEonPayload, ' ');
   BodyWriter body(BytesOf(payload));
-  body.Text(source.psn, kPsn)
-      .Flag(source.tp)
-      .Flag(source.ta)
-      .Hex(source.pty, 2)
-      .Hex(source.pin & kSixteenBits, 4);
+  body.Text(source.psn, kPsn).Flag(source.tp).Flag(source.ta).Hex(source.pty, 2).Hex(source.pin, 4);
   for (const float freq : source.af_a) body.Hex(FmCode(freq), 2);
   for (std::size_t i = 0; i < kEonAfB; ++i) {
     const float freq = source.af_b.at(i);
     body.Hex(i == kEonAm ? AmCode(freq) : FmCode(freq), 2);
   }
-  body.Hex(source.pi & kSixteenBits, 4).Flag(source.enable);
+  body.Hex(source.pi, 4).Flag(source.enable);
   SendEon(static_cast<std::uint8_t>(list), payload);
 }
 
@@ -167,8 +163,8 @@ void EonData::SetIni() const {
 void EonData::Store(const EonList& list, int number) {
   WriteIniSwitch(kSection, Key("Enable", number), list.enable);
   WriteIniKey(kSection, Key("Psn", number), JoinedWriter().Text(list.psn).Separated());
-  WriteIniKey(kSection, Key("Pi", number), LongToHex(list.pi & kSixteenBits, 1));
-  WriteIniKey(kSection, Key("Pin", number), LongToHex(list.pin & kSixteenBits, 1));
+  WriteIniKey(kSection, Key("Pi", number), HexDigits(list.pi, 1, 4));
+  WriteIniKey(kSection, Key("Pin", number), HexDigits(list.pin, 1, 4));
   WriteIniKey(kSection, Key("Pty", number), Digits(list.pty, 2));
   WriteIniSwitch(kSection, Key("Tp", number), list.tp);
   WriteIniSwitch(kSection, Key("Ta", number), list.ta);

@@ -133,8 +133,8 @@ void EonTab::RefreshEonTab() {
   EonListText.SetText(std::to_string(list));
   EonEnableCheck.SetChecked(eonData->Enable(list));
   EonPsnText.SetText(eonData->Psn(list));
-  EonPiText.SetText(LongToHex(eonData->Pi(list) & 0xFFFF, 1));
-  EonPinText.SetText(LongToHex(eonData->Pin(list) & 0xFFFF, 1));
+  EonPiText.SetText(HexDigits(eonData->Pi(list), 1, kHexDigits));
+  EonPinText.SetText(HexDigits(eonData->Pin(list), 1, kHexDigits));
   EonPtyCombo.SetIndexOrNone(eonData->Pty(list));
   EonTpCheck.SetChecked(eonData->Tp(list));
   EonTaCheck.SetChecked(eonData->Ta(list));

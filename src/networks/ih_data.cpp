@@ -1,9 +1,13 @@
 #include "networks/ih_data.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "config/config_data.h"
 #include "config/conversions.h"
 #include "config/ini_management.h"
 #include "config/joined_values.h"
+#include "config/language_data.h"
 #include "platform/plain_file.h"
 #include "platform/platform.h"
 
@@ -25,9 +29,9 @@ IhData::IhData()
              .key = "Page Count",
              .fallback = kIhPages,
              .read_count = ReadIhNum,
+             .limit = kIhPages,
              .digits = 2,
-             .in_fields = true,
-             .limit = kIhPages}) {
+             .in_fields = true}) {
   default_.page = Padded(NewPage(), kIhCharacters);
   default_.drive = configData->Drive();
   default_.path = configData->Path();
@@ -48,6 +52,14 @@ std::string IhData::FullName(std::int16_t i) const {
   return folder + (folder.empty() || folder.ends_with('/') ? "" : "/") + FileName(i);
 }
 
+bool IhData::NamesStationsFile(std::int16_t i) const {
+  const std::string own[] = {configData->FullFileName(), ConfigData::DefaultFileName(),
+                             LanguageFile()};
+  return std::any_of(std::begin(own), std::end(own), [name = FullName(i)](const std::string& file) {
+    return !file.empty() && IsSameFile(name, file);
+  });
+}
+
 bool IhData::ReadFile(std::int16_t i) {
   const bool makes = !Machine().profiles->Catching();
   const auto bytes =
@@ -57,7 +69,7 @@ bool IhData::ReadFile(std::int16_t i) {
 }
 
 bool IhData::WriteFile(std::int16_t i) const {
-  return WritePlainFile(FullName(i), Page(i) + kLineEnd);
+  return !NamesStationsFile(i) && WritePlainFile(FullName(i), Page(i) + kLineEnd);
 }
 
 std::string IhData::PageInFile(std::int16_t i) const {
@@ -76,8 +88,8 @@ void IhData::GetIni() {
   for (std::int16_t i = 0; i < PagesCount(); ++i) {
     IhPage& target = At(i);
     const std::string text = ReadIniKey(kSection, Key(i));
+    target = default_;
     if (text.empty()) {
-      target = default_;
       target.file_name = Key(i) + ".txt";
       continue;
     }

@@ -41,8 +41,11 @@ class IhData {
   /// (`ProfileStore::Catch`): its first 2048 bytes. A file that can't be read, or that is no plain
   /// file, leaves the page; false then.
   bool ReadFile(std::int16_t i);
+  /// True if the page's file is the station's own: what the configuration is loaded from or the
+  /// texts of the screens, or the default file.
+  [[nodiscard]] bool NamesStationsFile(std::int16_t i) const;
   /// Writes all 2048 characters and a line end in the place of its file, as one whole operation;
-  /// false if that can't be done.
+  /// false if that can't be done, or if it is the station's own.
   [[nodiscard]] bool WriteFile(std::int16_t i) const;
 
   /// What OPEN would make of the page's file: blanks where it can't be read. Makes no file.

@@ -4,12 +4,18 @@
 #include <string>
 #include <vector>
 
+#include "config/config_data.h"
 #include "config/conversions.h"
+#include "config/joined_values.h"
 #include "config/language_data.h"
+#include "link/utility.h"
+#include "platform/platform.h"
 
 namespace corvalis {
 
 namespace {
+
+constexpr char kSeparator = kFieldSeparator.front();
 
 std::int16_t Index(int value) { return static_cast<std::int16_t>(value); }
 
@@ -61,14 +67,7 @@ IhTab::IhTab(Window& window)
                      },
                  .read = [](int page) { ihData->GetOneRds(Index(page)); },
                  .send = [](int page) { ihData->SetOneRds(Index(page)); },
-                 .refresh =
-                     [this] {
-                       // What stands there for the page stays: a send shows nothing new, and what
-                       // is typed beyond the page's end stays in sight.
-                       if (Padded(RichTextBox1.Text(), kIhCharacters) != ihData->Page(page_)) {
-                         ShowPage();
-                       }
-                     }}}) {
+                 .refresh = [this] { ShowPage(); }}}) {
   // Typing in the list of pages is dropped; so the list has no key rule.
   Combo1.LostFocus = [this] { LeavePages(); };
   RichTextBox1.Change = [this] {
@@ -92,6 +91,17 @@ void IhTab::SetFileRules() {
     if (!showing_) TakeFolder();
   };
   File1.DoubleClick = [this] { TakeFile(); };
+  // The station's file has the name between two of these.
+  Text105.KeyPress = [](int& key) {
+    if (key == kSeparator) RefuseKey(key);
+  };
+  Text105.Change = [this] {
+    std::string name = Text105.Text();
+    if (std::erase(name, kSeparator) == 0) return;
+    Machine().dialogs->Beep();
+    Text105.SetText(name);
+    Text105.Select(static_cast<int>(name.size()), 0);
+  };
   Text105.LostFocus = [this] { LeaveName(); };
   Command15.Click = [this] { ReadFile(); };
   Command16.Click = [this] { WriteFile(); };
@@ -109,6 +119,7 @@ void IhTab::TakeFolder() {
 }
 
 void IhTab::TakeFile() {
+  if (File1.FileName().find(kSeparator) != std::string::npos) return Machine().dialogs->Beep();
   Text105.SetText(File1.FileName());
   ihData->SetDrive(page_, Drive1.Drive());
   ihData->SetPath(page_, File1.Path());
@@ -137,7 +148,10 @@ void IhTab::WriteFile() {
   const bool written = ihData->WriteFile(page_);
   ShowFiles();
   ShowPath();
-  if (written) PathLabel.SetCaption(PathLabel.Caption() + "  (written)");
+  const char* const how = written                            ? "  (written)"
+                          : ihData->NamesStationsFile(page_) ? "  (not written: the station's own)"
+                                                             : "  (not written)";
+  PathLabel.SetCaption(PathLabel.Caption() + how);
   LookIntoFile();
 }
 
@@ -152,14 +166,13 @@ void IhTab::GoTo(std::int16_t page) {
   LookIntoFile();
 }
 
-// Shows where the page's file is, and leaves the page as it is. If there is no such folder the
-// lists stay where they are; the path below them tells.
+// Shows where the page's file is, and leaves the page as it is. If there is no such folder, as for
+// a path of another system, the lists show that of the station's file; the path below them tells.
 void IhTab::ShowFolder() {
   showing_ = true;
-  const std::string& folder = ihData->Path(page_);
   Drive1.Refresh();
-  Drive1.SetDrive(folder);
-  if (!Dir1.SetPath(folder) && Dir1.Path().empty()) Dir1.SetPath(Drive1.Drive());
+  if (!Dir1.SetPath(ihData->Path(page_))) Dir1.SetPath(configData->Path());
+  Drive1.SetDrive(Dir1.Path());
   showing_ = false;
 }
 

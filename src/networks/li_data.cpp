@@ -16,6 +16,7 @@ namespace {
 constexpr const char* kSection = "LI";
 constexpr std::int16_t kNewLsn = 0x501;
 constexpr std::int16_t kMaxLsn = 0xFFF;
+constexpr int kLsnDigits = 3;
 
 }  // namespace
 
@@ -27,25 +28,21 @@ void LiData::GetOneRds() {
   if (LinkError == kLinkOk) *this = read;
 }
 
-void LiData::SetOneRds() const { SendLi(la_, egi_, il_, lsn_ & kMaxLsn); }
+void LiData::SetOneRds() const { SendLi(la_, egi_, il_, lsn_); }
 
 void LiData::GetIni() {
   egi_ = ReadIniSwitch(kSection, "Egi");
   la_ = ReadIniSwitch(kSection, "La");
   il_ = ReadIniSwitch(kSection, "Il");
-  const std::string lsn = ReadIniKey(kSection, "Lsn");
-  if (lsn.empty()) {
-    lsn_ = kNewLsn;
-  } else if (const std::int32_t value = HexToLong(lsn); value >= 0 && value <= kMaxLsn) {
-    lsn_ = static_cast<std::int16_t>(value);
-  }
+  const std::int32_t lsn = HexToLong(ReadIniKey(kSection, "Lsn"));
+  lsn_ = lsn >= 0 && lsn <= kMaxLsn ? static_cast<std::int16_t>(lsn) : kNewLsn;
 }
 
 void LiData::SetIni() const {
   WriteIniSwitch(kSection, "Egi", egi_);
   WriteIniSwitch(kSection, "La", la_);
   WriteIniSwitch(kSection, "Il", il_);
-  WriteIniKey(kSection, "Lsn", LongToHex(lsn_ & kMaxLsn, 1));
+  WriteIniKey(kSection, "Lsn", HexDigits(lsn_, 1, kLsnDigits));
 }
 
 }  // namespace corvalis

@@ -24,7 +24,7 @@ class LiData {
   void GetOneRds();
   void SetOneRds() const;
 
-  /// A number in the file that can't be converted leaves the field.
+  /// A number in the file that can't be converted, or has no room, is that of a new file.
   void GetIni();
   void SetIni() const;
 

@@ -12,7 +12,6 @@ namespace corvalis {
 namespace {
 
 constexpr int kLsnDigits = 3;
-constexpr std::int32_t kLsnBits = 0xFFF;
 
 }  // namespace
 
@@ -37,7 +36,7 @@ void LiTab::RefreshLiTab() {
   LiLaCheck.SetChecked(liData->La());
   LiEgiCheck.SetChecked(liData->Egi());
   LiILCheck.SetChecked(liData->Il());
-  LiLsnText.SetText(LongToHex(liData->Lsn() & kLsnBits, 1));
+  LiLsnText.SetText(HexDigits(liData->Lsn(), 1, kLsnDigits));
 }
 
 void LiTab::InitCaptions() {

@@ -22,11 +22,6 @@ void Filter(int& key, std::string_view characters) {
   }
 }
 
-void Refuse(TextBox& box) {
-  box.SetFocus();
-  WarnNotAllowed(box.ParentWindow());
-}
-
 }  // namespace
 
 void HoldHex(TextBox& box, int digits, std::function<void(std::int32_t value)> store) {
@@ -40,7 +35,7 @@ void HoldHex(TextBox& box, int digits, std::function<void(std::int32_t value)> s
     }
   };
   box.LostFocus = [&box, length] {
-    if (box.Text().size() != length || HexToLong(box.Text()) < 0) Refuse(box);
+    if (box.Text().size() != length || HexToLong(box.Text()) < 0) RefuseBox(box, box.Text());
   };
 }
 
@@ -48,16 +43,13 @@ void HoldFrequency(TextBox& box, int decimals, FrequencyRule rule,
                    std::function<void(float value)> store) {
   box.KeyPress = [](int& key) { Filter(key, "0123456789.\b"); };
   box.LostFocus = [&box, decimals, rule = std::move(rule), store = std::move(store)] {
-    if (box.Text().empty()) Refuse(box);
-    auto value = static_cast<float>(LeadingNumber(box.Text()));
-    if (const auto taken = value == 0 ? 0.F : rule(value)) {
-      value = *taken;
-      store(value);
-    } else {
-      Refuse(box);
-    }
+    const auto value = static_cast<float>(LeadingNumber(box.Text()));
+    const auto taken = value == 0 ? 0.F : rule(value);
+    if (taken) store(*taken);
     constexpr int kDigits = 3;
-    box.SetText(FixedPoint(value, kDigits, decimals));
+    const std::string shown = FixedPoint(taken.value_or(value), kDigits, decimals);
+    if (!taken || box.Text().empty()) return RefuseBox(box, shown);
+    box.SetText(shown);
   };
 }
 

@@ -63,8 +63,8 @@ void TaEonTab::ShowState(int i) {
 
 void TaEonTab::ShowNames() {
   for (int i = 0; i < Switches(); ++i) {
-    const std::int32_t pi = eonData->Pi(Index(i)) & 0xFFFF;
-    TaEonNameLabel[i].SetCaption(eonData->Psn(Index(i)) + "  PI " + LongToHex(pi, 4));
+    const std::string pi = HexDigits(eonData->Pi(Index(i)), 4, 4);
+    TaEonNameLabel[i].SetCaption(eonData->Psn(Index(i)) + "  PI " + pi);
   }
 }
 

@@ -7,6 +7,7 @@
 namespace corvalis {
 
 inline constexpr int kTdc0Bits = 20;
+inline constexpr int kTdc0AddressDigits = 3;
 
 /// The subchannels of transparent data channel 0, each with its address and a command. Subchannels
 /// count from 0; an index outside them is `std::out_of_range`.
@@ -17,9 +18,11 @@ class Tdc0Data {
 
   [[nodiscard]] static constexpr std::int16_t MaxSubChannelNum() { return kSubChannels; }
 
-  /// Three hexadecimal digits go on the air, in the file and on the screen.
+  /// -1 for letters that are no hexadecimal digits, in the file or from the Coder.
   [[nodiscard]] std::int16_t Address(std::int16_t i) const { return At(i).address; }
   void SetAddress(std::int16_t i, std::int16_t value) { At(i).address = value; }
+  /// The three hexadecimal digits that go on the air, into the file and on the screen.
+  [[nodiscard]] std::string AddressText(std::int16_t i) const;
   /// Always 20 characters, "0" and "1", the first bit on the left; what is set is cut, or filled
   /// with blanks.
   [[nodiscard]] const std::string& Command(std::int16_t i) const { return At(i).command; }
@@ -34,7 +37,7 @@ class Tdc0Data {
   void SendOneRds(std::int16_t i) const;
 
   /// Loads the subchannels from the file. A missing key gives one as it is when new; an address
-  /// that can't be converted leaves the one before.
+  /// that has no room in 16 bits is 0.
   void GetIni();
   void SetIni() const;
 

@@ -19,8 +19,6 @@ namespace {
 enum Column0 { kRow0, kAddress, kCommand0, kOn0 };
 enum Column { kRow, kCommand, kOn };
 
-constexpr int kAddressDigits = 3;
-constexpr std::int32_t kAddressBits = 0xFFF;
 constexpr int kBitsOfDigit = 4;
 constexpr int kFirstCharacter = ' ';
 
@@ -28,10 +26,6 @@ std::int16_t Index(int row) { return static_cast<std::int16_t>(row); }
 
 std::string Name0(int row) { return Digits(row, 2); }
 std::string Name(int row) { return Digits(row + 1, 2); }
-
-std::string AddressText(std::int32_t address) {
-  return LongToHex(address & kAddressBits, kAddressDigits);
-}
 
 std::string Flag(bool on) { return on ? "1" : "0"; }
 
@@ -67,7 +61,7 @@ TdcTab::TdcTab(Window& window)
                {.heading = "Addr",
                 .kind = GridColumn::Kind::kText,
                 .width = 5,
-                .max_length = kAddressDigits,
+                .max_length = kTdc0AddressDigits,
                 .keys = "0123456789ABCDEFabcdef"},
                Bits(kTdc0Bits),
                {.heading = "On", .kind = GridColumn::Kind::kText, .width = 3}}),
@@ -106,7 +100,7 @@ void TdcTab::SetGrid1Rules() {
   DBGrid1.RowCount = [] { return int{Tdc0Data::MaxSubChannelNum()}; };
   DBGrid1.Cell = [](int row, int column) {
     if (column == kRow0) return Name0(row);
-    if (column == kAddress) return AddressText(tdc0Data->Address(Index(row)));
+    if (column == kAddress) return tdc0Data->AddressText(Index(row));
     return column == kCommand0 ? tdc0Data->Command(Index(row)) : Flag(tdc0Data->Active(Index(row)));
   };
   DBGrid1.RowLeft = [this](int row) {

@@ -21,25 +21,18 @@ constexpr const char* kSection = "TMC";
 
 std::string Key(int i) { return "Msg" + Digits(i, 2); }
 
-// The low digits of a number that may be too large for its place.
-std::int32_t Low(std::int32_t value, int digits) { return value & ((1 << (4 * digits)) - 1); }
-
 // A digit of the line, by its distance from "0": what was written as a letter comes back as another
 // number. That is meant.
 std::uint8_t Distance(BodyReader& body) { return static_cast<std::uint8_t>(body.Dec1()); }
 
-// A hexadecimal number leaves what can't hold it.
-template <class Int>
-void ReadHex(JoinedReader& fields, Int& target) {
-  const std::string_view field = fields.Next();
-  const std::int32_t value = field.empty() ? 0 : HexToLong(field);
-  if (value >= 0) target = Narrow<Int>(value).value_or(target);
+// The number of times that a letter of the line stands for, if `repetition` has come from one.
+int RepetitionSent(std::uint8_t repetition) {
+  constexpr int kFromA = 'A' - '0';
+  return repetition >= kFromA && repetition <= 'F' - '0' ? repetition - kFromA + 10 : repetition;
 }
 
-void ReadSixBits(const char* key, std::uint8_t& target) {
-  const std::string text = ReadIniKey(kSection, key);
-  const auto value = text.empty() ? std::int32_t{0} : ParseDecimal<std::int32_t>(text);
-  if (value) target = static_cast<std::uint8_t>(*value & 63);
+int SixBitsOf(const char* key) {
+  return ParseDecimal<std::int32_t>(ReadIniKey(kSection, key)).value_or(0);
 }
 
 }  // namespace
@@ -97,19 +90,19 @@ void TmcData::SetOneRds(std::int16_t i) const {
   const TmcMessage& source = At(i);
   std::string payload(kTmcPayload, ' ');
   BodyWriter(BytesOf(payload))
-      .Hex(Low(source.events, 3), 3)
-      .Hex(Low(source.location, 4), 4)
+      .Hex(source.events, 3)
+      .Hex(source.location, 4)
       .Flag(source.direction)
-      .Hex(Low(source.extent, 1), 1)
+      .Hex(source.extent, 1)
       .Flag(source.diversion)
-      .Hex(Low(source.duration, 1), 1)
-      .Hex(Low(source.repetition, 1), 1);
+      .Hex(source.duration, 1)
+      .Hex(RepetitionSent(source.repetition), 1);
   SendTmc(static_cast<std::uint8_t>(i), payload);
 }
 
 void TmcData::LoadSystem() {
-  ReadSixBits("Ltn", ltn_);
-  ReadSixBits("Sid", sid_);
+  SetLtn(SixBitsOf("Ltn"));
+  SetSid(SixBitsOf("Sid"));
   international_ = ReadIniSwitch(kSection, "International");
   national_ = ReadIniSwitch(kSection, "National");
   regional_ = ReadIniSwitch(kSection, "Regional");
@@ -125,11 +118,13 @@ void TmcData::GetIni() {
   for (std::int16_t i = 0; i < MaxListNum(); ++i) {
     TmcMessage& target = At(i);
     const std::string text = ReadIniKey(kSection, Key(i));
-    JoinedReader fields(text);
-    ReadHex(fields, target.location);
-    fields.Number(target.events);
-    ReadHex(fields, target.duration);
-    fields.ExactSwitch(target.direction).Number(target.extent).ExactSwitch(target.diversion);
+    JoinedReader(text)
+        .Hex(target.location)
+        .Number(target.events)
+        .Hex(target.duration)
+        .ExactSwitch(target.direction)
+        .Number(target.extent)
+        .ExactSwitch(target.diversion);
   }
 }
 

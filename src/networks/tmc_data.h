@@ -32,7 +32,7 @@ class TmcData {
   void SetUrban(bool on) { urban_ = on; }
 
   // A message. The screen keeps to the ranges; the file and the Coder can bring more, and what is
-  // sent takes the low digit or digits then.
+  // sent takes the first digit or digits then.
   [[nodiscard]] std::int16_t Events(std::int16_t i) const { return At(i).events; }
   void SetEvents(std::int16_t i, std::int16_t v) { At(i).events = v; }  ///< 0 to 2047
   [[nodiscard]] std::int32_t Location(std::int16_t i) const { return At(i).location; }
@@ -46,7 +46,8 @@ class TmcData {
   [[nodiscard]] bool Diversion(std::int16_t i) const { return At(i).diversion; }
   void SetDiversion(std::int16_t i, bool v) { At(i).diversion = v; }
   [[nodiscard]] std::uint8_t Repetition(std::int16_t i) const { return At(i).repetition; }
-  void SetRepetition(std::int16_t i, std::uint8_t v) { At(i).repetition = v; }  ///< 0 to 15
+  /// 0 to 15. The Coder's A to F read as 17 to 22, and go out again as the letters they were.
+  void SetRepetition(std::int16_t i, std::uint8_t v) { At(i).repetition = v; }
 
   /// Each reads from the Coder, or sends to it. A failed read changes nothing.
   void GetOneSystemRds();
@@ -54,8 +55,7 @@ class TmcData {
   void GetOneRds(std::int16_t i);
   void SetOneRds(std::int16_t i) const;
 
-  /// Loads the messages from the file, from nothing, as many as the Coder or the file says. A
-  /// number of the system that can't be converted leaves the one before.
+  /// Loads all from the file, from nothing, and as many messages as the Coder or the file says.
   void GetIni();
   void SetIni() const;
 

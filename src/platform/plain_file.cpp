@@ -7,6 +7,8 @@
 #include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <filesystem>
+#include <system_error>
 
 #include "platform/profile_folder.h"
 
@@ -63,6 +65,13 @@ Place PlaceAt(const std::string& path) {
 }
 
 }  // namespace
+
+bool IsSameFile(const std::string& path, const std::string& other) {
+  std::error_code error;
+  return std::filesystem::equivalent(path, other, error) ||
+         std::filesystem::weakly_canonical(path, error) ==
+             std::filesystem::weakly_canonical(other, error);
+}
 
 std::optional<std::string> ReadPlainFile(const std::string& path, std::size_t limit) {
   const Place place = PlaceAt(path);

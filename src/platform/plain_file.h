@@ -13,6 +13,9 @@ namespace corvalis {
 /// Up to `size` bytes of an open file; fewer if it ends before. False on an error.
 [[nodiscard]] bool ReadUpTo(int file, std::size_t size, std::string& bytes);
 
+/// True for two names of one file, also where it is yet to be made.
+[[nodiscard]] bool IsSameFile(const std::string& path, const std::string& other);
+
 /// The first `limit` bytes of a file; a missing one is made, empty. nullopt if it can't be read.
 [[nodiscard]] std::optional<std::string> ReadPlainFile(const std::string& path, std::size_t limit);
 /// The same, but a missing file is left so: nullopt then too.

@@ -54,7 +54,7 @@ void AfAData::ClearAfLists() {
 
 void AfAData::GetIni() {
   const std::string text = ReadIniKey(kSection, kKey);
-  if (text.empty()) freq_ = {};
+  freq_ = {};
   JoinedReader fields(text);
   for (float& value : freq_) fields.Real(value);
 }

@@ -31,8 +31,7 @@ class AfAData {
   /// The lists of a Coder that can't be asked how many it has.
   static constexpr std::int16_t kMostLists = 100;
 
-  /// Loads the list from the file. A missing key empties it; a field that can't be converted leaves
-  /// its entry.
+  /// Loads the list from the file, from nothing; a field that can't be converted is no frequency.
   void GetIni();
   void SetIni() const;
 

@@ -54,7 +54,11 @@ AfATab::AfATab(Window& window)
                                ShowAvailability(AvailableBoxes());
                              },
                          .send = [](int /*list*/) { afAData->SetOneRds(); },
-                         .prepare = [] { afAData->ArrangeAfList(); },
+                         .prepare =
+                             [this] {
+                               afAData->ArrangeAfList();
+                               ShowBoxes();
+                             },
                          .refresh = [this] { ShowBoxes(); }})}) {
   for (int i = 0; i < air::kAfEntries; ++i) {
     TextBox& box = Text39[i];
@@ -65,18 +69,17 @@ AfATab::AfATab(Window& window)
   }
 }
 
-// A box that is left as it was shown is not judged: not every list that can be read or loaded
-// would pass.
 void AfATab::LeaveBox(int box) {
   std::string text = Text39[box].Text();
-  if (text == BoxText(afAData->Freq(Index(box)))) return;
+  if (text == BoxText(afAData->Freq(Index(box)))) return Keep(box);
   std::replace(text.begin(), text.end(), ',', '.');
   Text39[box].SetText(text);
   const auto typed = AfTextValue(text);
-  if (!typed) return Refuse(box);
+  const std::string before = BoxText(afAData->Freq(Index(box)));
+  if (!typed) return Refuse(box, before);
   const float value = air::OnAfRaster(*typed);
   // The pair would have no room at the end of the list.
-  if (air::FreqHasOffset(value) && box >= AvailableBoxes() - 1) return Refuse(box);
+  if (air::FreqHasOffset(value) && box >= AvailableBoxes() - 1) return Refuse(box, before);
   afAData->SetFreq(Index(box), value);
   // A pair among those that go makes room again, but only for the next entry.
   const int available = AvailableBoxes();
@@ -85,12 +88,18 @@ void AfATab::LeaveBox(int box) {
   ShowAvailability(available);
 }
 
-void AfATab::Refuse(int box) {
+// A box that is left as it was shown is not judged: not every list that can be read or loaded
+// would pass. But what it shows is what it is now.
+void AfATab::Keep(int box) {
+  const float value = ParseFloat(Text39[box].Text()).value_or(air::kNoFreq);
+  afAData->SetFreq(Index(box), air::OnAfRaster(value));
+  ShowBoxes();
+  ShowAvailability(AvailableBoxes());
+}
+
+void AfATab::Refuse(int box, const std::string& shown) {
   if (BringToFront) BringToFront();
-  Text39[box].SetFocus();
-  WarnNotAllowed(window_);
-  ShowAfBox(box);
-  Text39[box].SelectAll();
+  RefuseBox(Text39[box], shown);
 }
 
 bool AfATab::MayClose() {
@@ -100,9 +109,7 @@ bool AfATab::MayClose() {
     if (box.HasFocus()) return false;
     // What can't be got at can't be mended, and goes with the next entry that is accepted.
     if (!box.Enabled() || CheckAfText(box.Text())) continue;
-    if (BringToFront) BringToFront();
-    WarnNotAllowed(window_);
-    box.SetFocus();
+    Refuse(i, box.Text());
     return false;
   }
   return true;

@@ -42,7 +42,8 @@ class AfATab {
 
  private:
   void LeaveBox(int box);
-  void Refuse(int box);
+  void Keep(int box);
+  void Refuse(int box, const std::string& shown);
   void ShowAfBox(int box);
   void ShowBoxes();
   void ShowAvailability(int available);

@@ -18,8 +18,11 @@ std::string Key(int list) { return "List" + Digits(list, 2); }
 }  // namespace
 
 AfBData::AfBData()
-    : size_(
-          {.section = kSection, .key = "MaxAfBListNum", .fallback = 100, .read_count = ReadAfNum}) {
+    : size_({.section = kSection,
+             .key = "MaxAfBListNum",
+             .fallback = 100,
+             .read_count = ReadAfNum,
+             .limit = kItemNumbers}) {
   GetIni();
 }
 

@@ -27,6 +27,8 @@ float ValueOf(int box) {
   return box == 0 ? afBData->MainFreq(Current()) : afBData->ListFreq(Current(), Index(box - 1));
 }
 
+std::string BoxText(int box) { return FixedPoint(ValueOf(box), 3, 1); }
+
 // The frequency that an operator's text stands for, or 0; nullopt for anything else.
 std::optional<float> CheckAfBText(std::string_view text) {
   const auto value = ParseFloat(text);
@@ -72,12 +74,7 @@ void AfBTab::SetListRules() {
   };
   Text1.LostFocus = [this] { LeaveNumber(); };
   Combo2.Click = [this] { GoTo(Index(Combo2.Index())); };
-  // Taken as it is typed, so that it is kept also if another list is chosen next.
   Combo2.Change = [this] { TakeDescription(); };
-  Combo2.LostFocus = [this] {
-    TakeDescription();
-    Combo2.SetIndex(Current());
-  };
 }
 
 void AfBTab::GoTo(std::int16_t list) {
@@ -98,10 +95,13 @@ void AfBTab::LeaveNumber() {
   GoTo(list && *list >= 0 && *list < afBData->MaxAfBListNum() ? *list : Current());
 }
 
+// Taken as it is typed, so that it is kept also if another list is chosen next; and its list is the
+// one that a key goes on from.
 void AfBTab::TakeDescription() {
   const std::string text = Combo2.Text();
   afBData->SetDescr(Current(), text);
   Combo2.Replace(Current(), text);
+  Combo2.SetIndex(Current());
 }
 
 void AfBTab::SetBoxRules() {
@@ -137,9 +137,9 @@ void AfBTab::LeaveBox(int box) {
   const auto value = CheckAfBText(text);
   if (!value) {
     if (BringToFront) BringToFront();
-    Text2[box].SetFocus();
-    WarnNotAllowed(window_);
-  } else if (box > 0) {
+    return RefuseBox(Text2[box], BoxText(box));
+  }
+  if (box > 0) {
     afBData->SetListFreq(Current(), Index(box - 1), *value);
   } else {
     afBData->SetMainFreq(Current(), *value);
@@ -150,17 +150,10 @@ void AfBTab::LeaveBox(int box) {
     }
   }
   ShowBox(box);
-  if (!value) Text2[box].SelectAll();
   ShowBand();
 }
 
-bool AfBTab::MayClose() const {
-  // The focus has been asked to go: a box that still has it has refused what it holds.
-  return std::none_of(Text2.begin(), Text2.end(),
-                      [](const TextBox& box) { return box.HasFocus(); });
-}
-
-void AfBTab::ShowBox(int box) { Text2[box].SetText(FixedPoint(ValueOf(box), 3, 1)); }
+void AfBTab::ShowBox(int box) { Text2[box].SetText(BoxText(box)); }
 
 void AfBTab::ShowList() {
   for (int i = 0; i < kBoxes; ++i) ShowBox(i);

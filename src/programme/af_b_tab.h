@@ -24,8 +24,6 @@ class AfBTab {
   void InitCaptions();
   /// The screen opens: shows what the link wants, and the current list.
   void Open();
-  /// False while a box has refused to be left.
-  [[nodiscard]] bool MayClose() const;
 
   /// The screen's: puts this tab before the others.
   std::function<void()> BringToFront;

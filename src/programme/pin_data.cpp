@@ -26,6 +26,7 @@ PinData::PinData()
              .key = "MaxPinNum",
              .fallback = 255,
              .read_count = ReadPinNum,
+             .limit = kProgrammeItemNumbers,
              .digits = 3}) {
   GetIni();
 }
@@ -50,7 +51,7 @@ void PinData::GetIni() {
     Row& loaded = At(row);
     JoinedReader value(text);
     value.Number(loaded.day);
-    loaded.time = ParseTime(value.Next()).value_or(loaded.time);
+    loaded.time = ParseTime(WithoutBlanks(value.Next())).value_or(loaded.time);
     value.Number(loaded.type).Switch(loaded.issued);
   }
 }

@@ -14,8 +14,11 @@ constexpr int kPage = 0;  // the list is kept as this page
 }  // namespace
 
 PsnData::PsnData()
-    : size_(
-          {.section = kPsnSection, .key = "MaxPsnNum", .fallback = 50, .read_count = ReadPsnNum}) {
+    : size_({.section = kPsnSection,
+             .key = "MaxPsnNum",
+             .fallback = 50,
+             .read_count = ReadPsnNum,
+             .limit = kItemNumbers}) {
   GetIni();
 }
 

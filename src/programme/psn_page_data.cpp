@@ -1,7 +1,5 @@
 #include "programme/psn_page_data.h"
 
-#include <algorithm>
-
 #include "config/config_data.h"
 #include "config/conversions.h"
 #include "config/ini_management.h"
@@ -15,7 +13,6 @@ PsnPageData* psnPageData = nullptr;
 namespace {
 
 constexpr const char* kPlanSection = "PSN Plan";
-constexpr std::int16_t kMostPages = 256;
 
 std::string PlanKey(int row) { return "Plan" + Digits(row, 3); }
 
@@ -25,18 +22,19 @@ PsnPageData::PsnPageData()
     : pages_size_({.section = kPsnSection,
                    .key = "MaxPsnPagesNum",
                    .fallback = 10,
-                   .read_count = ReadPsnPageNumber}),
-      rows_size_(
-          {.section = kPsnSection, .key = "MaxPsnNum", .fallback = 50, .read_count = ReadPsnNum}),
+                   .read_count = ReadPsnPageNumber,
+                   .limit = kPageNumbers}),
+      rows_size_({.section = kPsnSection,
+                  .key = "MaxPsnNum",
+                  .fallback = 50,
+                  .read_count = ReadPsnNum,
+                  .limit = kItemNumbers}),
       plans_size_({.section = kPlanSection,
                    .key = "MaxPsnPlanNum",
                    .fallback = 20,
-                   .read_count = ReadPsnPlanNumber}) {
+                   .read_count = ReadPsnPlanNumber,
+                   .limit = kItemNumbers}) {
   GetIni();
-}
-
-std::int16_t PsnPageData::MaxPsnPageNum() const {
-  return std::min(pages_size_.Count(), kMostPages);
 }
 
 void PsnPageData::SetData(std::uint8_t page, std::int16_t row, const std::string& text) {

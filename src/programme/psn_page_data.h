@@ -19,8 +19,8 @@ class PsnPageData {
   PsnPageData();
 
   // The pages.
-  /// At most 256: a page's number is one byte.
-  [[nodiscard]] std::int16_t MaxPsnPageNum() const;
+  /// At most 16: a page's number is one digit.
+  [[nodiscard]] std::int16_t MaxPsnPageNum() const { return pages_size_.Count(); }
   /// Rows of each page.
   [[nodiscard]] std::int16_t MaxPsnNum() const { return rows_size_.Count(); }
   /// The page on the screen.

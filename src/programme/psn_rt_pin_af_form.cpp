@@ -11,7 +11,6 @@ PsnRtPinAfForm::PsnRtPinAfForm(Window& main_menu) : main_menu_(main_menu) {
   af_b.BringToFront = [this] { SSTab1.SetTab(kAfB); };
   window.QueryUnload = [this](bool& cancel) {
     if (SSTab1.TabVisible(kAfA)) cancel = !af_a.MayClose();
-    if (SSTab1.TabVisible(kAfB)) cancel = !af_b.MayClose();
   };
   // What is being typed is kept.
   window.Unloading = [this] {

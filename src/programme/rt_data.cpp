@@ -23,6 +23,7 @@ RtData::RtData()
              .key = "MaxRtNum",
              .fallback = 50,
              .read_count = ReadRtNum,
+             .limit = kItemNumbers,
              .digits = 2}) {
   GetIni();
 }

@@ -15,8 +15,8 @@ TEST(JoinedValues, AWrittenTextStaysOnItsLine) {
 
 TEST(JoinedValues, AFieldThatIsNoNumberLeavesItsTarget) {
   const std::pair<const char*, int> cases[] = {
-      {"12", 12},  {"+7;", 7}, {"0255;x", 255}, {"256", 99}, {"-1", 99},         {"1 ", 99},
-      {"0x1", 99}, {"", 99},   {";5", 99},      {"1.0", 99}, {"99999999999", 99}};
+      {"12", 12},  {"+7;", 7}, {"0255;x", 255}, {"256", 99}, {"-1", 99},         {" 1 ", 1},
+      {"0x1", 99}, {" ", 99},  {";5", 99},      {"1.0", 99}, {"99999999999", 99}};
   for (const auto& [text, value] : cases) {
     std::uint8_t target = 99;
     JoinedReader(text).Number(target);

@@ -18,7 +18,7 @@ void Ask(std::int16_t& count) {
   if (coders_count != 0) count = coders_count;
 }
 
-constexpr ListSize::Source kSource{"PSN", "MaxPsnNum", 50, Ask, 3};
+constexpr ListSize::Source kSource{"PSN", "MaxPsnNum", 50, Ask, 500, 3};
 
 class ListSizes : public LinkTest {
  protected:
@@ -44,9 +44,9 @@ TEST_F(ListSizes, TheCoderIsAskedWhereItCanAnswer) {
 
 TEST_F(ListSizes, TheCodersCountGoesBeforeTheFilesBeforeTheFixedOne) {
   const std::tuple<const char*, int, int> cases[] = {
-      {"", 0, 50},     {"abc", 0, 50},   {"0", 0, 50},    {"-3", 0, 50}, {"40000", 0, 50},
-      {"20", 0, 20},   {"020", 0, 20},   {"20", 30, 30},  {"", 30, 30},  {"20", -1, 20},
-      {"500", 30, 30}, {"500", -1, 500}, {"abc", -1, 50}, {"3;", 0, 50}};
+      {"", 0, 50},     {"abc", 0, 50},   {"0", 0, 50},     {"-3", 0, 50},   {"40000", 0, 50},
+      {"20", 0, 20},   {"020", 0, 20},   {"20", 30, 30},   {"", 30, 30},    {"20", -1, 20},
+      {"500", 30, 30}, {"501", -1, 500}, {"20", 501, 500}, {"abc", -1, 50}, {"3;", 0, 50}};
   for (const auto& [file, coder, wanted] : cases) {
     WriteIniKey("PSN", "MaxPsnNum", file);
     coders_count = static_cast<std::int16_t>(coder);
@@ -76,7 +76,7 @@ TEST_F(ListSizes, OfPagesTheFirstFieldCountsAndTheTableHasAnEnd) {
   for (const auto& [file, coder, wanted] : cases) {
     WriteIniKey("PSN", "MaxPsnNum", file);
     coders_count = static_cast<std::int16_t>(coder);
-    ListSize size({"PSN", "MaxPsnNum", 14, Ask, 2, true, 14});
+    ListSize size({"PSN", "MaxPsnNum", 14, Ask, 14, 2, true});
     size.Load();
     EXPECT_EQ(size.Count(), wanted) << file << " " << coder;
   }
@@ -88,6 +88,7 @@ TEST_F(ListSizes, AFailedQuestionKeepsTheLastAnswerWhereThatIsMeant) {
                    .key = "MaxPsnNum",
                    .fallback = 50,
                    .read_count = Ask,
+                   .limit = 50,
                    .keeps_answer = keeps});
     coders_count = 7;
     size.Load();

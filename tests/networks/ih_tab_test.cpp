@@ -70,6 +70,7 @@ TEST_F(IhTabTest, APageIsChosenWhenItsListIsLeft) {
   EXPECT_EQ(Tab().PathLabel.Caption(), folder + "/no such folder/none.txt");
   EXPECT_EQ(Tab().File1.FileName(), "");
   EXPECT_EQ(Tab().CountLabel.Caption(), "0 of 2048");  // blanks, as OPEN would make of no file
+  EXPECT_EQ(Tab().Dir1.Path(), configData->Path());  // not that of the page before
   // To look at the pages has changed none.
   EXPECT_EQ(ihData->Path(1), there + "/");
   EXPECT_EQ(ihData->Path(2), folder + "/no such folder");
@@ -80,10 +81,13 @@ TEST_F(IhTabTest, APageIsChosenWhenItsListIsLeft) {
   EXPECT_EQ(ihData->Path(1), there + "/inner/");
   GoToPage(2);
   Tab().Text105.SelectAll();
-  Tab().Text105.Type("typed;name.txt");
+  dialogs.beeps = 0;
+  Tab().Text105.Type("a;b");
+  Tab().Text105.Paste("c;d");
+  EXPECT_EQ(dialogs.beeps, 2);
   Go(Tab().Text105);
   form->window.Close();
-  EXPECT_EQ(ihData->FileName(2), "typed;name.txt");
+  EXPECT_EQ(ihData->FileName(2), "abcd");
 }
 
 TEST_F(IhTabTest, WhatIsTypedIsThePageAsFarAsItHasRoom) {
@@ -130,6 +134,21 @@ TEST_F(IhTabTest, APageIsReadFromItsFileAndWrittenToIt) {
   Tab().Command16.Press();
   Tab().Command15.Press();
   EXPECT_EQ(Tab().RichTextBox1.Text(), "ELSE");
+  // The station's own files are none of its pages', whatever leads there.
+  WriteFile(there + "/station.rds", "[PI]\n");
+  WriteFile(there + "/Language.ini", "[Main]\n");
+  std::filesystem::create_symlink("station.rds", there + "/link.txt");
+  configData->SetPath(there);
+  configData->SetFile("station.rds");
+  const std::string before = ReadFile(ProgramFile());
+  for (const char* name :
+       {"station.rds", "inner/../link.txt", "Language.ini", "../program/corvalis.rds"}) {
+    ihData->SetFileName(0, name);
+    Tab().Command16.Press();
+    EXPECT_EQ(Tab().PathLabel.Caption(), there + "/" + name + "  (not written: the station's own)");
+  }
+  EXPECT_EQ(ReadFile(there + "/station.rds") + ReadFile(there + "/Language.ini"), "[PI]\n[Main]\n");
+  EXPECT_EQ(ReadFile(ProgramFile()), before);
   EXPECT_EQ(Boxes(), no_boxes);
   EXPECT_EQ(Written(), std::vector<Bytes>{});
 }
@@ -155,9 +174,9 @@ TEST_F(IhTabTest, FilesAreFoundInTheLists) {
   EXPECT_EQ(ihData->Drive(0), Tab().Drive1.Entry(0));
   EXPECT_EQ(ihData->FileName(0), "deep.txt");
   // A page whose folder is not there is given the one that is looked at.
+  GoToPage(2);
   Go(Tab().Dir1);
   Tab().Dir1.SetPath(there);
-  GoToPage(2);
   Go(Tab().File1);
   Tab().File1.Choose(0);
   Tab().File1.Open(0);

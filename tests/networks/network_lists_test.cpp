@@ -84,6 +84,8 @@ TEST_F(NetworkListsTest, ValuesAreReadAndWritten) {
       {"TDC0", "Ch00", "", "000;Off;" + kZeros20 + ";"},
       {"TDC0", "Ch99", "a1;oN;101", "0A1;On;101" + std::string(17, ' ') + ";"},
       {"TDC0", "Ch99", ";On;1", "000;On;1" + std::string(19, ' ') + ";"},
+      {"TDC0", "Ch99", "x;On;1", "FFF;On;1" + std::string(19, ' ') + ";"},  // letters are -1
+      {"TDC0", "Ch99", " A1 ;On;1", "0A1;On;1" + std::string(19, ' ') + ";"},
       {"TDC", "Ch01", "", "Off;" + kZeros32 + ";"},
       {"TDC", "Ch05", "Off", "Off;" + std::string(32, ' ') + ";"},
       {"TDC", "Ch31", "on;" + std::string(40, '1'), "On;" + std::string(32, '1') + ";"},
@@ -97,6 +99,7 @@ TEST_F(NetworkListsTest, ValuesAreReadAndWritten) {
       {"TMC", "Msg00", "", "0000;000;0;Off;0;Off;0;"},
       // The location is read as hexadecimal; repetitions come back as none.
       {"TMC", "Msg09", "1234;2047;7;On;7;On;15;", "4660;2047;7;On;7;On;0;"},
+      {"TMC", "Msg09", "x; 9 ; 7;On;0;On;0;", "-0001;009;7;On;0;On;0;"},
       {"TMC", "Msg09", "fFfFf;x;A;on;300;ON;On;", "1048575;000;10;Off;0;Off;0;"},
       {"TMC", "Msg09", "", "0000;000;0;Off;0;Off;0;"}};
   for (const Case& one : cases) {
@@ -122,15 +125,20 @@ TEST_F(NetworkListsTest, AnotherFileLeavesNothingOfTheOneBefore) {
   tmcData->SetLtn(9);
   tmcData->SetUrban(true);
   tmcData->SetEvents(0, 5);
-  const auto stored = [this](const std::function<void()>& load) {
-    WriteFile(ProgramFile(), kSatellite);
-    configData->GetIni();
-    load();
-    Store();
-    return ReadFile(ProgramFile()) + ihData->Page(2);
-  };
-  const std::string again = stored([] { Lists::GetIni(); });
-  EXPECT_EQ(again, stored([this] { LoadLists(); }));
+  // Neither where the other file says nothing nor where it says what can't be converted.
+  for (const std::string file : {"",
+                                 "[LI]\nLsn=x\n[TMC]\nLtn=x\n[TDC0]\nCh05=100000;On;1\n"
+                                 "[Ih Pages]\nPage02=x;;;none.txt;\n"}) {
+    const auto stored = [&](const std::function<void()>& load) {
+      WriteFile(ProgramFile(), kSatellite + file);
+      configData->GetIni();
+      load();
+      Store();
+      return ReadFile(ProgramFile()) + ihData->Page(2);
+    };
+    const std::string again = stored([] { Lists::GetIni(); });
+    EXPECT_EQ(again, stored([this] { LoadLists(); }));
+  }
 }
 
 TEST_F(NetworkListsTest, TheListOnTheScreenGoesAround) {
@@ -209,12 +217,9 @@ TEST_F(NetworkListsTest, FramesCarryTheItems) {
            "CC"
            "87"
            "ABCD1"},
-      {[] { eonData->SetOneRds(2); },
-       "EON PSN 00000000"
-       "4D" +
-           Times(10, "CD") +
-           "00"
-           "51580"},
+      {[] { eonData->SetOneRds(2); }, "EON PSN 00000000" + Times(11, "CD") +
+                                          "00"
+                                          "51580"},
       {[] { eonData->SetTaRds(1); }, "0"},
       {[] { liData->SetOneRds(); }, "1000A1"},
       {[] { tdc0Data->SendOneRds(0); }, "1FFFFFFFF"},
@@ -224,7 +229,7 @@ TEST_F(NetworkListsTest, FramesCarryTheItems) {
       {[] { tdcData->SendOneRds(30); }, "000000000"},
       {[] { tmcData->SetOneSystemRds(); }, "013F0001"},
       {[] { tmcData->SetOneRds(0); }, "00000000000F"},
-      {[] { tmcData->SetOneRds(1); }, "000FFFF00006"},  // the low digits of what is too wide
+      {[] { tmcData->SetOneRds(1); }, "000FFFF0000F"},  // what was read as a letter is that letter
       {[] { tmcData->SetOneRds(2); }, "7FFFFFF170A0"}};
   for (const auto& [send, body] : cases) EXPECT_EQ(BodyOf(send), body);
   tdc0Data->SetAddress(1, -1);  // as a bad answer leaves it
@@ -248,9 +253,9 @@ TEST_F(NetworkListsTest, FrequenciesOfOtherNetworksAreCoded) {
   StartOn(kSatellite);
   Open();
   const std::tuple<float, int, const char*> cases[] = {
-      {0.F, 9, "00"},    {153.F, 9, "01"}, {279.F, 9, "0F"},  {531.F, 9, "10"},
-      {1602.F, 9, "87"}, {300.F, 9, "00"}, {152.4F, 9, "00"}, {0.F, 0, "CD"},
-      {87.5F, 0, "00"},  {87.6F, 0, "01"}, {107.9F, 8, "CC"}};
+      {0.F, 9, "00"},    {153.F, 9, "01"},  {279.F, 9, "0F"}, {531.F, 9, "10"}, {1602.F, 9, "87"},
+      {300.F, 9, "00"},  {152.4F, 9, "00"}, {0.F, 0, "CD"},   {87.5F, 0, "00"}, {87.6F, 0, "01"},
+      {107.9F, 8, "CC"}, {50.F, 8, "CD"},   {113.1F, 0, "CD"}};
   for (const auto& [freq, index, code] : cases) {
     eonData->SetAfB(freq, 0, static_cast<std::int16_t>(index));
     const std::string body = BodyOf([] { eonData->SetOneRds(0); });

@@ -32,8 +32,9 @@ TEST_F(AfTabsTest, BoxesOfMethodB) {
   BoxB(1).SelectAll();
   BoxB(1).Type("5");
   form->window.Close();
-  EXPECT_TRUE(form->window.Visible());
+  EXPECT_FALSE(form->window.Visible());
   EXPECT_EQ(Boxes(), std::vector<std::string>{kWarning});
+  form->Load();
 
   const auto& marks = form->af_b.AfBBandStrip.Marks();
   EXPECT_TRUE(marks.at(0).main);
@@ -62,10 +63,10 @@ TEST_F(AfTabsTest, ListsAreFoundByNumberByStepsAndByDescription) {
   }
   form->window.MoveFocus(&tab.Combo2);
   tab.Combo2.TypeText("Hill");
-  tab.Combo2.Choose(2);  // the text was list 1's
+  EXPECT_EQ(tab.Combo2.Index(), 1);  // where Down goes on from
+  tab.Combo2.Choose(2);              // the text was list 1's
   EXPECT_EQ(at(), "02/");
   tab.Combo2.TypeText("Valley");
-  form->window.MoveFocus(nullptr);
   EXPECT_EQ(tab.Combo2.Entries(), (std::vector<std::string>{"", "Hill", "Valley"}));
   EXPECT_EQ(afBData->Descr(2), "Valley");
   EXPECT_EQ(at(), "02/Valley");

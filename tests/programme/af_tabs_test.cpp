@@ -29,6 +29,13 @@ TEST_F(AfTabsTest, LeavingABoxOfMethodA) {
   ASSERT_EQ(marks.size(), 1U);
   EXPECT_EQ(marks[0].text, "87.5");
 
+  // A box that is left as it is shown is that number.
+  afAData->SetFreq(2, 87.5999F);
+  form->af_a.Open();
+  EXPECT_TRUE(Enter(BoxA(2), "087.600"));
+  EXPECT_EQ(afAData->Freq(2), 87.6F);
+  EXPECT_TRUE(Enter(BoxA(2), "0"));
+
   dialogs.beeps = 0;
   form->window.MoveFocus(&BoxA(1));
   BoxA(1).Select(7, 0);
@@ -157,13 +164,16 @@ TEST_F(AfTabsTest, OneWayTheAddressComesBeforeTheArrangingAndAHundredListsAreEmp
   EXPECT_TRUE(tab.Command12.Visible());
   ExpectAddressRule({&form->af_a.Command11, &form->af_a.Command12});
   EXPECT_EQ(afAData->Freq(0), 0);
+  configData->SetBurst(0);
+  form->af_a.Command12.Press();
+  EXPECT_EQ(ShownA(2), "100.000 000.000 ");  // arranged, though nothing goes out
+  configData->SetBurst(3);
   const double before = time.Elapsed();
   form->af_a.Command12.Press();
   std::vector<int> lists = UpTo(99, false);
   lists.insert(lists.end(), {0, 0});
   EXPECT_EQ(SentLists(), lists);
   EXPECT_NEAR(time.Elapsed() - before, 102 * 0.2, 0.5);
-  EXPECT_EQ(ShownA(2), "100.000 000.000 ");
 }
 
 TEST_F(AfTabsTest, AFailedReadShowsTheLowestFrequencyThroughout) {
@@ -190,14 +200,13 @@ TEST_F(AfTabsTest, TheFileKeepsTheLists) {
     stored += rest;
   for (int i = 9; i < air::kAfEntries; ++i) stored += "000.000;";
   EXPECT_EQ(ReadIniKey("AF Method A", "FreqList"), stored);
-  // What can't be converted leaves its entry; a missing key empties the list.
-  WriteIniKey("AF Method A", "FreqList", "x;99.9;");
-  afAData->GetIni();
-  EXPECT_EQ(std::tuple(afAData->Freq(0), afAData->Freq(1), afAData->Freq(8)),
-            std::tuple(87.6F, 99.9F, 100.1F));
-  WriteIniKey("AF Method A", "FreqList", "");
-  afAData->GetIni();
-  EXPECT_EQ(afAData->Freq(0) + afAData->Freq(8), 0);
+  // Nothing of the file before stays, whatever the fields are.
+  for (const auto& [list, second] : {std::pair{"88,5; 99.9 ;", 99.9F}, {"", 0.F}}) {
+    WriteIniKey("AF Method A", "FreqList", list);
+    afAData->GetIni();
+    EXPECT_EQ(std::tuple(afAData->Freq(0), afAData->Freq(1), afAData->Freq(8)),
+              std::tuple(0.F, second, 0.F));
+  }
 
   // The description is read as the thirteenth alternative, and is no description any more.
   afBData->SetMainFreq(1, 99.5F);

@@ -70,7 +70,13 @@ TEST_F(ListFilesTest, ValuesAreReadAndWritten) {
       {"RT", "MaxRtNum", "-3", "50"},
       {"PIN", "MaxPinNum", "3", "003"},
       {"PIN", "MaxPinNum", "x", "255"},
-      {"PSN Plan", "MaxPsnPlanNum", "120", "120"}};
+      // As many as the items have numbers on the line.
+      {"PSN Pages", "MaxPsnNum", "9999", "256"},
+      {"PSN Pages", "MaxPsnPagesNum", "9999", "16"},
+      {"PSN Plan", "MaxPsnPlanNum", "9999", "256"},
+      {"RT", "MaxRtNum", "9999", "256"},
+      {"PIN", "MaxPinNum", "9999", "4096"},
+      {"AF Method B", "MaxAfBListNum", "9999", "256"}};
   for (const Case& one : cases) {
     SCOPED_TRACE(std::string(one.key) + "=" + one.read);
     const std::string line = std::string(one.key) + "=" + one.read + "\n";
