@@ -60,11 +60,10 @@ void WhileWaiting(Window& screen, const Work& work) {
 
 RS232CForm::RS232CForm(MainMenu main_menu)
     : main_menu_(std::move(main_menu)),
-      pending_{{{BaudrateCombo, [this] { return TakeBaudrate(); }},
-                {Combo1, [this] { return TakeBurst(); }},
-                {ParityCombo, [this] { return TakeParity(); }},
-                {RdsOptionCombo, [this] { return TakeMode(); }},
-                {SerialCombo, [this] { return TakeSerial(); }}}} {
+      pending_{{{BaudrateCombo, [this] { TakeBaudrate(); }},
+                {Combo1, [this] { TakeBurst(); }},
+                {ParityCombo, [this] { TakeParity(); }},
+                {RdsOptionCombo, [this] { TakeMode(); }}}} {
   Check1.SetCaption("Tone");
   Check2.SetCaption("Pulse");
   Command2.SetCaption("Hook");
@@ -197,46 +196,37 @@ void RS232CForm::ShowTone() {
 }
 
 void RS232CForm::Leave(PendingList& pending) {
-  if (pending.take()) pending.has_focus = false;
+  pending.take();
+  pending.has_focus = false;
 }
 
-bool RS232CForm::TakeMode() {
+void RS232CForm::TakeMode() {
   configData->SetSatellite(RdsOptionCombo.Index() == kSatellite);
   configData->SetModem(RdsOptionCombo.Index() == kModem);
   UpdateEnabling();
-  return true;
 }
 
-bool RS232CForm::TakeBurst() {
+void RS232CForm::TakeBurst() {
   if (Combo1.Index() != ListBox::kNone) {
     configData->SetBurst(static_cast<std::int16_t>(Combo1.Index() + kMinBurst));
   }
-  return true;
 }
 
-bool RS232CForm::TakeBaudrate() {
+void RS232CForm::TakeBaudrate() {
   if (BaudrateCombo.Index() != ListBox::kNone) {
     configData->SetBaudrate(kBaudrates.at(static_cast<std::size_t>(BaudrateCombo.Index())));
   }
-  return true;
 }
 
-bool RS232CForm::TakeParity() {
+void RS232CForm::TakeParity() {
   // The stop bits of the record stay: AUTOSETTING alone stores them.
   if (ParityCombo.Index() != ListBox::kNone) {
     configData->SetParity(FramingAt(ParityCombo.Index()).parity);
     ShowStopBit();
   }
-  return true;
 }
 
-// Stores nothing: the port is taken when it is opened.
-bool RS232CForm::TakeSerial() {
-  bool differs = false;
-  WhileDisabled(window, [&] { differs = SerialCombo.Index() != configData->CommPort() - 1; });
-  return differs;
-}
-
+// Only when the port is opened.
 void RS232CForm::TakeCommPort() {
   if (SerialCombo.Index() == ListBox::kNone) return;
   configData->SetCommPort(static_cast<std::int16_t>(SerialCombo.Index() + 1));

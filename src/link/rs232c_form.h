@@ -63,10 +63,10 @@ class RS232CForm {
  private:
   static constexpr int kDialogueTickMs = 1000;
 
-  /// A list whose choice is taken when it is left. `take` returns true once nothing is pending.
+  /// A list whose choice is taken when it is left.
   struct PendingList {
     ListBox& list;
-    std::function<bool()> take;
+    std::function<void()> take;
     bool has_focus = false;
   };
 
@@ -78,11 +78,10 @@ class RS232CForm {
   void ShowTone();
   void ShowDialogue(const std::string& text);
 
-  bool TakeMode();
-  bool TakeBurst();
-  bool TakeBaudrate();
-  bool TakeParity();
-  bool TakeSerial();
+  void TakeMode();
+  void TakeBurst();
+  void TakeBaudrate();
+  void TakeParity();
   void TakeCommPort();
   static void Leave(PendingList& pending);
 
@@ -96,7 +95,7 @@ class RS232CForm {
   void Unload();
 
   MainMenu main_menu_;
-  std::array<PendingList, 5> pending_;  // in the order in which the closing takes them
+  std::array<PendingList, 4> pending_;  // in the order in which the closing takes them
 };
 
 }  // namespace corvalis

@@ -118,7 +118,7 @@ bool SerialOpen(SerialPort& control, std::int16_t number, const std::string& set
   port = &control;
   const PortError error = SetUpPort(control, number, settings);
   if (error) {
-    if (show_errors && !AutoSettingActive) ShowLinkBox(error.description, kSerialManagementTitle);
+    if (show_errors) ShowLinkBox(error.description, kSerialManagementTitle);
     return false;
   }
   if (!CommandTableBuilt) {

@@ -39,6 +39,11 @@ void RefuseBox(TextBox& box, const std::string& shown) {
 
 void CommitGridRow(Grid& grid) { grid.Commit(); }
 
+std::string WithUntaken(const Grid& grid, std::string name) {
+  if (grid.HasUntaken()) name += ", not taken yet";
+  return name;
+}
+
 void WarnBeforeAddress() { ShowLinkBox("Before send Address", kCommunicationManagementTitle); }
 
 }  // namespace corvalis

@@ -93,6 +93,7 @@ TdcTab::TdcTab(Window& window)
     SetTypingRules(*grid);
     grid->GotFocus = [this, grid] { Select(*grid); };
     grid->Moved = [this] { ShowSelected(); };
+    grid->Edited = [this] { ShowSelected(); };
   }
 }
 
@@ -166,9 +167,12 @@ void TdcTab::Select(Grid& grid) {
 
 void TdcTab::ShowSelected() {
   const bool first = selected_ == &DBGrid1;
-  constexpr const char* kMark = "selected";
-  Tdc0MarkLabel.SetCaption(first ? kMark : "");
-  TdcMarkLabel.SetCaption(first ? "" : kMark);
+  const auto mark = [this](const Grid& grid, const std::string& row) -> std::string {
+    if (&grid == selected_) return WithUntaken(grid, "selected");
+    return grid.HasUntaken() ? WithUntaken(grid, "row " + row) : "";
+  };
+  Tdc0MarkLabel.SetCaption(mark(DBGrid1, Name0(DBGrid1.Row())));
+  TdcMarkLabel.SetCaption(mark(DBGrid2, Name(DBGrid2.Row())));
   TdcSelectedLabel.SetCaption(first ? "Channel 0, " + Name0(DBGrid1.Row())
                                     : "Channel " + Name(DBGrid2.Row()));
 }

@@ -93,9 +93,10 @@ PinTab::PinTab(Window& window)
     Write(row, column, text);
   };
   DBGrid4.Moved = [this] {
-    PinSelectedLabel.SetCaption(RowName(DBGrid4.Row()));
+    ShowSelected();
     FollowCell();
   };
+  DBGrid4.Edited = [this] { ShowSelected(); };
   SetTypeRules();
 }
 
@@ -179,8 +180,12 @@ void PinTab::InitCaptions() {
 void PinTab::Open() {
   buttons_.Show();
   DBGrid4.Restart();
-  PinSelectedLabel.SetCaption(RowName(DBGrid4.Row()));
+  ShowSelected();
   FollowCell();
+}
+
+void PinTab::ShowSelected() {
+  PinSelectedLabel.SetCaption(WithUntaken(DBGrid4, RowName(DBGrid4.Row())));
 }
 
 }  // namespace corvalis

@@ -42,6 +42,7 @@ class PinTab {
   bool LeaveRow(int row);
   void Write(int row, int column, const std::string& text);
   void FollowCell();
+  void ShowSelected();
   void ChooseType();
 
   bool following_ = false;  // the list is being put on the cell's type: nothing is chosen

@@ -110,6 +110,7 @@ void PsnTab::SetGridRules() {
     }
   };
   DBGrid1.Moved = [this] { ShowSelected(); };
+  DBGrid1.Edited = [this] { ShowSelected(); };
 }
 
 // A time that is none goes back to that of the plain list, on the pages too.
@@ -122,7 +123,9 @@ void PsnTab::CheckRotation(int row) {
   DBGrid1.PutEdit(kRotation, Digits(old, 1));
 }
 
-void PsnTab::ShowSelected() { PsnSelectedLabel.SetCaption(RowName(DBGrid1.Row())); }
+void PsnTab::ShowSelected() {
+  PsnSelectedLabel.SetCaption(WithUntaken(DBGrid1, RowName(DBGrid1.Row())));
+}
 
 void PsnTab::SetScrollRules() {
   const auto digits_alone = [](int& key) {

@@ -72,7 +72,7 @@ RtTab::RtTab(Window& window)
 
 void RtTab::ShowSelected() {
   const int row = DBGrid3.Row();
-  RtSelectedLabel.SetCaption(RowName(row));
+  RtSelectedLabel.SetCaption(WithUntaken(DBGrid3, RowName(row)));
   const bool typed = DBGrid3.Opened() && DBGrid3.Column() == kText;
   const std::string text = typed ? DBGrid3.Editor().Text() : DBGrid3.Shown(row, kText);
   RtCountLabel.SetCaption(std::to_string(text.find_last_not_of(' ') + 1) + " / " +

@@ -62,20 +62,30 @@ std::string Grid::Shown(int row, int column) const {
   return Cell && Exists(row, column) ? Cell(row, column) : std::string();
 }
 
+bool Grid::HasUntaken() const {
+  return !edits_.empty() || (opened_ && editor_.Text() != Shown(row_, column_));
+}
+
+void Grid::TellEdits() {
+  Redraw();
+  if (Edited) Edited();
+}
+
 void Grid::PutEdit(int column, const std::string& text) {
   static_cast<void>(ColumnAt(column));
   edits_[column] = text;
-  Redraw();
+  TellEdits();
 }
 
 void Grid::DropEdit(int column) {
   edits_.erase(column);
-  Redraw();
+  TellEdits();
 }
 
 void Grid::Drop() {
+  if (!HasEdits()) return;
   edits_.clear();
-  if (opened_) CloseCell();
+  CloseCell();
 }
 
 void Grid::Refresh() {
@@ -181,12 +191,8 @@ bool Grid::Tab(bool forward) {
 
 bool Grid::Escape() {
   if (!TakesEvents() || !HasEdits()) return false;
-  if (opened_) {
-    CloseCell();
-  } else {
-    edits_.clear();
-  }
-  Redraw();
+  if (!opened_) edits_.clear();
+  CloseCell();
   return true;
 }
 
@@ -199,15 +205,13 @@ bool Grid::Open(int key) {
   editor_.SelectAll();
   opened_ = true;
   ShowRow();
-  Redraw();
-  if (Edited) Edited();
+  TellEdits();
   return true;
 }
 
 void Grid::CloseCell() {
   opened_ = false;
-  Redraw();
-  if (Edited) Edited();
+  TellEdits();
 }
 
 bool Grid::LeaveCell() {
@@ -241,7 +245,7 @@ bool Grid::LeaveRow() {
   for (const auto& [column, text] : edits) {
     if (Write) Write(row_, column, text);
   }
-  Redraw();
+  TellEdits();
   return true;
 }
 

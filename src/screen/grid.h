@@ -63,7 +63,8 @@ class Grid : public Control {
   std::function<bool(int row)> RowLeft;
   /// The button of a cell of the current row is pressed.
   std::function<void(int column)> ButtonClick;
-  /// The text of the open cell has changed, or a cell has been opened or closed.
+  /// The text of the open cell has changed, a cell has been opened or closed, or the edits of the
+  /// row are others.
   std::function<void()> Edited;
   /// Another cell has become the current one.
   std::function<void()> Moved;
@@ -86,6 +87,8 @@ class Grid : public Control {
   [[nodiscard]] std::string Shown(int row, int column) const;
   [[nodiscard]] bool HasEdit(int column) const { return edits_.contains(column); }
   [[nodiscard]] bool HasEdits() const { return opened_ || !edits_.empty(); }
+  /// Whether the row shows what the data does not have yet.
+  [[nodiscard]] bool HasUntaken() const;
   /// The form puts an edit into a cell of the current row, or takes it back.
   void PutEdit(int column, const std::string& text);
   void DropEdit(int column);
@@ -149,6 +152,7 @@ class Grid : public Control {
   bool LeaveCell();
   bool LeaveRow();
   void Drop();
+  void TellEdits();
   void GoTo(int row, int column);
   void ShowRow();
 

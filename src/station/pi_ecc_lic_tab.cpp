@@ -204,7 +204,6 @@ void PiEccLicTab::TakePi() {
   configData->SetProgramNum(static_cast<std::int16_t>(pi & 0xFF));
   configData->SetCoverage(static_cast<std::int16_t>(pi >> 8 & 0xF));
   configData->SetCountry(static_cast<std::uint8_t>(pi >> 12));
-  ShowPi();
   FillCountryList();
   ShowCountry();
   ShowCoverage();

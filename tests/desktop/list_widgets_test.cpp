@@ -37,6 +37,19 @@ TEST_F(WidgetsTest, WhatIsTypedIntoAComboBoxSelectsNoEntry) {
   QTest::keyClick(view_->combo, Qt::Key_Tab);
   EXPECT_EQ(screen_.combo.Index(), ListBox::kNone);
   EXPECT_EQ(screen_.combo.Text(), "20");
+  // Unless its form makes an entry of it; the caret stays where the hand has it.
+  screen_.combo.Change = [this] {
+    screen_.combo.Replace(1, screen_.combo.Text());
+    screen_.combo.SetIndex(1);
+  };
+  view_->combo->setFocus();
+  view_->combo->lineEdit()->selectAll();
+  QTest::keyClicks(view_->combo, "ab");
+  QTest::keyClick(view_->combo, Qt::Key_Left);
+  QTest::keyClicks(view_->combo, "c");
+  EXPECT_EQ(screen_.combo.Entry(1), "acb");
+  QTest::keyClick(view_->combo, Qt::Key_Down);
+  EXPECT_EQ(screen_.combo.Index(), 2);
 }
 
 TEST_F(WidgetsTest, AnEntryThatIsReplacedShowsInItsPlace) {

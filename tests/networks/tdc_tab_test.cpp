@@ -176,12 +176,21 @@ TEST_F(TdcTabTest, TheGridGoneIntoLastIsTheSelectedOne) {
   Tab().Command5.Press();
   EXPECT_EQ(Numbers(), std::vector<int>{34});
   EXPECT_EQ(Tab().TdcSelectedLabel.Caption(), "Channel 0, 03");
-  // Only what is stored is sent.
+  // Only what is stored is sent; and the tab says what is not.
+  const auto marks = [this] {
+    return Tab().Tdc0MarkLabel.Caption() + "/" + Tab().TdcMarkLabel.Caption();
+  };
+  EXPECT_EQ(marks(), "selected/");
   Strike(First(), 3, kOn, "0");
+  EXPECT_EQ(marks(), "selected, not taken yet/");
   Tab().Command5.Press();
   Tab().Command6.Press();
   EXPECT_EQ(Held(0x11, 34).front(), '1');
+  form->window.MoveFocus(&Second());
+  EXPECT_EQ(marks(), "row 03, not taken yet/selected");
+  form->window.MoveFocus(&First());
   EXPECT_TRUE(First().Escape());
+  EXPECT_EQ(marks(), "selected/");
   form->window.MoveFocus(&Second());
   form->SSTab1.Choose(1);
   form->window.Close();
@@ -191,7 +200,7 @@ TEST_F(TdcTabTest, TheGridGoneIntoLastIsTheSelectedOne) {
   Written();
   Tab().Command5.Press();
   EXPECT_EQ(Numbers(), std::vector<int>{40});
-  EXPECT_EQ(Tab().Tdc0MarkLabel.Caption(), "selected");
+  EXPECT_EQ(marks(), "selected/");
 }
 
 TEST_F(TdcTabTest, AllRowsTravelInTheirOrderAndThePlaceIsKept) {

@@ -137,6 +137,7 @@ TEST_F(TypingRulesTest, RowsThatAreNotWhole) {
   Strike(pin, 2, 2, "\b");
   pin.Editor().Paste("13.45");
   Strike(pin, 2, 1, "15");
+  EXPECT_EQ(form->pin.PinSelectedLabel.Caption(), "PIN 02, not taken yet");
   pin.Enter();
   EXPECT_EQ(Row(pin, 2), "15|13:45|No program type or undefined|7B6D|No");
 
@@ -149,6 +150,7 @@ TEST_F(TypingRulesTest, RowsThatAreNotWhole) {
   plan.DropEdit(0);
   // What is being typed is kept when the screen closes.
   Strike(form->rt.DBGrid3, 1, 2, "KEPT");
+  EXPECT_EQ(form->rt.RtSelectedLabel.Caption(), "RT 01, not taken yet");
   form->window.Close();
   EXPECT_EQ(psnPageData->Time(1), "08:00");
   EXPECT_EQ(rtData->Data(1), In(64, "KEPT"));
@@ -158,6 +160,7 @@ TEST_F(TypingRulesTest, OnAPageABadTimeIsThatOfThePlainList) {
   OpenLists("[PSN Pages]\nPsn00.01=05;On;A;\nPsn02.01=44;On;B;\n");
   Step(Psn().PageNumberScroll, -1);
   Strike(Psn().DBGrid1, 1, 1, "\b");
+  EXPECT_EQ(Psn().PsnSelectedLabel.Caption(), "PSN 01, not taken yet");
   Psn().DBGrid1.Enter();
   EXPECT_EQ(Row(Psn().DBGrid1, 1), "5|B|ON");
   EXPECT_EQ(psnPageData->RotationTime(2, 1), 5);

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "screen/keys.h"
@@ -96,6 +97,27 @@ TEST_F(GridTest, ACommitStoresWithoutMoving) {
   EXPECT_EQ(form.written, 1);  // nothing is written twice, nor what was not edited
 }
 
+TEST_F(GridTest, SaysWhetherItsRowHasWhatTheDataHasNot) {
+  int told = 0;
+  grid.Edited = [&told] { ++told; };
+  const auto untaken = [&] { return std::exchange(told, 0) > 0 && grid.HasUntaken(); };
+  grid.MoveTo(3, 1);
+  grid.OpenCell();
+  EXPECT_FALSE(untaken());  // nothing is typed yet
+  grid.Type("7");
+  EXPECT_TRUE(untaken());
+  grid.MoveTo(3, 3);
+  EXPECT_TRUE(untaken());
+  grid.Commit();
+  EXPECT_FALSE(grid.HasUntaken());
+  EXPECT_EQ(told, 1);
+  grid.TypeKey(' ');
+  EXPECT_TRUE(untaken());
+  grid.Escape();
+  EXPECT_EQ(told, 1);
+  EXPECT_FALSE(grid.HasUntaken());
+}
+
 TEST_F(GridTest, ARowsRuleSeesRepairsAndStays) {
   bool stay = true;
   std::string seen;
@@ -174,6 +196,10 @@ TEST_F(GridTest, AnotherFileStartsAtItsFirstRow) {
   EXPECT_FALSE(grid.HasEdits());
   EXPECT_TRUE(grid.Commit());
   EXPECT_EQ(form.written, 0);
+  grid.MoveTo(8, 2);
+  form.items.resize(5);
+  grid.Refresh();
+  EXPECT_EQ(grid.Row(), 4);  // the last one of a list that has become shorter
   form.items.clear();
   grid.Restart();
   EXPECT_EQ(grid.Row(), Grid::kNoRow);

@@ -39,8 +39,10 @@ TEST_F(CtTabTest, FirstOpeningShowsThePresentTimeBesideARecordOfMidnight) {
   Tab().Command2.Press();
   EXPECT_EQ(Held(kCt), "26111570000080926");
   Tab().VScroll1.PressUp();
+  configData->SetDateValue(At(2026y / November / 16, 9h, 6min));
   Tab().Command2.Press();
-  EXPECT_EQ(Held(kCt), "26111570906080926");
+  EXPECT_EQ(Held(kCt), "26111610906080926");
+  EXPECT_EQ(Tab().Calendar1.Date(), 2026y / November / 16);  // what was sent
 
   form->window.Close();
   time.SetTimer(20 * 3600);

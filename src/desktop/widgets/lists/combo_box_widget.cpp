@@ -28,12 +28,14 @@ ComboBoxWidget::ComboBoxWidget(ComboBox& combo, QWidget* parent)
 
 void ComboBoxWidget::Draw() {
   const int caret = lineEdit()->cursorPosition();
+  const QString before = lineEdit()->text();
   const QSignalBlocker silent(lineEdit());
-  DropDownWidget::Draw();  // clears the text where no entry is selected
+  DropDownWidget::Draw();  // clears the text where no entry is selected, or puts an entry there
   const QString text = FromBytes(combo_.Text());
-  if (lineEdit()->text() == text) return;
-  lineEdit()->setText(text);
-  lineEdit()->setCursorPosition(combo_.Index() == ListBox::kNone ? caret : 0);
+  if (lineEdit()->text() != text) lineEdit()->setText(text);
+  // What the hand has typed keeps the caret.
+  const int at = text == before ? caret : 0;
+  if (lineEdit()->cursorPosition() != at) lineEdit()->setCursorPosition(at);
 }
 
 void ComboBoxWidget::keyPressEvent(QKeyEvent* event) {
