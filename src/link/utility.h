@@ -27,8 +27,8 @@ void RefuseBox(TextBox& box, const std::string& shown);
 /// not stored.
 void CommitGridRow(Grid& grid);
 
-/// A row's name and, where the grid shows what the data does not have yet, that: a SEND that does not
-/// store the row first goes out without it.
+/// A row's name and, where the grid shows what the data does not have yet, that: a SEND that does
+/// not store the row first goes out without it.
 [[nodiscard]] std::string WithUntaken(const Grid& grid, std::string name);
 
 /// Tells the operator that a one-way link needs the Coder to be addressed first.
