@@ -160,8 +160,10 @@ TEST_F(ConnectionTest, WhatTravelsStandsInWords) {
               57 * 11 / 9600.0 + 99 * (0.2 + 57 * 11 / 9600.0), 1e-9);
   EXPECT_EQ(form->SendLoadLabel.Caption(), "To send: 1 item, about 30 seconds");
   AddressSent = true;
+  configData->SetBurst(-1);
   form->Command11.Press();
   EXPECT_EQ(form->SendLoadLabel.Caption(), "To send: 1 item, about a second");
+  EXPECT_EQ(form->BurstLoadLabel.Caption(), "In a burst: nothing");
   for (const auto& [seconds, words] : {std::pair(0.2, "about a second"),
                                        {4.2, "about 5 seconds"},
                                        {41., "about 50 seconds"},

@@ -70,18 +70,6 @@ TEST_F(ListSizes, IsStoredWithItsDigitsAndReadAgain) {
   EXPECT_EQ(size.Count(), 7);  // what can't be converted changes nothing
 }
 
-TEST_F(ListSizes, OfPagesTheFirstFieldCountsAndTheTableHasAnEnd) {
-  const std::tuple<const char*, int, int> cases[] = {{"20;", 0, 14}, {"7;9", 0, 7}, {"", 0, 14},
-                                                     {";7", 0, 14},  {"5", 20, 14}, {"14", 3, 3}};
-  for (const auto& [file, coder, wanted] : cases) {
-    WriteIniKey("PSN", "MaxPsnNum", file);
-    coders_count = static_cast<std::int16_t>(coder);
-    ListSize size({"PSN", "MaxPsnNum", 14, Ask, 14, 2, true});
-    size.Load();
-    EXPECT_EQ(size.Count(), wanted) << file << " " << coder;
-  }
-}
-
 TEST_F(ListSizes, AFailedQuestionKeepsTheLastAnswerWhereThatIsMeant) {
   for (const bool keeps : {false, true}) {
     ListSize size({.section = "PSN",

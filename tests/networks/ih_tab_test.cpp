@@ -70,7 +70,7 @@ TEST_F(IhTabTest, APageIsChosenWhenItsListIsLeft) {
   EXPECT_EQ(Tab().PathLabel.Caption(), folder + "/no such folder/none.txt");
   EXPECT_EQ(Tab().File1.FileName(), "");
   EXPECT_EQ(Tab().CountLabel.Caption(), "0 of 2048");  // blanks, as OPEN would make of no file
-  EXPECT_EQ(Tab().Dir1.Path(), configData->Path());  // not that of the page before
+  EXPECT_EQ(Tab().Dir1.Path(), configData->Path());    // not that of the page before
   // To look at the pages has changed none.
   EXPECT_EQ(ihData->Path(1), there + "/");
   EXPECT_EQ(ihData->Path(2), folder + "/no such folder");

@@ -141,16 +141,6 @@ TEST_F(NetworkListsTest, AnotherFileLeavesNothingOfTheOneBefore) {
   }
 }
 
-TEST_F(NetworkListsTest, TheListOnTheScreenGoesAround) {
-  StartOn(std::string(kSatellite) + "[EON]\nMaxEonNum=3\n");
-  for (const auto& [asked, shown] : {std::pair{-1, 2}, {-5, 2}, {3, 0}, {7, 1}, {2, 2}}) {
-    eonData->SetCurrentList(static_cast<std::int16_t>(asked));
-    EXPECT_EQ(eonData->CurrentList(), shown) << asked;
-  }
-  eonData->GetIni();
-  EXPECT_EQ(eonData->CurrentList(), 0);
-}
-
 TEST_F(NetworkListsTest, TheCoderIsAskedForItsCountsWhereItCanAnswer) {
   struct Case {
     const char* setup;

@@ -227,19 +227,6 @@ TEST_F(TdcTabTest, AllRowsTravelInTheirOrderAndThePlaceIsKept) {
   EXPECT_EQ(Boxes(), no_boxes);
 }
 
-TEST_F(TdcTabTest, AFailedReadShowsABlankChannelAndAnOldSubchannel) {
-  OpenScreen(kLocal);
-  tdc0Data->SetCommand(0, Ones(20));
-  tdcData->SetActive(0, true);
-  LinkOpen = false;
-  Tab().Command2.Press();
-  EXPECT_EQ(First().Shown(0, kCommand), Ones(20));
-  form->window.MoveFocus(&Second());
-  Tab().Command2.Press();
-  EXPECT_EQ(Second().Shown(0, 1) + Second().Shown(0, 2), std::string(32, ' ') + "0");
-  EXPECT_EQ(Boxes().size(), 2U);
-}
-
 TEST_F(TdcTabTest, ABurstGoesThroughOneTableBeforeTheOther) {
   OpenScreen(std::string(kSatellite) + "Burst=2\n");
   AddressSent = true;

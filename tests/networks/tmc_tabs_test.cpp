@@ -169,22 +169,5 @@ TEST_F(TmcTabsTest, WhatIsBeingTypedIsSent) {
   EXPECT_EQ(Body(Written().back()), "009000000000");
 }
 
-TEST_F(TmcTabsTest, ReadingAllKeepsThePlaceAndEndsAtAnError) {
-  OpenScreen(kLocal);
-  for (std::uint8_t i = 0; i < 3; ++i) Hold(0x22, "00A00010000" + std::to_string(i), i);
-  LinkError = 12;
-  grid().MoveTo(1, kEvent);
-  form->tmc.ReadAllTmcCommand.Press();
-  EXPECT_EQ(grid().Row(), 1);
-  EXPECT_EQ(grid().Shown(2, kEvent) + grid().Shown(2, kRepetition), "102");
-  the_coder->SetSizes({.tmc = 1});
-  tmcData->SetEvents(2, 7);
-  Written();
-  form->tmc.ReadAllTmcCommand.Press();
-  EXPECT_EQ(Written().size(), 2U);
-  EXPECT_EQ(Boxes().size(), 1U);
-  EXPECT_EQ(tmcData->Events(2), 7);
-}
-
 }  // namespace
 }  // namespace corvalis::test

@@ -4,17 +4,8 @@
 
 #include <algorithm>
 
-#include "app/single_instance.h"
 #include "config/ini_management.h"
-#include "programme/af_a_data.h"
-#include "programme/af_b_data.h"
-#include "programme/pin_data.h"
-#include "programme/psn_data.h"
-#include "programme/psn_page_data.h"
-#include "programme/psn_rt_pin_af_form.h"
-#include "programme/ptyn_data.h"
-#include "programme/rt_data.h"
-#include "support/station_screen.h"
+#include "programme/programme_screen.h"
 
 namespace corvalis::test {
 
@@ -26,12 +17,8 @@ inline const std::string kMethodB =
     "[RDS Setup]\nAF Method A=Off\n[AF Method B]\nMaxAfBListNum=3\n";
 inline const std::string kOneWay = "[Serial Setup]\nSatellite=On\nBurst=3\n";
 
-class AfTabsTest : public StationScreenTest<PsnRtPinAfForm> {
+class AfTabsTest : public ProgrammeTest {
  protected:
-  using Lists = SingleInstances<afAData, afBData, psnData, psnPageData, rtData, pinData, ptynData>;
-  ~AfTabsTest() override { Lists::Release(); }
-  void LoadLists() override { Lists::Create(); }
-
   [[nodiscard]] TextBox& BoxA(int i) const { return form->af_a.Text39[i]; }
   [[nodiscard]] TextBox& BoxB(int i) const { return form->af_b.Text2[i]; }
   /// Types over what stands in a box and leaves it. False if it does not let go.
