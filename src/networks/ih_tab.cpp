@@ -1,5 +1,6 @@
 #include "networks/ih_tab.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 #include <vector>
@@ -8,7 +9,6 @@
 #include "config/conversions.h"
 #include "config/joined_values.h"
 #include "config/language_data.h"
-#include "link/utility.h"
 #include "platform/platform.h"
 
 namespace corvalis {
@@ -92,15 +92,14 @@ void IhTab::SetFileRules() {
   };
   File1.DoubleClick = [this] { TakeFile(); };
   // The station's file has the name between two of these.
-  Text105.KeyPress = [](int& key) {
-    if (key == kSeparator) RefuseKey(key);
-  };
   Text105.Change = [this] {
     std::string name = Text105.Text();
-    if (std::erase(name, kSeparator) == 0) return;
+    const int caret = Text105.SelStart();
+    const auto dropped = static_cast<int>(std::erase(name, kSeparator));
+    if (dropped == 0) return;
     Machine().dialogs->Beep();
     Text105.SetText(name);
-    Text105.Select(static_cast<int>(name.size()), 0);
+    Text105.Select(std::max(caret - dropped, 0), 0);
   };
   Text105.LostFocus = [this] { LeaveName(); };
   Command15.Click = [this] { ReadFile(); };

@@ -4,7 +4,6 @@
 
 #include "config/conversions.h"
 #include "config/ini_management.h"
-#include "link/serial_management.h"
 #include "link/station_commands.h"
 
 namespace corvalis {
@@ -22,11 +21,7 @@ constexpr int kLsnDigits = 3;
 
 LiData::LiData() { GetIni(); }
 
-void LiData::GetOneRds() {
-  LiData read = *this;
-  ReadLi(read.la_, read.egi_, read.il_, read.lsn_);
-  if (LinkError == kLinkOk) *this = read;
-}
+void LiData::GetOneRds() { ReadLi(la_, egi_, il_, lsn_); }
 
 void LiData::SetOneRds() const { SendLi(la_, egi_, il_, lsn_); }
 

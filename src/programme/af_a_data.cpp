@@ -32,7 +32,7 @@ void AfAData::GetOneRds() {
 
 void AfAData::SetOneRds() {
   SendAf(kList, air::AfACodes(freq_));
-  if (LinkError != kLinkOk || !LinkOpen || other_lists_cleared_) return;
+  if (LinkError != kLinkOk || other_lists_cleared_) return;
   ClearAfLists();
   other_lists_cleared_ = LinkError == kLinkOk;
 }

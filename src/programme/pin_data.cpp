@@ -5,9 +5,7 @@
 #include "config/conversions.h"
 #include "config/ini_management.h"
 #include "config/joined_values.h"
-#include "link/link_error.h"
 #include "link/list_commands.h"
-#include "link/serial_management.h"
 
 namespace corvalis {
 
@@ -32,9 +30,8 @@ PinData::PinData()
 }
 
 void PinData::GetOneRds(std::int16_t row) {
-  Row read = At(row);
+  Row& read = At(row);
   ReadPin(row, read.day, read.time, read.type, read.issued);
-  if (LinkError == kLinkOk) At(row) = read;
 }
 
 void PinData::SetOneRds(std::int16_t row) const {

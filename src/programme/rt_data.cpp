@@ -3,8 +3,6 @@
 #include "config/conversions.h"
 #include "config/ini_management.h"
 #include "config/joined_values.h"
-#include "link/link_error.h"
-#include "link/serial_management.h"
 
 namespace corvalis {
 
@@ -47,9 +45,7 @@ void RtData::SetOne(std::int16_t row, const std::string& text, std::int16_t rota
 }
 
 void RtData::GetOneRds(std::int16_t row) {
-  Row read = At(row);
-  ReadRt(static_cast<std::uint8_t>(row), read.rotation_time, read.data);
-  if (LinkError == kLinkOk) At(row) = read;
+  ReadRt(static_cast<std::uint8_t>(row), At(row).rotation_time, At(row).data);
 }
 
 void RtData::SetOneRds(std::int16_t row) const {

@@ -104,6 +104,7 @@ TEST(Conversions, ParseNumber) {
        {"", "+", "-", ".", "x", "1,5", "1 ", " 1", "1e3", "0x10", "+-1", "inf", "nan", "1.2.3"}) {
     EXPECT_EQ(ParseNumber(other), std::nullopt) << other;
   }
+  EXPECT_EQ(LeadingNumber(" 98.5 MHz"), 98.5);
 }
 
 }  // namespace

@@ -30,7 +30,7 @@ class SetupScreen : public LinkTest {
     form =
         std::make_unique<RS232CForm>(RS232CForm::MainMenu{.window = main_menu,
                                                           .port = port,
-                                                          .init_main = [] {},
+                                                          .init_main = [this] { ++inits; },
                                                           .reload_limits = [this] { ++reloads; }});
     main_menu.Show();
     form->Load();
@@ -63,6 +63,7 @@ class SetupScreen : public LinkTest {
   Window main_menu{this, "MainForm"};
   std::unique_ptr<RS232CForm> form;
   int reloads = 0;
+  int inits = 0;
 };
 
 TEST_F(SetupScreen, OpensOnTheRecord) {
@@ -84,6 +85,9 @@ TEST_F(SetupScreen, OpensOnTheRecord) {
   // What the lists could not show is kept.
   EXPECT_EQ(configData->Burst(), 99);
   EXPECT_EQ(Opened(), "7 1200,M,8,2");
+  Reopen("[Language]\nName0=A\nFileName0=A.ini\nName1=B\nFileName1=B.ini\n");
+  for (const int language : {1, 1, 0}) form->LanguageCombo.Choose(language);
+  EXPECT_EQ(inits, 2);  // the menu follows each change
 }
 
 TEST_F(SetupScreen, EnablingFollowsTheModeOnceTheListIsLeft) {

@@ -47,6 +47,7 @@ TEST_F(EonScreenTest, HexadecimalBoxesHoldTheirDigits) {
   form->window.MoveFocus(&eon.EonPinText);
   EXPECT_EQ(Boxes(), std::vector<std::string>{kWarning});  // its own, not that of the next box
   EXPECT_EQ(form->window.Focus(), &eon.EonPiText);
+  EXPECT_EQ(eon.EonPiText.SelLength(), 3);
   EXPECT_EQ(eonData->Pi(0), 0xF1B2);
   eon.EonPiText.SelectAll();
   eon.EonPiText.Paste("wxyz");
@@ -56,6 +57,8 @@ TEST_F(EonScreenTest, HexadecimalBoxesHoldTheirDigits) {
   Retype(eon.EonPiText, "F1B2");
   Retype(eon.EonPinText, "00FF");
   EXPECT_EQ(std::tuple(eonData->Pi(0), eonData->Pin(0)), std::tuple(0xF1B2, 0xFF));
+  eon.SendEonCommand.Press();
+  EXPECT_EQ(eon.EonPinText.Text(), "00FF");  // with all its digits: a send shows nothing anew
 
   Retype(form->li.LiLsnText, "A1");
   EXPECT_FALSE(form->window.MoveFocus(&form->EONSSTab));

@@ -71,6 +71,7 @@ TEST_F(IhTabTest, APageIsChosenWhenItsListIsLeft) {
   EXPECT_EQ(Tab().File1.FileName(), "");
   EXPECT_EQ(Tab().CountLabel.Caption(), "0 of 2048");  // blanks, as OPEN would make of no file
   EXPECT_EQ(Tab().Dir1.Path(), configData->Path());    // not that of the page before
+  EXPECT_NE(Tab().Drive1.Index(), ListBox::kNone);
   // To look at the pages has changed none.
   EXPECT_EQ(ihData->Path(1), there + "/");
   EXPECT_EQ(ihData->Path(2), folder + "/no such folder");
@@ -82,8 +83,10 @@ TEST_F(IhTabTest, APageIsChosenWhenItsListIsLeft) {
   GoToPage(2);
   Tab().Text105.SelectAll();
   dialogs.beeps = 0;
-  Tab().Text105.Type("a;b");
-  Tab().Text105.Paste("c;d");
+  Tab().Text105.Type("ad");
+  Tab().Text105.Select(1, 0);
+  Tab().Text105.Type(";b");
+  Tab().Text105.Paste(";c");
   EXPECT_EQ(dialogs.beeps, 2);
   Go(Tab().Text105);
   form->window.Close();
@@ -138,11 +141,12 @@ TEST_F(IhTabTest, APageIsReadFromItsFileAndWrittenToIt) {
   WriteFile(there + "/station.rds", "[PI]\n");
   WriteFile(there + "/Language.ini", "[Main]\n");
   std::filesystem::create_symlink("station.rds", there + "/link.txt");
+  std::filesystem::create_hard_link(there + "/station.rds", there + "/hard.txt");
   configData->SetPath(there);
   configData->SetFile("station.rds");
   const std::string before = ReadFile(ProgramFile());
-  for (const char* name :
-       {"station.rds", "inner/../link.txt", "Language.ini", "../program/corvalis.rds"}) {
+  for (const char* name : {"station.rds", "hard.txt", "inner/../link.txt", "Language.ini",
+                           "../program/corvalis.rds"}) {
     ihData->SetFileName(0, name);
     Tab().Command16.Press();
     EXPECT_EQ(Tab().PathLabel.Caption(), there + "/" + name + "  (not written: the station's own)");
@@ -182,6 +186,11 @@ TEST_F(IhTabTest, FilesAreFoundInTheLists) {
   Tab().File1.Open(0);
   EXPECT_EQ(std::tuple(ihData->Path(2), ihData->FileName(2), ihData->Drive(2)),
             std::tuple(there, "one.txt", Tab().Drive1.Drive()));
+  WriteFile(there + "/un;kept.txt", "");  // a name that the station's file can't hold
+  Tab().File1.Refresh();
+  Tab().File1.Choose(2);
+  Tab().File1.Open(2);
+  EXPECT_EQ(ihData->FileName(2), "one.txt");
 }
 
 TEST_F(IhTabTest, TheTickedPagesTravel) {

@@ -113,22 +113,22 @@ TEST_F(NetworkListsTest, ValuesAreReadAndWritten) {
 
 TEST_F(NetworkListsTest, AnotherFileLeavesNothingOfTheOneBefore) {
   StartOn(std::string(kSatellite) + "[Ih Pages]\nPage02=7;A;B;C\n");
-  eonData->SetTa(true, 0);
-  eonData->SetPi(1, 0);
-  eonData->SetAfA(88, 0, 0);
-  liData->SetLsn(1);
-  liData->SetLa(true);
-  tdc0Data->SetAddress(5, 1);
-  tdc0Data->SetActive(5, true);
-  tdcData->SetActive(5, true);
-  ihData->SetPage(2, "OLD");
-  tmcData->SetLtn(9);
-  tmcData->SetUrban(true);
-  tmcData->SetEvents(0, 5);
   // Neither where the other file says nothing nor where it says what can't be converted.
-  for (const std::string file : {"",
-                                 "[LI]\nLsn=x\n[TMC]\nLtn=x\n[TDC0]\nCh05=100000;On;1\n"
-                                 "[Ih Pages]\nPage02=x;;;none.txt;\n"}) {
+  for (const std::string file : {"[LI]\nLsn=x\n[TMC]\nLtn=x\n[TDC0]\nCh05=100000;On;1\n"
+                                 "[Ih Pages]\nPage02=x;;;none.txt;\n",
+                                 ""}) {
+    eonData->SetTa(true, 0);
+    eonData->SetPi(1, 0);
+    eonData->SetAfA(88, 0, 0);
+    liData->SetLsn(1);
+    liData->SetLa(true);
+    tdc0Data->SetAddress(5, 1);
+    tdc0Data->SetActive(5, true);
+    tdcData->SetActive(5, true);
+    ihData->SetPage(2, "OLD");
+    tmcData->SetLtn(9);
+    tmcData->SetUrban(true);
+    tmcData->SetEvents(0, 5);
     const auto stored = [&](const std::function<void()>& load) {
       WriteFile(ProgramFile(), kSatellite + file);
       configData->GetIni();

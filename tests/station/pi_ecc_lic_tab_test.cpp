@@ -116,6 +116,13 @@ TEST_F(PiTabTest, TypedPiGivesItsParts) {
   EXPECT_TRUE(EnterPi("5000"));
   Step(Tab().VScroll3, -1);
   EXPECT_EQ(Tab().IDNumberText.Text(), "000");  // at the limit
+  // Of an extended code that no such country has, the list shows those of the first digit all the
+  // same.
+  configData->SetEcc(0xA6);
+  const auto countries = Tab().CountryList.Entries();
+  EXPECT_TRUE(EnterPi("abcd"));
+  EXPECT_EQ(Tab().CountryCombo.Index(), ListBox::kNone);
+  EXPECT_NE(Tab().CountryList.Entries(), countries);
 }
 
 TEST_F(PiTabTest, BadPiIsRefusedAndStaysSelected) {
