@@ -17,33 +17,39 @@ namespace {
 using LocalMinute = air::ClockTime::LocalMinute;
 using Entries = std::vector<Entry>;
 
-// When everything else of a list came so often, what never came is not on the air.
+// When everything else of a list came so often, what never came is not on the air; unless so many
+// blocks are missing that the same end of a list may be lost each time.
 constexpr std::uint32_t kOftenEnough = 8;
+constexpr double kMissingPercent = 3;
 
 bool IsList(Item item) {
   return item == Item::kFrequencies || item == Item::kNetworkFrequencies ||
          item == Item::kNetworkPairs || item == Item::kChannel;
 }
 
-// Local time by the station's own clock when something came, else by this machine's.
-LocalMinute LocalAt(const air::Reception& heard, air::AirSeconds when, DateTime now) {
-  if (!heard.clock.IsHeard()) return std::chrono::floor<std::chrono::minutes>(now);
-  const auto since = std::chrono::duration<double>(when - heard.clock.last);
-  return heard.clock.value.Local() + std::chrono::floor<std::chrono::minutes>(since);
+// The programme item that is to be on. About the edge of a minute the one before or behind may
+// still, or already, be it; without a clock on the air nobody knows which one it is.
+int ExpectedItem(const Prepared& prepared, const air::Reception& heard, DateTime now) {
+  const int came = heard.item.IsHeard() ? air::WordOf(heard.item.value) : 0;
+  if (!heard.clock.IsHeard()) {
+    const bool is_one = std::ranges::find(prepared.items, came, &Prepared::ProgrammeItem::code) !=
+                        prepared.items.end();
+    if (heard.item.IsHeard() && (is_one || came == 0)) return came;
+    return prepared.ItemAt(std::chrono::floor<std::chrono::minutes>(now));
+  }
+  const auto since = std::chrono::duration<double>(heard.item.last - heard.clock.last);
+  const LocalMinute local =
+      heard.clock.value.Local() + std::chrono::floor<std::chrono::minutes>(since);
+  for (const int minutes : {-1, 1}) {
+    const int near = prepared.ItemAt(local + std::chrono::minutes(minutes));
+    if (heard.item.IsHeard() && near == came) return near;
+  }
+  return prepared.ItemAt(local);
 }
 
-// The entries of a station file at the moment when an item number came. About the edge of a minute
-// the item before or the one behind may still, or already, be on.
 Entries Expected(const Prepared& prepared, const air::Reception& heard, DateTime now) {
-  const LocalMinute local = LocalAt(heard, heard.item.last, now);
-  const int pty = heard.pty.IsHeard() ? heard.pty.value : prepared.pty;
-  for (const int minutes : {0, -1, 1}) {
-    const LocalMinute near = local + std::chrono::minutes(minutes);
-    if (heard.item.IsHeard() && prepared.ItemAt(near) == air::WordOf(heard.item.value)) {
-      return EntriesOf(prepared, {near, pty});
-    }
-  }
-  return EntriesOf(prepared, {local, pty});
+  return EntriesOf(prepared, {.item = ExpectedItem(prepared, heard, now),
+                              .pty = heard.pty.IsHeard() ? heard.pty.value : prepared.pty});
 }
 
 // A value that stands for nothing at all.
@@ -81,7 +87,7 @@ Lacking LackingIn(const Entry& other, const Entry& entry) {
   return lacking;
 }
 
-void CompareLists(const Entry& entry, const Entry& heard, Row& row) {
+void CompareLists(const Entry& entry, const Entry& heard, bool came_clear, Row& row) {
   const Lacking missing = LackingIn(heard, entry);
   const Lacking more = LackingIn(entry, heard);
   if (!missing.shown.empty()) row.remark = InWords("without") + " " + missing.shown;
@@ -90,7 +96,7 @@ void CompareLists(const Entry& entry, const Entry& heard, Row& row) {
   }
   if (missing.shown.empty() && more.shown.empty()) {
     row.verdict = Verdict::kAgrees;
-  } else if (more.shown.empty() && heard.times < kOftenEnough) {
+  } else if (more.shown.empty() && (heard.times < kOftenEnough || !came_clear)) {
     row.verdict = Verdict::kNotHeard;
   } else {
     row.verdict = Verdict::kDiffers;
@@ -99,7 +105,7 @@ void CompareLists(const Entry& entry, const Entry& heard, Row& row) {
   }
 }
 
-Row CompareOne(const Entry& entry, const Entry* heard, const Prepared& prepared) {
+Row CompareOne(const Entry& entry, const Entry* heard, const Prepared& prepared, bool came_clear) {
   Row row{.item = entry.item, .name = NameOf(entry), .prepared = Shown(entry)};
   if (entry.item == Item::kPage && row.prepared.empty()) {
     row.verdict = Verdict::kSilent;
@@ -114,7 +120,7 @@ Row CompareOne(const Entry& entry, const Entry* heard, const Prepared& prepared)
   }
   row.heard = Shown(*heard);
   if (IsList(entry.item)) {
-    CompareLists(entry, *heard, row);
+    CompareLists(entry, *heard, came_clear, row);
     return row;
   }
   const Value& wanted = entry.values.front();
@@ -217,6 +223,8 @@ std::vector<Row> Compare(const Prepared& prepared, const air::Reception& heard, 
   Entries came = EntriesOf(heard, from);
   Renumber(expected, came);
 
+  const air::GroupCounts& counts = from > 0 ? heard.groups.last_minute : heard.groups.all;
+  const bool came_clear = counts.MissingPercent() < kMissingPercent;
   std::vector<Row> rows;
   for (const Entry& entry : expected) {
     if (TakesTurns(entry.item)) continue;
@@ -227,13 +235,13 @@ std::vector<Row> Compare(const Prepared& prepared, const air::Reception& heard, 
     const Entry* const one = found == came.end() ? nullptr : &*found;
     // Of a page that nobody knows nothing is expected.
     const bool unknown = entry.item == Item::kPage && entry.values.front().key.empty();
-    if (one != nullptr || !unknown) rows.push_back(CompareOne(entry, one, prepared));
+    if (one != nullptr || !unknown) rows.push_back(CompareOne(entry, one, prepared, came_clear));
   }
   for (const Item item : {Item::kName, Item::kText, Item::kSubchannel, Item::kTrafficMessage}) {
     AppendTurns(item, expected, came, prepared, rows);
   }
   AppendUnprepared(expected, came, rows);
-  Append(rows, CompareGroups(prepared, from > 0 ? heard.groups.last_minute : heard.groups.all));
+  Append(rows, CompareGroups(prepared, counts));
   std::ranges::stable_sort(rows, {}, FamilyOf);
   return rows;
 }

@@ -46,9 +46,9 @@ enum class Outcome { kAgrees = 0, kDiffers = 1, kNotHeard = 2 };
 /// are compared as sets over time: a name that takes turns has a row of its own, and counts once it
 /// came. Of several pages of names the one that is on the air counts.
 ///
-/// `now` is the local time where no clock was heard: the programme item hangs on it. What came last
-/// before `from` does not count, so that a comparison can begin anew after a change. It costs some
-/// 100 microseconds, so a window can have it a few times a second.
+/// `now` is the local time: where no clock was heard it says which programme item to wait for. What
+/// came last before `from` does not count, so that a comparison can begin anew after a change. It
+/// costs some 100 microseconds, so a window can have it a few times a second.
 [[nodiscard]] std::vector<Row> Compare(const Prepared& prepared, const air::Reception& heard,
                                        DateTime now, air::AirSeconds from = 0);
 

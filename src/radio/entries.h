@@ -8,11 +8,10 @@
 
 namespace corvalis::radio {
 
-/// What decides of several prepared things which one is on the air: the programme item goes by the
-/// local time, the name of the type by the type.
+/// Which of several prepared things is on the air at a moment.
 struct Moment {
-  air::ClockTime::LocalMinute local;
-  int pty = 0;
+  int item = 0;  ///< the code of the programme item; 0: none
+  int pty = 0;   ///< whose name is told
 };
 
 /// Everything that a station file puts on the air at a moment but the group sequence, kind by kind.

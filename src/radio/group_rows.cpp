@@ -52,10 +52,10 @@ double CyclesOf(const Places& places, const air::GroupCounts& heard) {
   return *middle;
 }
 
-// What is not counted exactly: a tenth, and a few groups.
-bool Agrees(double count, double expected) {
+// What is not counted exactly: a tenth, more where blocks are missing, and a few groups.
+bool Agrees(double count, double expected, double missing_percent) {
   constexpr double kFew = 8;
-  return std::abs(count - expected) <= kFew + expected / 10;
+  return std::abs(count - expected) <= kFew + expected * (0.1 + missing_percent / 500);
 }
 
 }  // namespace
@@ -81,7 +81,8 @@ std::vector<Row> CompareGroups(const Prepared& prepared, const air::GroupCounts&
       if (cycles < kEnoughCycles) {
         row.verdict = Verdict::kNotHeard;
         row.remark = InWords("too few groups yet");
-      } else if (Agrees(static_cast<double>(count), cycles * of) || group == kAnnouncement) {
+      } else if (Agrees(static_cast<double>(count), cycles * of, heard.MissingPercent()) ||
+                 group == kAnnouncement) {
         row.heard = row.prepared;
         row.verdict = Verdict::kAgrees;
       } else {

@@ -167,9 +167,9 @@ std::vector<Entry> EntriesOf(const Prepared& prepared, const Moment& at) {
   if (!type_name.empty()) Add(entries, Item::kTypeName, TextValue(type_name), {10});
   AddTexts(prepared, entries);
   Add(entries, Item::kClock, OffsetValue(prepared.offset_half_hours), {4});
-  if (const int item = prepared.ItemAt(at.local); item != 0) {
-    Add(entries, Item::kProgrammeItem, ItemNumberValue(air::FromWord<air::ItemNumber>(Word(item))),
-        {1, kB + 1});
+  if (at.item != 0) {
+    Add(entries, Item::kProgrammeItem,
+        ItemNumberValue(air::FromWord<air::ItemNumber>(Word(at.item))), {1, kB + 1});
   }
   AddLists(prepared, entries);
   if (prepared.linkage) {

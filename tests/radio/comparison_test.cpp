@@ -11,11 +11,12 @@
 
 #include "air/hex_text.h"
 #include "air/receiver.h"
-#include "coder/on_air.h"
 #include "link/serial_management.h"
+#include "radio/facts.h"
 #include "radio/program.h"
 #include "radio/report.h"
 #include "support/sent_station.h"
+#include "support/spoilt_air.h"
 
 namespace corvalis::radio {
 namespace {
@@ -26,21 +27,22 @@ using test::kExamples;
 class ComparisonTest : public test::SentStation {
  protected:
   ComparisonTest() : file_(SampleFile()) {
-    Change("MaxPinNum=255\r\n", "MaxPinNum=255\r\nPin020=15;08:30;10;Off\r\n");
+    Change("MaxPinNum=255\r\n",
+           "MaxPinNum=255\r\nPin020=15;12:02;10;Off\r\nPin021=15;08:10;10;Off\r\n");
+    Change("Group13A=00;Off", "Group13A=01;On");  // it has nothing to say
     SendAll(file_);
   }
 
   // The air of so many seconds, as a receiver takes it.
-  void Hear(double seconds) {
-    coder::OnAir on_air(the_coder);
-    for (std::uint64_t group = 0;; ++group) {
-      const coder::AirTime now = coder::GroupStart(group);
-      const double at = std::chrono::duration<double>(now).count();
-      if (at > seconds) return;
-      const air::Group sent = on_air.Next(now);
-      receiver_.Hear(air::Heard(sent), at);
-      lines_ += air::HexLine(sent) + "\n";
-    }
+  void Hear(int seconds, const test::Loss& loss = {}, unsigned seed = 0) {
+    if (air_.empty()) air_ = test::AirOf(the_coder, seconds);
+    receiver_ = air::Receiver();
+    test::Hear(air_, loss, seed, receiver_);
+  }
+  [[nodiscard]] std::string Lines() const {
+    std::string lines;
+    for (const air::Group& group : air_) lines += air::HexLine(group) + "\n";
+    return lines;
   }
 
   void Change(const std::string& from, const std::string& to) {
@@ -50,11 +52,12 @@ class ComparisonTest : public test::SentStation {
   }
 
   [[nodiscard]] std::string Place(const std::string& name) const { return folder + "/" + name; }
-  std::vector<Row> Rows(const std::string& file) {
+  std::vector<Row> Rows(const std::string& file, air::AirSeconds from = 0, int days = 0) {
     WriteFile(Place("station.rds"), file);
     Prepared prepared;
     EXPECT_EQ(ReadPrepared(Place("station.rds"), prepared), "");
-    return Compare(prepared, receiver_.Heard(), machine.clock->Now());
+    return Compare(prepared, receiver_.Heard(), machine.clock->Now() + std::chrono::days(days),
+                   from);
   }
   // The rows that do not agree, but for those of pages that are not on the air.
   static Names Named(const std::vector<Row>& rows) {
@@ -67,8 +70,8 @@ class ComparisonTest : public test::SentStation {
   }
 
   std::string file_;
+  std::vector<air::Group> air_;
   air::Receiver receiver_;
-  std::string lines_;
 };
 
 TEST_F(ComparisonTest, NamesWhatWasChangedInTheFileAndNothingElse) {
@@ -108,7 +111,7 @@ TEST_F(ComparisonTest, NamesWhatWasChangedInTheFileAndNothingElse) {
       {"with Nora and Tim, w", "with Nora and Tom, w", "RT 01 differs"},
       {"Rt05=15", "Rt05=00", "RT not prepared"},
       {"Clock Time Offset=2", "Clock Time Offset=3", "CT offset differs"},
-      {"15;08:30;10", "15;08:31;10", "PIN differs"},
+      {"15;12:02;10", "15;12:03;10", "PIN differs"},
       {"106.800;093.500;0", "106.900;093.500;0", "AF 00 differs"},
       {"FreqList=098.400;", "FreqList=000.000;", "AF 00 differs"},
       {"1458;000.000", "1458;104.000", "AF 00 differs"},
@@ -150,6 +153,16 @@ TEST_F(ComparisonTest, NamesWhatWasChangedInTheFileAndNothingElse) {
   }
 }
 
+TEST_F(ComparisonTest, TakesNothingThatIsLostForADifference) {
+  for (const test::Loss& loss : test::kLosses) {
+    for (unsigned seed = 0; seed < 8; ++seed) {
+      Hear(600, loss, seed);
+      const std::vector<Row> rows = Rows(file_, 0, 1);  // long after
+      EXPECT_NE(OutcomeOf(rows), Outcome::kDiffers) << loss.name << "\n" << ReportText(rows);
+    }
+  }
+}
+
 TEST_F(ComparisonTest, MarksWhatDiffersAndSaysWhatStaysSilent) {
   Change("106.800;093.500;0", "106.900;093.500;0");
   Change("  98.4  ", "  98.55 ");
@@ -163,7 +176,14 @@ TEST_F(ComparisonTest, MarksWhatDiffersAndSaysWhatStaysSilent) {
   };
   EXPECT_EQ(InWords(row_of(Rows(file_), "RT 00")), "2A, 2B off");
   EXPECT_EQ(OutcomeOf(Rows(file_)), Outcome::kNotHeard);
-  Hear(120);
+  const std::string long_kind_off = file_;
+  Change("Group02B=00;Off", "Group02B=01;On");
+  EXPECT_EQ(row_of(Rows(file_), "RT 00").prepared, "You are listening to LAKE FM, mu");
+  file_ = long_kind_off;
+  Hear(121);  // the item of 12:02 has not come yet
+  for (const Row& row : Rows(file_, 122)) {
+    EXPECT_TRUE(row.heard.empty() || row.item == Item::kGroup) << row.name;
+  }
   const std::vector<Row> rows = Rows(file_);
   const Row name = row_of(rows, "PS 00.01");
   EXPECT_EQ(name.heard, "  98.4  ");
@@ -171,6 +191,7 @@ TEST_F(ComparisonTest, MarksWhatDiffersAndSaysWhatStaysSilent) {
   EXPECT_EQ(name.prepared_marks, name.heard_marks);
   const Row list = row_of(rows, "AF 00");
   EXPECT_EQ(list.remark, "without 106.9; beside it 106.8");
+  EXPECT_EQ(InWords(row_of(rows, "PIN")), "agrees");
   const std::string marked =
       list.heard.substr(list.heard_marks.at(0).begin, list.heard_marks.at(0).length);
   EXPECT_EQ(marked, "106.8");
@@ -185,8 +206,9 @@ TEST_F(ComparisonTest, MarksWhatDiffersAndSaysWhatStaysSilent) {
 
 TEST_F(ComparisonTest, EndsWithWhatCameOfIt) {
   Hear(600);
-  WriteFile(Place("air.txt"), lines_);
-  WriteFile(Place("short.txt"), lines_.substr(0, lines_.size() / 20));
+  const std::string lines = Lines();
+  WriteFile(Place("air.txt"), lines);
+  WriteFile(Place("short.txt"), lines.substr(0, lines.size() / 20));
   WriteFile(Place("station.rds"), file_);
   Change("LAKESIDE", "LAKESHOR");
   WriteFile(Place("other.rds"), file_);
@@ -219,7 +241,7 @@ TEST_F(ComparisonTest, EndsWithWhatCameOfIt) {
     EXPECT_NE(out.str().find(c.told), std::string::npos) << c.told << "\n" << out.str();
   }
   Options options;
-  options.judge = Place("station.rds");
+  options.judge = std::string(kExamples) + "/station.rds";
   std::ostringstream out;
   EXPECT_EQ(RunJudge(options, out, out), 1);
   EXPECT_NE(out.str().find("(101.325 MHz)\n19 places in the cycle"), std::string::npos);
@@ -230,6 +252,13 @@ TEST_F(ComparisonTest, ReadingAFileLeavesItAndItsFolderAsTheyWere) {
   std::filesystem::create_directory(other);
   const std::string page_01 = std::string(kExamples) + ";service.txt";
   Change(page_01, other + ";missing.txt");
+  std::string none;
+  std::string between;
+  for (int entry = 0; entry < 16; ++entry) {
+    none += "000.000;";
+    between += "102.125;";
+  }
+  Change("1458;" + none, "1458;" + between);
   Change("FileName0=English.ini", "FileName0=Missing.ini");
   WriteFile(other + "/station.rds", file_);
   const auto snapshot = [&] {
@@ -245,6 +274,7 @@ TEST_F(ComparisonTest, ReadingAFileLeavesItAndItsFolderAsTheyWere) {
   Prepared prepared;
   EXPECT_EQ(ReadPrepared(other + "/station.rds", prepared), "");
   EXPECT_EQ(prepared.pages.at(1).bytes, "");
+  EXPECT_EQ(FactsOf(prepared).lists.at(0).left_out, 10) << "25 bytes hold 15 of the 25";
   EXPECT_EQ(snapshot(), before);
   EXPECT_EQ(port.operations, Names());
   EXPECT_EQ(configData, record);

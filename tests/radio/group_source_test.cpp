@@ -98,6 +98,13 @@ TEST_F(GroupSourceTest, TakesNoMoreThanAPortionAtOnce) {
   EXPECT_EQ(tuner.Groups(), kMany);
   EXPECT_NEAR(tuner.Now(), kMany * 104 / 1187.5, 0.1);
   EXPECT_EQ(tuner.Heard().pi.value, 0x5201);
+  WriteFile(Path(), kLine);
+  ASSERT_EQ(tuner.Open(Path()), "");
+  while (tuner.Listen(0)) {
+  }
+  WriteFile(Path(), std::string(kLine) + kLine);
+  tuner.Listen(0);
+  EXPECT_FALSE(tuner.Heard().pi.IsHeard()) << "twice, but not in a row";
   tuner.Close();
   EXPECT_FALSE(tuner.Heard().pi.IsHeard());
 }
