@@ -119,6 +119,7 @@ void MainForm::InitMain() {
   Drive1.SetToolTip(texts.MainDriverBoxTip());
   Dir1.SetToolTip(texts.MainDirListBoxTip());
   File1.SetToolTip(texts.MainFileListBoxTip());
+  if (LanguageRead) LanguageRead();
 }
 
 void MainForm::New() {

@@ -41,6 +41,9 @@ class MainForm {
   /// Loads all captions and tool-tips of this screen again.
   void InitMain();
 
+  /// The texts of a language file have been read.
+  std::function<void()> LanguageRead;
+
   /// The screen has been closed and everything released: the program ends.
   std::function<void()> Ended;
 

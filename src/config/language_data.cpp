@@ -6,6 +6,7 @@
 #include "config/config_data.h"
 #include "config/windows_1252.h"
 #include "platform/platform.h"
+#include "platform/profile_document.h"
 
 namespace corvalis {
 
@@ -58,7 +59,13 @@ LanguageData::LanguageData() { InitLanguage(); }
 void LanguageData::InitLanguage() {
   const ProfileStore::Series series(*Machine().profiles);
   const std::string file = LanguageFile();
+  words_ = Machine().profiles->ReadSection(file, "Words");
   for (std::size_t i = 0; i < kTextCount; ++i) texts_[i] = LoadText(kSources[i], file);
+}
+
+std::string_view LanguageData::Word(std::string_view english) const {
+  const auto found = words_.find(ProfileDocument::Folded(english));
+  return found == words_.end() ? std::string_view() : found->second;
 }
 
 }  // namespace corvalis

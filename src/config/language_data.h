@@ -3,10 +3,13 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
+#include <unordered_map>
 
 namespace corvalis {
 
-/// Every caption and tool-tip of every screen, one getter a text, in Windows-1252.
+/// Every caption and tool-tip of every screen, one getter a text, in Windows-1252. What the program
+/// says beyond these is in the same file, see config/words.h.
 ///
 /// They come from the language file that the station record names, in the folder that the record
 /// has at that moment. A text that the file lacks is the built-in English one, which is then
@@ -22,6 +25,10 @@ class LanguageData {
   /// text. Nothing fails: a file that can't be written stays as it is.
   void InitLanguage();
 
+  /// What the section "Words" of the file had under this key at the last loading; empty if nothing.
+  /// That section is never written.
+  [[nodiscard]] std::string_view Word(std::string_view english) const;
+
 #define CORVALIS_TEXT(section, key, getter, preset) \
   [[nodiscard]] const std::string& getter() const { return texts_[k##getter]; }
 #include "config/language_texts.inc"
@@ -36,6 +43,7 @@ class LanguageData {
   };
 
   std::array<std::string, kTextCount> texts_;
+  std::unordered_map<std::string, std::string> words_;  // by the English text in small letters
 };
 
 /// The file that the texts are loaded from, as the station record names it at this moment; empty if

@@ -4,6 +4,7 @@
 #include <QMessageBox>
 
 #include "desktop/views/views.h"
+#include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/style.h"
 #include "machine/folders.h"
 
@@ -31,6 +32,7 @@ Program::~Program() {
 
 void Program::Start() {
   menu_ = std::make_unique<MainForm>();
+  menu_->LanguageRead = LanguageRead;
   menu_->Ended = [] { QApplication::exit(); };  // quit() would ask the windows first
   menu_->Load();
 }

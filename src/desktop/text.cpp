@@ -4,6 +4,7 @@
 #include <QKeyEvent>
 #include <algorithm>
 
+#include "config/words.h"
 #include "screen/keys.h"
 
 namespace corvalis::desktop {
@@ -20,6 +21,11 @@ QString FromContent(const std::string& bytes, TextBox::Content content) {
 
 std::string ToContent(const QString& text, TextBox::Content content) {
   return content == TextBox::Content::kFileName ? ToFileName(text) : ToBytes(text);
+}
+
+QString Wording::Text() const {
+  const QString text = FromBytes(Word(english_));
+  return value_.isNull() ? text : text.arg(value_);
 }
 
 QString OneLine(const QString& clip) {

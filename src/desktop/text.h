@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <string>
+#include <utility>
 
 #include "machine/qt_text.h"
 #include "screen/text_box.h"
@@ -20,6 +21,20 @@ using machine::ToFileName;
 [[nodiscard]] QString FromContent(const std::string& bytes, TextBox::Content content);
 /// The way back.
 [[nodiscard]] std::string ToContent(const QString& text, TextBox::Content content);
+
+/// A text of ours, by its English words (see config/words.h); it may have one value in it, "%1".
+/// It is put into the language of the moment when it is shown, so that it can follow another one.
+class Wording {
+ public:
+  explicit Wording(const char* english, QString value = {})
+      : english_(english), value_(std::move(value)) {}
+
+  [[nodiscard]] QString Text() const;
+
+ private:
+  const char* english_;
+  QString value_;
+};
 
 /// What a box of one line takes of a text: its first line, without control characters.
 [[nodiscard]] QString OneLine(const QString& clip);

@@ -18,15 +18,6 @@ std::string_view Trim(std::string_view text) {
   return TrimBack(text.substr(std::min(text.find_first_not_of(" \t"), text.size())));
 }
 
-/// The name as the index has it.
-std::string Folded(std::string_view name) {
-  std::string folded(Trim(name));
-  for (char& c : folded) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  return folded;
-}
-
 std::string_view NameOf(std::string_view line) { return line.substr(0, line.find('=')); }
 
 std::optional<std::string_view> SectionName(std::string_view line) {
@@ -48,7 +39,21 @@ std::string_view WithoutQuotes(std::string_view value) {
   return quoted ? value.substr(1, value.size() - 2) : value;
 }
 
+/// What stands behind the "=" of a key's line.
+std::string_view ValueOf(std::string_view line) {
+  line = FirstLine(line);
+  return WithoutQuotes(Trim(line.substr(std::min(NameOf(line).size() + 1, line.size()))));
+}
+
 }  // namespace
+
+std::string ProfileDocument::Folded(std::string_view name) {
+  std::string folded(Trim(name));
+  for (char& c : folded) {
+    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
+  }
+  return folded;
+}
 
 void ProfileDocument::Parse(std::string_view text) {
   pieces_.clear();
@@ -96,9 +101,16 @@ std::optional<std::string_view> ProfileDocument::Value(std::string_view section,
   if (place == sections_.end()) return std::nullopt;
   const auto found = place->second.keys.find(Folded(key));
   if (found == place->second.keys.end()) return std::nullopt;
-  const std::string_view line = FirstLine(*found->second);
-  const std::size_t name_end = NameOf(line).size();
-  return WithoutQuotes(Trim(line.substr(std::min(name_end + 1, line.size()))));
+  return ValueOf(*found->second);
+}
+
+std::unordered_map<std::string, std::string> ProfileDocument::Values(
+    std::string_view section) const {
+  std::unordered_map<std::string, std::string> values;
+  const auto place = sections_.find(Folded(section));
+  if (place == sections_.end()) return values;
+  for (const auto& [key, piece] : place->second.keys) values.emplace(key, ValueOf(*piece));
+  return values;
 }
 
 void ProfileDocument::Set(std::string_view section, std::string_view key, std::string_view value) {

@@ -30,6 +30,12 @@ class ProfileDocument {
   [[nodiscard]] std::optional<std::string_view> Value(std::string_view section,
                                                       std::string_view key) const;
 
+  /// All keys of the section, as `Folded` has them, with what `Value` gives for each.
+  [[nodiscard]] std::unordered_map<std::string, std::string> Values(std::string_view section) const;
+
+  /// The name by which a section or a key is found: without the blanks around it, in small letters.
+  [[nodiscard]] static std::string Folded(std::string_view name);
+
   /// Gives the key a value, without the blanks around it; the value ends at its first line end. A
   /// new key goes to the end of its section, before the blank lines that close it; a new section
   /// to the end of the text. Names must pass `CanHold`.

@@ -38,6 +38,11 @@ std::optional<std::string_view> ProfileFile::Read(std::string_view section, std:
   return document_.Value(section, key);
 }
 
+std::unordered_map<std::string, std::string> ProfileFile::ReadSection(std::string_view section) {
+  if (!Refresh()) return {};
+  return document_.Values(section);
+}
+
 bool ProfileFile::Edit(std::string_view section, std::string_view key, std::string_view value) {
   if (!ProfileDocument::CanHold(section, key)) return false;
   // The commit looks at the file anyhow.

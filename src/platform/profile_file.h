@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 #include "platform/profile_document.h"
 
@@ -21,6 +22,10 @@ class ProfileFile {
   /// missing or can't be read.
   [[nodiscard]] std::optional<std::string_view> Read(std::string_view section,
                                                      std::string_view key);
+
+  /// All keys of the section, in small letters, with their values; none if there is no such section
+  /// or it can't be read.
+  [[nodiscard]] std::unordered_map<std::string, std::string> ReadSection(std::string_view section);
 
   /// Gives the key a value in memory, to be committed later. False if no line can hold it or the
   /// file can't be read.

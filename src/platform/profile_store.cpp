@@ -1,5 +1,6 @@
 #include "platform/profile_store.h"
 
+#include <algorithm>
 #include <exception>
 #include <unordered_map>
 #include <utility>
@@ -71,6 +72,18 @@ std::string ProfileStore::Read(const std::string& path, std::string_view section
   try {
     const auto value = (*files_)[path].Read(section, key);
     return std::string(value.value_or(std::string_view()).substr(0, buffer_size - 1));
+  } catch (const std::exception&) {
+    files_->Forget(path);
+    return {};
+  }
+}
+
+std::unordered_map<std::string, std::string> ProfileStore::ReadSection(const std::string& path,
+                                                                       std::string_view section) {
+  try {
+    auto values = (*files_)[path].ReadSection(section);
+    for (auto& [key, value] : values) value.resize(std::min(value.size(), kBufferSize - 1));
+    return values;
   } catch (const std::exception&) {
     files_->Forget(path);
     return {};

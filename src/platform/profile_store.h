@@ -5,6 +5,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 namespace corvalis {
 
@@ -36,6 +37,11 @@ class ProfileStore {
   /// read.
   [[nodiscard]] std::string Read(const std::string& path, std::string_view section,
                                  std::string_view key, std::size_t buffer_size = kBufferSize);
+
+  /// All keys of the section, in small letters, with the values that `Read` gives for them; none if
+  /// the file or the section is missing or can't be read.
+  [[nodiscard]] std::unordered_map<std::string, std::string> ReadSection(const std::string& path,
+                                                                         std::string_view section);
 
   /// Writes one key, creating the file and the section where they are missing. A new key goes to
   /// the end of its section, before the blank lines that close it; a new section to the end of the

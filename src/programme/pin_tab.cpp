@@ -7,6 +7,7 @@
 #include "config/conversions.h"
 #include "config/language_data.h"
 #include "config/programme_types.h"
+#include "config/words.h"
 #include "link/utility.h"
 #include "platform/platform.h"
 #include "programme/pin_data.h"
@@ -55,12 +56,12 @@ std::string PinCell(int row, int column) {
 
 std::vector<GridColumn> PinColumns() {
   using Kind = GridColumn::Kind;
-  return {{.heading = "PIN", .width = 8},
-          {.heading = "Day", .kind = Kind::kText, .width = 5, .max_length = kDayDigits},
-          {.heading = "Time", .kind = Kind::kText, .width = 7, .max_length = kTimeCharacters},
-          {.heading = "Type", .kind = Kind::kText, .width = 28},
-          {.heading = "Code", .width = 6},
-          {.heading = "Issued", .width = 7}};
+  return {{.width = 8},
+          {.kind = Kind::kText, .width = 5, .max_length = kDayDigits},
+          {.kind = Kind::kText, .width = 7, .max_length = kTimeCharacters},
+          {.kind = Kind::kText, .width = 28},
+          {.width = 6},
+          {.width = 7}};
 }
 
 }  // namespace
@@ -170,6 +171,8 @@ void PinTab::ChooseType() {
 
 void PinTab::InitCaptions() {
   const LanguageData& texts = *languageData;
+  DBGrid4.SetHeadings(
+      {"PIN", Word("Day"), Word("Time"), Word("Type"), Word("Code"), Word("Issued")});
   Command6.SetTexts(texts.PinReadKey(), texts.PinReadTip());
   Command23.SetTexts(texts.PinReadAllKey(), texts.PinReadAllTip());
   Command8.SetTexts(texts.PinSendOneKey(), texts.PinSendOneTip());

@@ -5,6 +5,7 @@
 
 #include "config/conversions.h"
 #include "config/language_data.h"
+#include "config/words.h"
 #include "platform/platform.h"
 #include "programme/psn_page_data.h"
 #include "screen/keys.h"
@@ -27,14 +28,13 @@ bool IsDigit(int key) { return key >= '0' && key <= '9'; }
 std::vector<GridColumn> PlanColumns() {
   using Kind = GridColumn::Kind;
   std::vector<GridColumn> columns{
-      {.heading = "Row", .width = 4},
-      {.heading = "Time", .kind = Kind::kText, .width = 6, .max_length = kTimeCharacters},
-      {.heading = "Date", .kind = Kind::kText, .width = 11, .max_length = kDateCharacters}};
-  for (const char* day : {"Mon", "Tue", "Wed", "Thu", "Fri", "Sat", "Sun"}) {
-    columns.push_back({.heading = day, .kind = Kind::kButton, .width = 4});
-  }
-  columns.push_back({.heading = "Page", .kind = Kind::kText, .width = 5, .max_length = 1});
-  columns.push_back({.heading = "Enable", .kind = Kind::kButton, .width = 6});
+      {.width = 4},
+      {.kind = Kind::kText, .width = 6, .max_length = kTimeCharacters},
+      {.kind = Kind::kText, .width = 11, .max_length = kDateCharacters}};
+  for (int day = kMonday; day < kPage; ++day)
+    columns.push_back({.kind = Kind::kButton, .width = 4});
+  columns.push_back({.kind = Kind::kText, .width = 5, .max_length = 1});
+  columns.push_back({.kind = Kind::kButton, .width = 6});
   return columns;
 }
 
@@ -194,6 +194,9 @@ void PsnPlanTab::ShowSelected() { PlanSelectedLabel.SetCaption(RowName(PsnPlanDB
 
 void PsnPlanTab::InitCaptions() {
   const LanguageData& texts = *languageData;
+  PsnPlanDBGrid.SetHeadings({Word("Row"), Word("Time"), Word("Date"), Word("Mon"), Word("Tue"),
+                             Word("Wed"), Word("Thu"), Word("Fri"), Word("Sat"), Word("Sun"),
+                             Word("Page"), Word("Enable")});
   ReadPlanCommand.SetTexts(texts.PsnPlanReadOneKey(), texts.PsnPlanReadOneTip());
   ReadAllPlanCommand.SetTexts(texts.PsnPlanReadAllKey(), texts.PsnPlanReadAllTip());
   SendPlanCommand.SetTexts(texts.PsnPlanSendOneListKey(), texts.PsnPlanSendOneListTip());

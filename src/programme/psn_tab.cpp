@@ -6,6 +6,7 @@
 #include "config/config_data.h"
 #include "config/conversions.h"
 #include "config/language_data.h"
+#include "config/words.h"
 #include "link/link_error.h"
 #include "link/list_commands.h"
 #include "link/serial_management.h"
@@ -38,17 +39,13 @@ int ValueOf(const TextBox& box) { return ParseDecimal<std::int32_t>(box.Text()).
 PsnTab::PsnTab(Window& window)
     : window_(window),
       DBGrid1(window, "DBGrid1",
-              {{.heading = "PSN", .width = 8},
-               {.heading = "Time",
-                .kind = GridColumn::Kind::kText,
-                .width = 6,
-                .max_length = kRotationDigits},
-               {.heading = "Text",
-                .kind = GridColumn::Kind::kText,
+              {{.width = 8},
+               {.kind = GridColumn::Kind::kText, .width = 6, .max_length = kRotationDigits},
+               {.kind = GridColumn::Kind::kText,
                 .width = kPsnCharacters + 2,
                 .max_length = kPsnCharacters,
                 .every_place = true},
-               {.heading = "Active", .kind = GridColumn::Kind::kButton}}),
+               {.kind = GridColumn::Kind::kButton}}),
       // The runs go over the plain list's count on the pages too.
       buttons_(window,
                {.read_one = &Command19,
@@ -61,10 +58,6 @@ PsnTab::PsnTab(Window& window)
                  .read = ActivePsn::GetOneRds,
                  .send = ActivePsn::SetOneRds,
                  .grid = &DBGrid1}}) {
-  ScrollTextLabel.SetCaption("Text");
-  ScrollFromLabel.SetCaption("From row");
-  ScrollToLabel.SetCaption("To row");
-  ScrollTimeLabel.SetCaption("Time");
   SetGridRules();
   SetScrollRules();
   SetPageRules();
@@ -251,6 +244,11 @@ void PsnTab::InitCaptions() {
   Text10.SetTexts(texts.PsnPageKey(), texts.PsnPageTip());
   PageNumberText.SetToolTip(texts.PsnPageTip());
   PageNumberScroll.SetToolTip(texts.PsnPageTip());
+  DBGrid1.SetHeadings({"PSN", Word("Time"), Word("Text"), Word("Active")});
+  ScrollTextLabel.SetCaption(Word("Text"));
+  ScrollFromLabel.SetCaption(Word("From row"));
+  ScrollToLabel.SetCaption(Word("To row"));
+  ScrollTimeLabel.SetCaption(Word("Time"));
   Command24.SetTexts(texts.PsnScrollTextKey(), texts.PsnScrollTextTip());
   Text11.SetToolTip(texts.PsnScrollTextTip());
   Command19.SetTexts(texts.PsnReadOneKey(), texts.PsnReadOneTip());

@@ -4,6 +4,7 @@
 
 #include "config/conversions.h"
 #include "config/language_data.h"
+#include "config/words.h"
 #include "link/list_commands.h"
 #include "link/utility.h"
 #include "programme/rt_data.h"
@@ -24,10 +25,9 @@ std::int16_t Index(int row) { return static_cast<std::int16_t>(row); }
 RtTab::RtTab(Window& window)
     : window_(window),
       DBGrid3(window, "DBGrid3",
-              {{.heading = "RT", .width = 6},
-               {.heading = "Time", .kind = GridColumn::Kind::kText, .width = 6},
-               {.heading = "Text",
-                .kind = GridColumn::Kind::kText,
+              {{.width = 6},
+               {.kind = GridColumn::Kind::kText, .width = 6},
+               {.kind = GridColumn::Kind::kText,
                 .width = kRtCharacters + 2,
                 .max_length = kRtCharacters,
                 .every_place = true}}),
@@ -81,6 +81,7 @@ void RtTab::ShowSelected() {
 
 void RtTab::InitCaptions() {
   const LanguageData& texts = *languageData;
+  DBGrid3.SetHeadings({"RT", Word("Time"), Word("Text")});
   Command9.SetTexts(texts.RtReadKey(), texts.RtReadTip());
   Command22.SetTexts(texts.RtReadAllKey(), texts.RtReadAllTip());
   Command14.SetTexts(texts.RtSendOneKey(), texts.RtSendOneTip());

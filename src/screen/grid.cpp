@@ -26,6 +26,11 @@ Grid::Grid(Window& window, std::string name, std::vector<GridColumn> columns)
   };
 }
 
+void Grid::SetHeadings(const std::vector<std::string>& headings) {
+  for (std::size_t i = 0; i < columns_.size(); ++i) columns_[i].heading = headings.at(i);
+  Redraw();
+}
+
 bool Grid::Exists(int row, int column) const {
   return row >= 0 && row < Rows() && column >= 0 && column < static_cast<int>(columns_.size());
 }

@@ -20,7 +20,7 @@ struct GridColumn {
     kButton,  ///< pressed; the form says what that does
   };
 
-  std::string heading;
+  std::string heading = {};
   Kind kind = Kind::kShown;
   int width = 8;             ///< characters that it has room for
   int max_length = 0;        ///< bytes that an open cell holds; 0: no end
@@ -72,6 +72,8 @@ class Grid : public Control {
   std::function<void()> Scrolled;
 
   [[nodiscard]] const std::vector<GridColumn>& Columns() const { return columns_; }
+  /// Gives the columns their headings, as a screen takes its language.
+  void SetHeadings(const std::vector<std::string>& headings);
   [[nodiscard]] int Rows() const { return RowCount ? RowCount() : 0; }
   /// The current row; `kNoRow` in a grid without rows.
   [[nodiscard]] int Row() const { return row_ < Rows() ? row_ : kNoRow; }

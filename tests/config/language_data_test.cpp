@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "config/config_data.h"
+#include "config/words.h"
 #include "support/places.h"
 #include "support/test_machine.h"
 
@@ -143,12 +144,33 @@ TEST_F(LanguageTest, NameOfTheFileByTheRecord) {
   EXPECT_EQ(LanguageData().MainSaveKey(), "ECRIRE");
 }
 
+TEST_F(LanguageTest, WordsAreFoundByTheirEnglishTextAndNeverWritten) {
+  EXPECT_EQ(Word("Current row"), "Current row");
+  const std::string words =
+      "[Words]\r\nlocale=de\r\ncurrent ROW=Aktuelle Zeile\r\n%1 of %2=%2, 9 %, davon %1\r\n"
+      "Time=\r\n";
+  WriteFile(LanguageFile(), words);
+  LanguageData texts;
+  languageData = &texts;
+  EXPECT_EQ(Word("Current row"), "Aktuelle Zeile");
+  EXPECT_EQ(Word("Time"), "Time");
+  EXPECT_EQ(Word("%1 of %2", {"%2", "b"}), "b, 9 %, davon %2");
+  EXPECT_EQ(LanguageCode(), "de");
+  EXPECT_TRUE(ReadFile(LanguageFile()).starts_with(words + "[MAIN]"));
+  WriteFile(LanguageFile(), "");
+  EXPECT_EQ(Word("Current row"), "Aktuelle Zeile");  // until the next loading
+  texts.InitLanguage();
+  EXPECT_EQ(Word("Current row") + LanguageCode(), "Current rowen_GB");
+  languageData = nullptr;
+}
+
 TEST_F(LanguageTest, FilesOfOtherLanguagesAreComplete) {
   std::vector<Text> english = Defaults();
   for (Text& text : english) text.value.clear();
   for (const char* name : {"/German.ini", "/French.ini", "/Italian.ini"}) {
     SCOPED_TRACE(name);
     std::vector<Text> other = Parse(ReadFile(kExamples + std::string(name)));
+    std::erase_if(other, [](const Text& text) { return text.section == "Words"; });
     for (Text& text : other) {
       EXPECT_FALSE(std::exchange(text.value, "").empty()) << text.key;
     }

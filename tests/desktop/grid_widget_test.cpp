@@ -28,7 +28,7 @@ namespace {
 struct View : WindowView {
   explicit View(test::GridForm& form)
       : WindowView(form.window),
-        grid(new GridWidget(form.grid, this, QStringLiteral("Names"))),
+        grid(new GridWidget(form.grid, this, Wording("Names"))),
         box(new TextBoxWidget(form.box, 8, this)) {
     ListPage(this, grid, {&form.button}, {}, {box});
     last = this;

@@ -1,5 +1,6 @@
 #include "desktop/views/af_a_page.h"
 
+#include "config/words.h"
 #include "desktop/widgets/look/band_strip_widget.h"
 #include "desktop/widgets/look/layout.h"
 #include "desktop/widgets/look/style.h"
@@ -20,12 +21,13 @@ AfAPage::AfAPage(AfATab& tab, QWidget* parent) : QWidget(parent) {
   grid->setHorizontalSpacing(kNear);
   grid->setVerticalSpacing(kNear);
   for (int i = 0; i < air::kAfEntries; ++i) {
-    AddNumbered(*grid, i + 1, kInLine, QStringLiteral("Frequency"),
+    AddNumbered(*grid, i + 1, kInLine, LaterWord("Frequency %1"),
                 FixedBox(tab.Text39[i], kCharacters, group));
   }
   QLabel* note = QuietText(
-      QStringLiteral("FM in MHz, LF and MF in kHz, 0 for none. A frequency between the 100 kHz "
-                     "steps, on LF or on MF takes two places: it closes a box at the end."),
+      Wording(
+          "FM in MHz, LF and MF in kHz, 0 for none. A frequency between the 100 kHz steps, on LF "
+          "or on MF takes two places: it closes a box at the end."),
       group);
   note->setWordWrap(true);
   grid->addWidget(note, grid->rowCount(), 0, 1, kNumberedColumns * kInLine);

@@ -1,5 +1,6 @@
 #include "desktop/views/af_b_page.h"
 
+#include "config/words.h"
 #include "desktop/widgets/lists/combo_box_widget.h"
 #include "desktop/widgets/look/band_strip_widget.h"
 #include "desktop/widgets/look/layout.h"
@@ -21,7 +22,7 @@ QWidget* Alternatives(AfBTab& tab, QWidget* parent) {
   grid->setHorizontalSpacing(kNear);
   grid->setVerticalSpacing(kNear);
   for (int i = 1; i < AfBTab::kBoxes; ++i) {
-    AddNumbered(*grid, i, kInLine, QStringLiteral("Alternative frequency"),
+    AddNumbered(*grid, i, kInLine, LaterWord("Alternative frequency %1"),
                 FixedBox(tab.Text2[i], kCharacters, group));
   }
   grid->addWidget(new BandStripWidget(tab.AfBBandStrip, group), grid->rowCount(), 0, 1,

@@ -29,7 +29,7 @@ QWidget* IdLine(TextBox& id, Button& send, QWidget* parent) {
 }
 
 QWidget* CoderId(ConnectionForm& form, QWidget* parent) {
-  auto* group = new QGroupBox(QStringLiteral("Coder"), parent);
+  auto* group = Group(Wording("Coder"), parent);
   QGridLayout* fields = Fields(group);
   AddField(*fields, form.AddressLabel, IdLine(form.Text1, form.Command4, group));
   AddField(*fields, form.NewAddressLabel, IdLine(form.Text2, form.Command5, group));
@@ -37,8 +37,8 @@ QWidget* CoderId(ConnectionForm& form, QWidget* parent) {
   return group;
 }
 
-QGroupBox* Ticks(const QString& title, std::initializer_list<CheckBox*> boxes, QWidget* parent) {
-  auto* group = new QGroupBox(title, parent);
+QGroupBox* Ticks(const Wording& title, std::initializer_list<CheckBox*> boxes, QWidget* parent) {
+  auto* group = Group(title, parent);
   auto* column = new QVBoxLayout(group);
   column->setSpacing(kTight);
   for (CheckBox* box : boxes) column->addWidget(new CheckBoxWidget(*box, group));
@@ -54,24 +54,23 @@ QWidget* Selection(ConnectionForm& form, QWidget* parent) {
   columns->setContentsMargins(0, 0, 0, 0);
   columns->setSpacing(kApart);
   columns->addWidget(
-      Ticks(QStringLiteral("Texts"),
-            {&form.PsnCheck, &form.PSNPagesCheck, &form.Check3, &form.PtynCheck}, part),
+      Ticks(Wording("Texts"), {&form.PsnCheck, &form.PSNPagesCheck, &form.Check3, &form.PtynCheck},
+            part),
       0, 0);
-  QGroupBox* frequencies = Ticks(QStringLiteral("Frequencies"), {&form.Check2}, part);
+  QGroupBox* frequencies = Ticks(Wording("Frequencies"), {&form.Check2}, part);
   auto* methods = static_cast<QVBoxLayout*>(frequencies->layout());
   for (OptionButton* method : {&form.AFAOption, &form.AFBOption}) {
     methods->insertWidget(methods->count() - 1, new OptionWidget(*method, frequencies));
   }
   columns->addWidget(frequencies, 1, 0);
-  columns->addWidget(Ticks(QStringLiteral("Identity"),
+  columns->addWidget(Ticks(Wording("Identity"),
                            {&form.Check1, &form.EccCheck, &form.LicCheck, &form.Check11,
                             &form.Check8, &form.Check5, &form.Check4},
                            part),
                      0, 1, 2, 1);
-  columns->addWidget(Ticks(QStringLiteral("Networks"), {&form.EonCheck, &form.LiCheck}, part), 0,
+  columns->addWidget(Ticks(Wording("Networks"), {&form.EonCheck, &form.LiCheck}, part), 0, 2);
+  columns->addWidget(Ticks(Wording("Data"), {&form.Check6, &form.Check7, &form.TmcCheck}, part), 1,
                      2);
-  columns->addWidget(
-      Ticks(QStringLiteral("Data"), {&form.Check6, &form.Check7, &form.TmcCheck}, part), 1, 2);
   for (const int column : {0, 1, 2}) columns->setColumnStretch(column, 1);
   return part;
 }

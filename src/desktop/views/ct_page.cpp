@@ -4,6 +4,7 @@
 #include <QLineEdit>
 
 #include "desktop/widgets/lists/calendar_widget.h"
+#include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/layout.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/presses/spinner_widget.h"
@@ -25,15 +26,15 @@ QWidget* Time(CtTab& tab, QWidget* parent) {
   QLineEdit* time = CodeBox(tab.Text1, kTimeColumns, group);
   group->setFocusProxy(time);
   auto* hours = new SpinnerWidget(tab.VScroll2, group);
-  hours->setAccessibleName(QStringLiteral("Hours"));
+  CallByWord(*hours, Wording("Hours"));
   auto* minutes = new SpinnerWidget(tab.VScroll1, group);
-  minutes->setAccessibleName(QStringLiteral("Minutes"));
+  CallByWord(*minutes, Wording("Minutes"));
   QHBoxLayout* row = Row(group);
   row->setSpacing(kTight);
   row->addWidget(hours);
-  row->addWidget(QuietText(QStringLiteral("h"), group));
+  row->addWidget(QuietText(Wording("h"), group));
   row->addWidget(time);
-  row->addWidget(QuietText(QStringLiteral("min"), group));
+  row->addWidget(QuietText(Wording("min"), group));
   row->addWidget(minutes);
   for (SpinnerWidget* spinner : {hours, minutes}) spinner->Moves(*time);
   return group;
@@ -45,7 +46,7 @@ CtPage::CtPage(CtTab& tab, QWidget* parent) : QWidget(parent) {
   auto* date = new QGroupBox(this);
   auto* calendar = new CalendarWidget(tab.Calendar1, date);
   auto* day = new QVBoxLayout(date);
-  day->addWidget(Heading(QStringLiteral("Date"), calendar));
+  day->addWidget(Heading(Wording("Date"), calendar));
   day->addWidget(calendar, 1);
 
   auto* time = new QGroupBox(this);

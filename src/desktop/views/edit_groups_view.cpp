@@ -3,6 +3,7 @@
 #include <QGroupBox>
 
 #include "desktop/text.h"
+#include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/layout.h"
 #include "desktop/widgets/look/progress_bar_widget.h"
 #include "desktop/widgets/look/style.h"
@@ -24,13 +25,13 @@ constexpr int kBlock = kGroupNumbers / 2;
 
 void AddGroup(EditGroupsForm& form, int group, QGridLayout& grid, int row, int column,
               QWidget* parent) {
-  const QString name = QStringLiteral("Group ") + FromBytes(GroupName(group));
+  const QString name = FromBytes(GroupName(group));
   auto* box = new CheckBoxWidget(form.Check1[group], parent);
-  box->setAccessibleName(name);
+  CallByWord(*box, Wording("Group %1", name));
   grid.addWidget(box, row, column);
   auto* repetitions =
       new SpinField(form.Text1[group], form.VScroll2[group], kRepetitionColumns, parent);
-  repetitions->Name(name + QStringLiteral(", repetitions"));
+  repetitions->Name(Wording("Group %1, repetitions", name));
   grid.addWidget(repetitions, row, column + 1);
 }
 
@@ -49,10 +50,10 @@ QWidget* Block(EditGroupsForm& form, int first, QWidget* parent) {
     grid->setColumnMinimumWidth(column - 1, kTight);
   }
   for (const int column : {kVersionAColumn, kVersionBColumn}) {
-    grid->addWidget(QuietText(QStringLiteral("Group"), block), 0, column);
-    grid->addWidget(QuietText(QStringLiteral("Repetitions"), block), 0, column + 1);
+    grid->addWidget(QuietText(Wording("Group"), block), 0, column);
+    grid->addWidget(QuietText(Wording("Repetitions"), block), 0, column + 1);
   }
-  grid->addWidget(QuietText(QStringLiteral("Share of the cycle"), block), 0, kShareColumn, 1, 2);
+  grid->addWidget(QuietText(Wording("Share of the cycle"), block), 0, kShareColumn, 1, 2);
   for (int line = 0; line < kBlock; ++line) {
     const int number = first + line;
     const int row = line + 1;
@@ -63,7 +64,7 @@ QWidget* Block(EditGroupsForm& form, int first, QWidget* parent) {
     KeepRoom(*share, QStringLiteral("100 %"));
     grid->addWidget(share, row, kShareColumn);
     auto* bar = new ProgressBarWidget(form.PercentBar[number], block);
-    bar->setAccessibleName(QStringLiteral("Share of group %1").arg(number));
+    CallByWord(*bar, Wording("Share of group %1", QString::number(number)));
     grid->addWidget(bar, row, kBarColumn);
   }
   grid->setColumnStretch(kBarColumn, 1);
@@ -77,7 +78,8 @@ QWidget* Selected(EditGroupsForm& form, QWidget* parent) {
   row->setSpacing(kGap);
   auto* name = new LabelWidget(form.SelectedLabel, part);
   name->setFont(Bold(name->font()));
-  KeepRoom(*name, QStringLiteral("Group 00A"));
+  FollowLanguage(*name,
+                 [name] { KeepRoom(*name, Wording("Group %1", QStringLiteral("00A")).Text()); });
   row->addWidget(name);
   row->addWidget(ButtonRow({&form.Command2, &form.Command11}, part));
   return part;

@@ -2,7 +2,9 @@
 
 #include <QGroupBox>
 
+#include "config/words.h"
 #include "desktop/widgets/lists/drop_down_widget.h"
+#include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/layout.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/presses/check_box_widget.h"
@@ -41,7 +43,7 @@ QWidget* MethodA(EonTab& tab, QWidget* parent) {
   auto* grid = new QGridLayout(group);
   grid->setHorizontalSpacing(kNear);
   for (int i = 0; i < kEonAfA; ++i) {
-    AddNumbered(*grid, i + 1, kEonAfA, QStringLiteral("AF method A"),
+    AddNumbered(*grid, i + 1, kEonAfA, LaterWord("AF method A %1"),
                 FixedBox(tab.EonAfAText[i], kFrequency, group));
   }
   return group;
@@ -54,8 +56,8 @@ QWidget* MethodB(EonTab& tab, QWidget* parent) {
   auto* grid = new QGridLayout(group);
   grid->setHorizontalSpacing(kNear);
   grid->setVerticalSpacing(kNear);
-  grid->addWidget(QuietText(QStringLiteral("Main"), group), 0, 1);
-  grid->addWidget(QuietText(QStringLiteral("Alternative"), group), 0, 3);
+  grid->addWidget(QuietText(Wording("Main"), group), 0, 1);
+  grid->addWidget(QuietText(Wording("Alternative"), group), 0, 3);
   for (int i = 0; i < kEonAfB; ++i) {
     const int row = 1 + i / 2;
     QWidget* box = FixedBox(tab.EonAfBText[i], kFrequency, group);
@@ -65,9 +67,9 @@ QWidget* MethodB(EonTab& tab, QWidget* parent) {
       label->Name(box);
       grid->addWidget(label, row, 2, Qt::AlignRight | Qt::AlignVCenter);
     } else {
-      const QString what = i % 2 == 0 ? QStringLiteral("Main frequency %1")
-                                      : QStringLiteral("Alternative frequency %1");
-      box->setAccessibleName(what.arg(row));
+      const char* what =
+          i % 2 == 0 ? LaterWord("Main frequency %1") : LaterWord("Alternative frequency %1");
+      CallByWord(*box, Wording(what, QString::number(row)));
       if (i % 2 == 0) grid->addWidget(QuietText(QString::number(row), group), row, 0);
     }
     grid->addWidget(box, row, i % 2 == 0 ? 1 : 3);

@@ -21,10 +21,10 @@ QWidget* Text(IhTab& tab, QWidget* parent) {
   auto* part = new QWidget(parent);
   QVBoxLayout* column = Column(part);
   auto* page = new DropDownWidget(tab.Combo1, part);
-  column->addWidget(Heading(QStringLiteral("Page"), page));
+  column->addWidget(Heading(Wording("Page"), page));
   column->addWidget(page);
   auto* text = new MemoWidget(tab.RichTextBox1, part);
-  column->addWidget(Heading(QStringLiteral("Text"), text));
+  column->addWidget(Heading(Wording("Text"), text));
   column->addWidget(text, 1);
   column->addWidget(new StateLine(tab.CountLabel, TextBox::Content::kWindows1252, part));
   column->addWidget(ButtonRow({&tab.Command8}, part));
@@ -32,7 +32,7 @@ QWidget* Text(IhTab& tab, QWidget* parent) {
 }
 
 QWidget* Selection(IhTab& tab, QWidget* parent) {
-  auto* group = new QGroupBox(QStringLiteral("Selected pages"), parent);
+  auto* group = Group(Wording("Selected pages"), parent);
   auto* grid = new QGridLayout(group);
   grid->setSpacing(kNear);
   for (int i = 0; i < IhTab::kBoxes; ++i) {

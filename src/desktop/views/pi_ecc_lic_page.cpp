@@ -33,8 +33,10 @@ PiEccLicPage::PiEccLicPage(PiEccLicTab& tab, QWidget* parent) : QWidget(parent) 
   code->setFocusProxy(digits);
   QHBoxLayout* line = Row(code);
   line->addWidget(digits);
-  line->addWidget(QuietText(QStringLiteral("country, coverage,\nID number (2 digits)"), code));
-  AddField(*pi, QStringLiteral("PI code"), code);
+  QLabel* parts = QuietText(Wording("country, coverage, ID number (2 digits)"), code);
+  parts->setWordWrap(true);
+  line->addWidget(parts);
+  AddField(*pi, Wording("PI code"), code);
   pi->addWidget(
       ButtonRow({&tab.ReadPiCommand, &tab.SendPiCommand, &tab.SendPiBurstCommand}, identity),
       pi->rowCount(), 1);
@@ -42,14 +44,14 @@ PiEccLicPage::PiEccLicPage(PiEccLicTab& tab, QWidget* parent) : QWidget(parent) 
   auto* extended = new LabelledGroup(tab.EccLabel, this);
   QGridLayout* ecc = Fields(extended);
   QLineEdit* country_code = CodeBox(tab.EccText, kEccColumns, extended);
-  AddField(*ecc, QStringLiteral("Country code"), country_code);
+  AddField(*ecc, Wording("Country code"), country_code);
   extended->Name(country_code);
   AddLine(*ecc, ButtonRow({&tab.ReadEccCommand, &tab.SendEccCommand, &tab.SendEccBurstCommand},
                           extended));
 
   auto* language = new LabelledGroup(tab.LicLabel, this);
   QGridLayout* lic = Fields(language);
-  AddField(*lic, QStringLiteral("Language"), new DropDownWidget(tab.LicCombo, language));
+  AddField(*lic, Wording("Language"), new DropDownWidget(tab.LicCombo, language));
   AddLine(*lic, ButtonRow({&tab.ReadLicCommand, &tab.SendLicCommand, &tab.SendLicBurstCommand},
                           language));
 

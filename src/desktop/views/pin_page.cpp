@@ -6,6 +6,7 @@
 
 #include "desktop/widgets/grid/grid_widget.h"
 #include "desktop/widgets/lists/drop_down_widget.h"
+#include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/layout.h"
 
 namespace corvalis::desktop {
@@ -18,8 +19,9 @@ class TypeList : public DropDownWidget {
   TypeList(PinTab& tab, GridWidget& grid)
       : DropDownWidget(tab.Combo1, grid.viewport()), tab_(tab), grid_(grid) {
     // A list is called by its label, be it seen or not.
-    auto* label = new QLabel(QStringLiteral("Type"), grid.viewport());
+    auto* label = new QLabel(grid.viewport());
     label->setBuddy(this);
+    ShowWord(*label, Wording("Type"));
     label->hide();
     grid_.Arranged = [this] { Place(); };
     Place();
@@ -59,7 +61,7 @@ class TypeList : public DropDownWidget {
 }  // namespace
 
 PinPage::PinPage(PinTab& tab, QWidget* parent) : QWidget(parent) {
-  auto* grid = new GridWidget(tab.DBGrid4, this, QStringLiteral("PIN"));
+  auto* grid = new GridWidget(tab.DBGrid4, this, Wording("PIN"));
   new TypeList(tab, *grid);
   ListPage(this, grid,
            {&tab.Command6, &tab.Command23, &tab.Command8, &tab.Command15, &tab.Command7}, {},

@@ -6,6 +6,7 @@
 #include "desktop/widgets/look/layout.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/presses/spinner_widget.h"
+#include "desktop/widgets/texts/label_widget.h"
 
 namespace corvalis::desktop {
 
@@ -29,7 +30,7 @@ QWidget* Pages(PsnTab& tab, QWidget* parent) {
 }
 
 QWidget* ScrollText(PsnTab& tab, QWidget* parent) {
-  auto* group = new QGroupBox(QStringLiteral("Scrolling text"), parent);
+  auto* group = Group(Wording("Scrolling text"), parent);
   QGridLayout* fields = Fields(group);
   AddField(*fields, tab.ScrollTextLabel, FixedBox(tab.Text11, kScrollColumns, group));
   AddField(*fields, tab.ScrollFromLabel, FixedBox(tab.Text12, kRowDigits, group));
@@ -45,7 +46,7 @@ PsnPage::PsnPage(PsnTab& tab, QWidget* parent) : QWidget(parent) {
   auto* list = new QWidget(this);
   QHBoxLayout* halves = Row(list);
   halves->setSpacing(kApart);
-  auto* grid = new GridWidget(tab.DBGrid1, list, QStringLiteral("PSN"));
+  auto* grid = new GridWidget(tab.DBGrid1, list, Wording("PSN"));
   halves->addWidget(grid, 1);
   auto* side = new QWidget(list);
   QVBoxLayout* column = Column(side);

@@ -41,7 +41,7 @@ LabelledGroup* Lists(const Field& first, std::initializer_list<Field> others, QW
 // From top to bottom as a call goes: the number, Hook, what the modem says, Hang up. The dialogue
 // stands between the two buttons also for the keyboard, which moves on to it once Hook is done.
 QWidget* Modem(RS232CForm& form, QWidget* parent) {
-  auto* group = new QGroupBox(QStringLiteral("Modem"), parent);
+  auto* group = Group(Wording("Modem"), parent);
   auto* grid = new QGridLayout(group);
   grid->setSpacing(kNear);
   grid->setColumnStretch(0, 1);
@@ -55,11 +55,11 @@ QWidget* Modem(RS232CForm& form, QWidget* parent) {
   tone->addStretch();
   auto* dialogue = new MemoWidget(form.Text1, group);
 
-  grid->addWidget(Heading(QStringLiteral("Telephone number"), number), 0, 0);
+  grid->addWidget(Heading(Wording("Telephone number"), number), 0, 0);
   grid->addWidget(number, 1, 0);
   grid->addWidget(tones, 2, 0, 1, 2);
   grid->addWidget(new ButtonWidget(form.Command2, group), 1, 1);
-  grid->addWidget(Heading(QStringLiteral("Dialogue with the modem"), dialogue), 3, 0, 1, 2);
+  grid->addWidget(Heading(Wording("Dialogue with the modem"), dialogue), 3, 0, 1, 2);
   grid->addWidget(dialogue, 4, 0, 1, 2);
   grid->addWidget(new ButtonWidget(form.Command1, group), 5, 1);
   return group;
@@ -93,8 +93,7 @@ RS232CView::RS232CView(RS232CForm& form) : WindowView(form.window) {
   QVBoxLayout* column = WindowColumn(this);
   column->addWidget(new BrandHeader(form.marks, nullptr, this));
   column->addLayout(halves, 1);
-  column->addWidget(
-      QuietText(QStringLiteral("Settings take effect when this window is closed."), this));
+  column->addWidget(QuietText(Wording("Settings take effect when this window is closed."), this));
 }
 
 }  // namespace corvalis::desktop

@@ -15,7 +15,7 @@ QWidget* Table(Label& caption, Label& mark, Grid& grid, QWidget* parent) {
   QVBoxLayout* column = Column(table);
   auto* head = new QWidget(table);
   QHBoxLayout* row = Row(head);
-  auto* list = new GridWidget(grid, table, {});
+  auto* list = new GridWidget(grid, table);
   auto* title = new LabelWidget(caption, head);
   title->setBuddy(list);
   title->Name(list);

@@ -6,7 +6,7 @@
 namespace corvalis::desktop {
 
 TmcPage::TmcPage(TmcTab& tab, QWidget* parent) : QWidget(parent) {
-  auto* grid = new GridWidget(tab.TmcDBGrid, this, QStringLiteral("TMC messages"));
+  auto* grid = new GridWidget(tab.TmcDBGrid, this, Wording("TMC messages"));
   ListPage(this, grid,
            {&tab.ReadTmcCommand, &tab.ReadAllTmcCommand, &tab.SendTmcCommand,
             &tab.SendAllTmcCommand, &tab.SendAllBurstTmcCommand},

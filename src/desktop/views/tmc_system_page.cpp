@@ -6,6 +6,7 @@
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/presses/check_box_widget.h"
 #include "desktop/widgets/presses/spinner_widget.h"
+#include "desktop/widgets/texts/label_widget.h"
 
 namespace corvalis::desktop {
 
@@ -18,15 +19,13 @@ constexpr int kDigits = 2;
 TmcSystemPage::TmcSystemPage(TmcSystemTab& tab, QWidget* parent) : QWidget(parent) {
   QVBoxLayout* column = NaturalColumn(this);
 
-  auto* numbers = new QGroupBox(QStringLiteral("System"), this);
+  auto* numbers = Group(Wording("System"), this);
   QGridLayout* fields = Fields(numbers);
-  AddField(*fields, QStringLiteral("LTN"),
-           new SpinField(tab.LtnText, tab.LtnVScroll, kDigits, numbers));
-  AddField(*fields, QStringLiteral("SID"),
-           new SpinField(tab.SidText, tab.SidVScroll, kDigits, numbers));
+  AddField(*fields, Wording("LTN"), new SpinField(tab.LtnText, tab.LtnVScroll, kDigits, numbers));
+  AddField(*fields, Wording("SID"), new SpinField(tab.SidText, tab.SidVScroll, kDigits, numbers));
   column->addWidget(numbers);
 
-  auto* scope = new QGroupBox(QStringLiteral("Scope"), this);
+  auto* scope = Group(Wording("Scope"), this);
   auto* boxes = new QVBoxLayout(scope);
   for (CheckBox* box :
        {&tab.InternationalCheck, &tab.NationalCheck, &tab.RegionalCheck, &tab.UrbanCheck}) {

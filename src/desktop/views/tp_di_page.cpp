@@ -7,6 +7,7 @@
 #include "desktop/widgets/look/layout.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/presses/check_box_widget.h"
+#include "desktop/widgets/texts/label_widget.h"
 
 namespace corvalis::desktop {
 
@@ -17,8 +18,8 @@ constexpr Length kFirstWidth{150};
 using Pair = std::array<CheckBox*, 2>;
 
 // Each pair in a line of its own; what one box says is the opposite of the other.
-QWidget* Pairs(const QString& title, std::initializer_list<Pair> pairs, QWidget* parent) {
-  auto* group = new QGroupBox(title, parent);
+QWidget* Pairs(const Wording& title, std::initializer_list<Pair> pairs, QWidget* parent) {
+  auto* group = Group(title, parent);
   auto* grid = new QGridLayout(group);
   grid->setHorizontalSpacing(2 * kApart);
   for (const Pair& pair : pairs) {
@@ -35,8 +36,8 @@ QWidget* Pairs(const QString& title, std::initializer_list<Pair> pairs, QWidget*
 
 TpDiPage::TpDiPage(TpDiTab& tab, QWidget* parent) : QWidget(parent) {
   QVBoxLayout* column = NaturalColumn(this);
-  column->addWidget(Pairs(QStringLiteral("TP"), {{&tab.Check1, &tab.Check10}}, this));
-  column->addWidget(Pairs(QStringLiteral("DI"),
+  column->addWidget(Pairs(Wording("TP"), {{&tab.Check1, &tab.Check10}}, this));
+  column->addWidget(Pairs(Wording("DI"),
                           {{&tab.Check2, &tab.Check3},
                            {&tab.Check4, &tab.Check5},
                            {&tab.Check6, &tab.Check7},

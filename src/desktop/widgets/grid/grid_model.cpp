@@ -1,6 +1,7 @@
 #include "desktop/widgets/grid/grid_model.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "desktop/text.h"
 
@@ -57,6 +58,15 @@ void GridModel::CountRows() {
     rows_ = rows;
     endRemoveRows();
   }
+}
+
+bool GridModel::TakeHeadings() {
+  std::vector<std::string> now;
+  for (const GridColumn& column : grid_.Columns()) now.push_back(column.heading);
+  if (now == headings_) return false;
+  headings_ = std::move(now);
+  emit headerDataChanged(Qt::Horizontal, 0, columnCount() - 1);
+  return true;
 }
 
 void GridModel::Tell(int first_row, int last_row) {

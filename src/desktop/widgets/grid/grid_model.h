@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <string>
+#include <vector>
 
 #include "screen/grid.h"
 
@@ -21,12 +23,15 @@ class GridModel : public QAbstractTableModel {
 
   /// Takes over how many rows the grid has now.
   void CountRows();
+  /// True if the headings have changed since the last call; tells the views.
+  bool TakeHeadings();
   /// Says that these rows may show something else.
   void Tell(int first_row, int last_row);
 
  private:
   Grid& grid_;
-  int rows_ = 0;  // that the view knows of
+  int rows_ = 0;                       // that the view knows of
+  std::vector<std::string> headings_;  // likewise
 };
 
 }  // namespace corvalis::desktop

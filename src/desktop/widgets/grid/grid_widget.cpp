@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "desktop/text.h"
+#include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/windows/binding.h"
 #include "screen/keys.h"
@@ -21,7 +22,7 @@ constexpr int kLeastRows = 4;
 constexpr int kLeastWidth = 320;
 }  // namespace
 
-GridWidget::GridWidget(Grid& grid, QWidget* parent, const QString& heading)
+GridWidget::GridWidget(Grid& grid, QWidget* parent, const std::optional<Wording>& heading)
     : QTableView(parent),
       grid_(grid),
       model_(new GridModel(grid, this)),
@@ -44,8 +45,8 @@ GridWidget::GridWidget(Grid& grid, QWidget* parent, const QString& heading)
   horizontalHeader()->setHighlightSections(false);
   // The frame shows the keyboard's presence in the open cell too.
   connect(qApp, &QApplication::focusChanged, this, [this] { QWidget::update(); });
-  const QString caption = FromBytes(grid.Caption());
-  setAccessibleName(caption.isEmpty() ? heading : caption);
+  setAccessibleName(FromBytes(grid.Caption()));
+  if (heading && grid.Caption().empty()) CallByWord(*this, *heading);
   FitFont();
   Bind(*this, grid, [this] { Draw(); });
 }
@@ -104,6 +105,7 @@ bool GridWidget::Active() const {
 void GridWidget::Draw() {
   CloseEditor();
   model_->CountRows();
+  if (model_->TakeHeadings()) FitFont();
   if (verticalScrollBar()->value() != grid_.FirstRow()) {
     const QScopedValueRollback<bool> guard(arranging_, true);
     verticalScrollBar()->setValue(grid_.FirstRow());

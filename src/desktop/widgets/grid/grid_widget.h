@@ -2,7 +2,9 @@
 
 #include <QTableView>
 #include <functional>
+#include <optional>
 
+#include "desktop/text.h"
 #include "desktop/widgets/grid/grid_delegate.h"
 #include "desktop/widgets/grid/grid_model.h"
 #include "screen/grid.h"
@@ -14,7 +16,7 @@ namespace corvalis::desktop {
 class GridWidget : public QTableView {
  public:
   /// `heading` says what the table is about where the grid has no caption.
-  GridWidget(Grid& grid, QWidget* parent, const QString& heading = {});
+  GridWidget(Grid& grid, QWidget* parent, const std::optional<Wording>& heading = {});
 
   /// The place of a cell in the table, as far as it is in view; empty if it is not.
   [[nodiscard]] QRect CellRect(int row, int column) const;

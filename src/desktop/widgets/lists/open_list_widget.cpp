@@ -11,6 +11,7 @@
 
 #include "desktop/text.h"
 #include "desktop/widgets/lists/list_keys.h"
+#include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/windows/binding.h"
 #include "screen/keys.h"
@@ -138,7 +139,7 @@ void OpenListWidget::focusOutEvent(QFocusEvent* event) {
 
 FileListWidget::FileListWidget(ListBox& files, QWidget* parent)
     : OpenListWidget(files, parent, TextBox::Content::kFileName), files_(files) {
-  setAccessibleName(QStringLiteral("Files"));
+  CallByWord(*this, Wording("Files"));
   setTextElideMode(Qt::ElideMiddle);
   setItemDelegate(new NameDelegate(this));
 }
@@ -180,7 +181,7 @@ void FileListWidget::keyPressEvent(QKeyEvent* event) {
 
 DirListWidget::DirListWidget(DirList& list, QWidget* parent)
     : FileListWidget(list, parent), list_(list) {
-  setAccessibleName(QStringLiteral("Folders"));
+  CallByWord(*this, Wording("Folders"));
   Draw();
 }
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "desktop/text.h"
+#include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/windows/binding.h"
 
@@ -32,7 +33,7 @@ bool InBand(const BandMark& mark) {
 BandStripWidget::BandStripWidget(BandStrip& strip, QWidget* parent)
     : QWidget(parent), strip_(strip) {
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-  setAccessibleName(QStringLiteral("FM band"));
+  CallByWord(*this, Wording("FM band"));
   Bind(*this, strip, [this] { Draw(); });
 }
 

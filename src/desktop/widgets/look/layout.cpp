@@ -2,6 +2,7 @@
 
 #include <QLabel>
 
+#include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/presses/button_widget.h"
 #include "desktop/widgets/presses/spinner_widget.h"
@@ -71,13 +72,15 @@ void AddField(QGridLayout& fields, Label& label, QWidget* field) {
   }
 }
 
-void AddField(QGridLayout& fields, const QString& word, QWidget* field) {
-  QWidget* box = AppendField(fields, new QLabel(word, field->parentWidget()), field);
-  box->setAccessibleName(word);
-  for (auto* spinner : field->findChildren<SpinnerWidget*>()) spinner->setAccessibleName(word);
+void AddField(QGridLayout& fields, const Wording& word, QWidget* field) {
+  auto* label = new QLabel(field->parentWidget());
+  QWidget* box = AppendField(fields, label, field);
+  ShowWord(*label, word);
+  CallByWord(*box, word);
+  for (auto* spinner : field->findChildren<SpinnerWidget*>()) CallByWord(*spinner, word);
 }
 
-void AddNumbered(QGridLayout& grid, int number, int in_line, const QString& name, QWidget* box) {
+void AddNumbered(QGridLayout& grid, int number, int in_line, const char* name, QWidget* box) {
   const int row = (number - 1) / in_line;
   const int column = (number - 1) % in_line * kNumberedColumns;
   QLabel* word = QuietText(QString::number(number), box->parentWidget());
@@ -85,7 +88,7 @@ void AddNumbered(QGridLayout& grid, int number, int in_line, const QString& name
   grid.addWidget(word, row, column);
   grid.addWidget(box, row, column + 1);
   grid.setColumnStretch(column + 2, 1);
-  box->setAccessibleName(name + QStringLiteral(" %1").arg(number));
+  CallByWord(*box, Wording(name, QString::number(number)));
 }
 
 void AddLine(QGridLayout& fields, QWidget* line) {
@@ -116,8 +119,9 @@ QWidget* ButtonRow(std::initializer_list<Button*> buttons, QWidget* parent) {
 QWidget* SelectedRow(Label& row, QWidget* list, QWidget* parent) {
   auto* part = new QWidget(parent);
   QHBoxLayout* line = Row(part);
-  auto* word = new QLabel(QStringLiteral("Current row"), part);
+  auto* word = new QLabel(part);
   word->setBuddy(list);
+  ShowWord(*word, Wording("Current row"));
   auto* name = new LabelWidget(row, part);
   name->setFont(Bold(name->font()));
   line->addWidget(word);

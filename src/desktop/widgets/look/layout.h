@@ -5,6 +5,7 @@
 #include <QLineEdit>
 #include <initializer_list>
 
+#include "desktop/text.h"
 #include "screen/button.h"
 #include "screen/control.h"
 #include "screen/text_box.h"
@@ -30,11 +31,12 @@ namespace corvalis::desktop {
 /// Appends a line to `fields`: `label` and `field`, which keeps its width if it has a fixed one.
 /// The label names what has the keyboard in `field`, and its spinner.
 void AddField(QGridLayout& fields, Label& label, QWidget* field);
-/// The same with a word that is the same in every language.
-void AddField(QGridLayout& fields, const QString& word, QWidget* field);
+/// The same with a text of ours.
+void AddField(QGridLayout& fields, const Wording& word, QWidget* field);
 /// Puts `box` and its number, which counts from 1, into the next place of a grid with `in_line` of
-/// them in a line. It takes `kNumberedColumns` columns and is called `name` and its number.
-void AddNumbered(QGridLayout& grid, int number, int in_line, const QString& name, QWidget* box);
+/// them in a line. It takes `kNumberedColumns` columns and is called `name`, which has the number
+/// in it.
+void AddNumbered(QGridLayout& grid, int number, int in_line, const char* name, QWidget* box);
 inline constexpr int kNumberedColumns = 3;
 /// Appends a line over both columns.
 void AddLine(QGridLayout& fields, QWidget* line);

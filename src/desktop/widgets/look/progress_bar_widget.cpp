@@ -1,5 +1,6 @@
 #include "desktop/widgets/look/progress_bar_widget.h"
 
+#include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/windows/binding.h"
 
@@ -32,7 +33,7 @@ ProgressBarWidget::ProgressBarWidget(ProgressBar& busy, QWidget* parent)
     : ProgressBarWidget(parent) {
   setRange(ProgressBar::kMin, ProgressBar::kMax);
   setMinimumWidth(kBusyWidth);
-  setAccessibleName(QStringLiteral("Busy"));
+  CallByWord(*this, Wording("Busy"));
   Bind(*this, busy, [this, &busy] { setValue(busy.Value()); });
 }
 

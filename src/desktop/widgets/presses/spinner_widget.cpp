@@ -8,6 +8,7 @@
 #include <QSignalBlocker>
 #include <QWheelEvent>
 
+#include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/texts/text_box_widget.h"
 #include "desktop/widgets/windows/binding.h"
@@ -86,9 +87,9 @@ SpinField::SpinField(TextBox& box, Spinner& spinner, int columns, QWidget* paren
   if (box_->isHidden()) hide();
 }
 
-void SpinField::Name(const QString& name) {
-  box_->setAccessibleName(name);
-  spinner_->setAccessibleName(name);
+void SpinField::Name(const Wording& name) {
+  CallByWord(*box_, name);
+  CallByWord(*spinner_, name);
 }
 
 bool SpinField::eventFilter(QObject* watched, QEvent* event) {

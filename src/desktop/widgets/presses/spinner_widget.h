@@ -4,6 +4,7 @@
 #include <QLineEdit>
 #include <QWidget>
 
+#include "desktop/text.h"
 #include "screen/spinner.h"
 #include "screen/text_box.h"
 
@@ -38,7 +39,7 @@ class SpinField : public QWidget {
   SpinField(TextBox& box, Spinner& spinner, int columns, QWidget* parent);
 
   /// The accessible name of both.
-  void Name(const QString& name);
+  void Name(const Wording& name);
 
   bool eventFilter(QObject* watched, QEvent* event) override;
 

@@ -1,6 +1,7 @@
 #include "desktop/widgets/texts/label_widget.h"
 
 #include "desktop/text.h"
+#include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/mnemonics.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/windows/binding.h"
@@ -38,14 +39,26 @@ LabelledGroup::LabelledGroup(Label& label, QWidget* parent) : QGroupBox(parent) 
   });
 }
 
+QGroupBox* Group(const Wording& title, QWidget* parent) {
+  auto* group = new QGroupBox(parent);
+  ShowWord(*group, title);
+  return group;
+}
+
 QLabel* QuietText(const QString& text, QWidget* parent) {
   auto* label = new QLabel(text, parent);
   SetInk(*label, colours::kQuietText);
   return label;
 }
 
-QLabel* Heading(const QString& word, QWidget* box) {
-  if (box->accessibleName().isEmpty()) box->setAccessibleName(word);
+QLabel* QuietText(const Wording& word, QWidget* parent) {
+  QLabel* label = QuietText(QString(), parent);
+  ShowWord(*label, word);
+  return label;
+}
+
+QLabel* Heading(const Wording& word, QWidget* box) {
+  if (box->accessibleName().isEmpty()) CallByWord(*box, word);
   QLabel* heading = QuietText(word, box->parentWidget());
   heading->setBuddy(box);
   return heading;

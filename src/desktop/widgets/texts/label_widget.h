@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <vector>
 
+#include "desktop/text.h"
 #include "screen/control.h"
 
 namespace corvalis::desktop {
@@ -36,10 +37,15 @@ class LabelledGroup : public QGroupBox, public Naming {
   LabelledGroup(Label& label, QWidget* parent);
 };
 
-/// A word or two that explain, beside or above what counts; the same in every language.
+/// A group under a title of ours.
+[[nodiscard]] QGroupBox* Group(const Wording& title, QWidget* parent);
+
+/// A word or two that explain, beside or above what counts.
+[[nodiscard]] QLabel* QuietText(const Wording& word, QWidget* parent);
+/// The same with a number or a sign, which no language changes.
 [[nodiscard]] QLabel* QuietText(const QString& text, QWidget* parent);
 
 /// The same beside or above `box`, which it leads to and, if nothing else does, names.
-[[nodiscard]] QLabel* Heading(const QString& word, QWidget* box);
+[[nodiscard]] QLabel* Heading(const Wording& word, QWidget* box);
 
 }  // namespace corvalis::desktop

@@ -11,6 +11,7 @@
 #include <algorithm>
 
 #include "desktop/text.h"
+#include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/windows/binding.h"
 #include "screen/keys.h"
@@ -35,7 +36,7 @@ bool IsEditCommand(QKeyEvent& event) {
 TextBoxWidget::TextBoxWidget(TextBox& box, int columns, QWidget* parent)
     : QLineEdit(parent), box_(box), columns_(columns) {
   setDragEnabled(false);
-  if (FileName()) setAccessibleName(QStringLiteral("File name"));
+  if (FileName()) CallByWord(*this, Wording("File name"));
   setTextMargins(kTight, 0, kTight, 0);
   setSizePolicy(columns == 0 ? QSizePolicy::Expanding : QSizePolicy::Fixed, QSizePolicy::Fixed);
   connect(this, &QLineEdit::textEdited, this, [this] { TellEdit(); });
