@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <functional>
 
+#include "config/words.h"
 #include "link/command_table.h"
 #include "link/link_error.h"
 #include "link/list_commands.h"
@@ -41,7 +42,7 @@ bool MethodB() { return !configData->AfMethodA(); }
 // The kinds of items behind the names, one after the other: the first failure ends the rest.
 struct Step {
   PresetFlag flag;
-  const char* what;  // with the number of them before it, if they are counted
+  const char* what;  // with the number of them in it, if they are counted
   CommandCode code;
   int (*count)();
   void (*read)(int item);
@@ -50,54 +51,54 @@ struct Step {
 };
 
 const Step kSteps[] = {
-    {&ConfigData::PresetRt, "radio texts", CommandCode::kRt, [] { return int{rtData->MaxRtNum()}; },
-     [](int item) { rtData->GetOneRds(Index(item)); },
+    {&ConfigData::PresetRt, LaterWord("%1 radio texts"), CommandCode::kRt,
+     [] { return int{rtData->MaxRtNum()}; }, [](int item) { rtData->GetOneRds(Index(item)); },
      [](int item) { rtData->SetOneRds(Index(item)); }},
-    {&ConfigData::PresetPin, "programme items", CommandCode::kPin,
+    {&ConfigData::PresetPin, LaterWord("%1 programme items"), CommandCode::kPin,
      [] { return int{pinData->MaxPinNum()}; }, [](int item) { pinData->GetOneRds(Index(item)); },
      [](int item) { pinData->SetOneRds(Index(item)); }},
-    {&ConfigData::PresetAf, "the list of method A", CommandCode::kAf, One,
+    {&ConfigData::PresetAf, LaterWord("the list of method A"), CommandCode::kAf, One,
      [](int /*item*/) { afAData->GetOneRds(); }, [](int /*item*/) { afAData->SetOneRds(); },
      MethodA},
-    {&ConfigData::PresetAf, "lists of method B", CommandCode::kAf,
+    {&ConfigData::PresetAf, LaterWord("%1 lists of method B"), CommandCode::kAf,
      [] { return int{afBData->MaxAfBListNum()}; },
      [](int item) { afBData->GetOneRds(Index(item)); },
      [](int item) { afBData->SetOneRds(Index(item)); }, MethodB},
-    {&ConfigData::PresetTdc, "subchannels", CommandCode::kTdc,
+    {&ConfigData::PresetTdc, LaterWord("%1 subchannels"), CommandCode::kTdc,
      [] { return int{tdc0Data->MaxSubChannelNum()}; },
      [](int item) { tdc0Data->GetOneRds(Index(item)); },
      [](int item) { tdc0Data->SendOneRds(Index(item)); }},
-    {&ConfigData::PresetTdc, "channels", CommandCode::kTdc,
+    {&ConfigData::PresetTdc, LaterWord("%1 channels"), CommandCode::kTdc,
      [] { return int{tdcData->MaxChannelNum()}; },
      [](int item) { tdcData->GetOneRds(Index(item)); },
      [](int item) { tdcData->SendOneRds(Index(item)); }},
-    {&ConfigData::PresetIh, "in-house pages, which are only read", CommandCode::kIh,
+    {&ConfigData::PresetIh, LaterWord("%1 in-house pages, which are only read"), CommandCode::kIh,
      [] { return int{ihData->PagesCount()}; }, [](int item) { ihData->GetOneRds(Index(item)); },
      nullptr},
-    {&ConfigData::PresetPi, "the PI code", CommandCode::kPi, One,
+    {&ConfigData::PresetPi, LaterWord("the PI code"), CommandCode::kPi, One,
      [](int /*item*/) { configData->GetPiRds(); }, [](int /*item*/) { configData->SetPiRds(); }},
-    {&ConfigData::PresetCt, "date, time and offset", CommandCode::kCt, One,
+    {&ConfigData::PresetCt, LaterWord("date, time and offset"), CommandCode::kCt, One,
      [](int /*item*/) { configData->GetCtRds(); }, [](int /*item*/) { configData->SetCtRds(); }},
-    {&ConfigData::PresetTp, "the traffic programme flag", CommandCode::kTp, One,
+    {&ConfigData::PresetTp, LaterWord("the traffic programme flag"), CommandCode::kTp, One,
      [](int /*item*/) { configData->GetTpRds(); }, [](int /*item*/) { configData->SetTpRds(); }},
-    {&ConfigData::PresetDi, "the decoder flags", CommandCode::kDi, One,
+    {&ConfigData::PresetDi, LaterWord("the decoder flags"), CommandCode::kDi, One,
      [](int /*item*/) { configData->GetDiRds(); }, [](int /*item*/) { configData->SetDiRds(); }},
-    {&ConfigData::PresetEcc, "the country code", CommandCode::kEcc, One,
+    {&ConfigData::PresetEcc, LaterWord("the country code"), CommandCode::kEcc, One,
      [](int /*item*/) { configData->GetEccRds(); }, [](int /*item*/) { configData->SetEccRds(); }},
-    {&ConfigData::PresetLic, "the language code", CommandCode::kLic, One,
+    {&ConfigData::PresetLic, LaterWord("the language code"), CommandCode::kLic, One,
      [](int /*item*/) { configData->GetLicRds(); }, [](int /*item*/) { configData->SetLicRds(); }},
-    {&ConfigData::PresetLi, "the linkage information", CommandCode::kLi, One,
+    {&ConfigData::PresetLi, LaterWord("the linkage information"), CommandCode::kLi, One,
      [](int /*item*/) { liData->GetOneRds(); }, [](int /*item*/) { liData->SetOneRds(); }},
-    {&ConfigData::PresetEon, "lists of other networks", CommandCode::kEon,
+    {&ConfigData::PresetEon, LaterWord("%1 lists of other networks"), CommandCode::kEon,
      [] { return int{eonData->MaxListNum()}; }, [](int item) { eonData->GetOneRds(Index(item)); },
      [](int item) { eonData->SetOneRds(Index(item)); }},
-    {&ConfigData::PresetPtyn, "programme type names", CommandCode::kPtyn,
+    {&ConfigData::PresetPtyn, LaterWord("%1 programme type names"), CommandCode::kPtyn,
      [] { return PtynData::MaxPtyList() + 1; }, [](int item) { ptynData->GetOneRds(Place(item)); },
      [](int item) { ptynData->SetOneRds(Place(item)); }},
-    {&ConfigData::PresetTmc, "the TMC system", CommandCode::kTmcSystem, One,
+    {&ConfigData::PresetTmc, LaterWord("the TMC system"), CommandCode::kTmcSystem, One,
      [](int /*item*/) { tmcData->GetOneSystemRds(); },
      [](int /*item*/) { tmcData->SetOneSystemRds(); }},
-    {&ConfigData::PresetTmc, "traffic messages", CommandCode::kTmc,
+    {&ConfigData::PresetTmc, LaterWord("%1 traffic messages"), CommandCode::kTmc,
      [] { return int{tmcData->MaxListNum()}; }, [](int item) { tmcData->GetOneRds(Index(item)); },
      [](int item) { tmcData->SetOneRds(Index(item)); }}};
 
@@ -203,8 +204,8 @@ class Progress {
     if (all < 2) return {};
     double left = all_.seconds - done_.Seconds();
     if (done_.Seconds() > 0) left *= (Machine().clock->Steady() - begin_) / done_.Seconds();
-    return std::to_string(std::min(done_.Items() + 1, all)) + " of " + std::to_string(all) + ", " +
-           AboutInWords(left) + " left";
+    return Word("%1 of %2, %3 left", {std::to_string(std::min(done_.Items() + 1, all)),
+                                      std::to_string(all), AboutInWords(left)});
   }
 
   ConfigurationRun run_;
@@ -265,20 +266,16 @@ void TakePresentTime() {
   configData->SetDayOfWeek(static_cast<std::int16_t>(WeekdayFromMonday(now)));
 }
 
-// `count` of them, in words.
-std::string Counted(int count, const std::string& what) {
-  return std::to_string(count) + " " + what;
-}
-
 std::string Names() {
-  if (!configData->PsnPagesEnable()) return Counted(psnData->MaxPsnNum(), "names");
-  std::string text = Counted(psnPageData->MaxPsnPageNum(), "pages of ") +
-                     Counted(psnPageData->MaxPsnNum(), "names");
-  const std::string plan = Counted(psnPageData->MaxPsnPlanNum(), "rows of the plan");
+  const std::string names = std::to_string(psnData->MaxPsnNum());
+  if (!configData->PsnPagesEnable()) return Word("%1 names", {names});
+  std::string text =
+      Word("%1 pages of %2 names", {std::to_string(psnPageData->MaxPsnPageNum()), names});
+  const std::string plan = std::to_string(psnPageData->MaxPsnPlanNum());
   if (PlanTravels(ConfigurationRun::kSend)) {
-    text += ", " + plan;
+    text += ", " + Word("%1 rows of the plan", {plan});
   } else if (configData->Satellite()) {
-    text += ", in a burst " + plan;
+    text += ", " + Word("in a burst %1 rows of the plan", {plan});
   }
   return text;
 }
@@ -334,7 +331,7 @@ std::string TravelsWith(PresetFlag flag) {
   for (const Step& step : kSteps) {
     if (step.flag != flag || !Offered(step)) continue;
     if (!text.empty()) text += ", ";
-    text += step.count == One ? step.what : Counted(step.count(), step.what);
+    text += Word(step.what, {std::to_string(step.count())});
   }
   return text;
 }
@@ -343,10 +340,10 @@ std::string AboutInWords(double seconds) {
   const auto round = [seconds](int unit) {
     return static_cast<int>(std::ceil(seconds / unit)) * unit;
   };
-  if (seconds <= 1) return "about a second";
-  if (seconds <= 20) return "about " + std::to_string(round(1)) + " seconds";
-  if (seconds <= 100) return "about " + std::to_string(round(10)) + " seconds";
-  return "about " + std::to_string(static_cast<int>(std::lround(seconds / 60))) + " minutes";
+  if (seconds <= 1) return Word("about a second");
+  if (seconds <= 20) return Word("about %1 seconds", {std::to_string(round(1))});
+  if (seconds <= 100) return Word("about %1 seconds", {std::to_string(round(10))});
+  return Word("about %1 minutes", {std::to_string(std::lround(seconds / 60))});
 }
 
 }  // namespace corvalis

@@ -6,6 +6,7 @@
 #include "app/configuration.h"
 #include "config/config_data.h"
 #include "config/language_data.h"
+#include "config/words.h"
 #include "link/list_commands.h"
 #include "link/serial_management.h"
 #include "link/transfer.h"
@@ -75,16 +76,16 @@ void HoldCoderId(TextBox& box, void (ConfigData::*store)(const std::string& id))
 
 std::string LoadInWords(ConfigurationRun run) {
   const ConfigurationLoad load = LoadOfConfiguration(run);
-  if (load.items == 0 || load.passes <= 0) return "nothing";
-  return std::to_string(load.items) + (load.items == 1 ? " item" : " items") +
-         (load.passes > 1 ? " in " + std::to_string(load.passes) + " passes" : "") + ", " +
-         AboutInWords(load.seconds);
+  if (load.items == 0 || load.passes <= 0) return Word("nothing");
+  std::string words =
+      load.items == 1 ? Word("1 item") : Word("%1 items", {std::to_string(load.items)});
+  if (load.passes > 1) words = Word("%1 in %2 passes", {words, std::to_string(load.passes)});
+  return words + ", " + AboutInWords(load.seconds);
 }
 
 }  // namespace
 
 ConnectionForm::ConnectionForm(Window& main_menu) : main_menu_(main_menu) {
-  window.SetCaption("CONNECTION");
   HoldCoderId(Text1, &ConfigData::SetPresetPassword);
   HoldCoderId(Text2, &ConfigData::SetPresetNewPassword);
   for (const Tick& tick : kTicks) {
@@ -133,6 +134,7 @@ void ConnectionForm::Load() {
 }
 
 void ConnectionForm::InitCaptions() {
+  window.SetCaption(Word("CONNECTION"));
   const LanguageData& texts = *languageData;
   AddressLabel.SetTexts(texts.ConnectionAddressKey(), texts.ConnectionAddressTip());
   Text1.SetToolTip(texts.ConnectionAddressTip());
@@ -167,8 +169,8 @@ void ConnectionForm::ShowRecord() {
 
 void ConnectionForm::ShowAddressState() {
   AddressStateLabel.SetCaption(
-      AddressSent ? "address sent"
-                  : "no address sent: " + languageData->ConnectionSendAddressKey() + " first");
+      AddressSent ? Word("address sent")
+                  : Word("no address sent: %1 first", {languageData->ConnectionSendAddressKey()}));
 }
 
 void ConnectionForm::ShowLoad() {
@@ -177,10 +179,10 @@ void ConnectionForm::ShowLoad() {
   }
   const bool one_way = configData->Satellite();
   ReadLoadLabel.SetVisible(!one_way);
-  ReadLoadLabel.SetCaption("To read: " + LoadInWords(ConfigurationRun::kRead));
-  SendLoadLabel.SetCaption("To send: " + LoadInWords(ConfigurationRun::kSend));
+  ReadLoadLabel.SetCaption(Word("To read: %1", {LoadInWords(ConfigurationRun::kRead)}));
+  SendLoadLabel.SetCaption(Word("To send: %1", {LoadInWords(ConfigurationRun::kSend)}));
   BurstLoadLabel.SetVisible(one_way);
-  BurstLoadLabel.SetCaption("In a burst: " + LoadInWords(ConfigurationRun::kBurst));
+  BurstLoadLabel.SetCaption(Word("In a burst: %1", {LoadInWords(ConfigurationRun::kBurst)}));
 }
 
 }  // namespace corvalis

@@ -5,6 +5,7 @@
 
 #include "config/config_data.h"
 #include "config/language_data.h"
+#include "config/words.h"
 #include "link/serial_management.h"
 
 namespace corvalis {
@@ -20,14 +21,16 @@ std::string Mode() {
 
 // How the port differs from what the record asks for; empty if it does not.
 std::string OtherWay(const SerialPort& port) {
+  const std::string name = PortName(port.CommPort());
   if (OneWayPort != configData->Satellite()) {
-    return OneWayPort ? " is open for a one-way path" : " is open for a two-way link";
+    return OneWayPort ? Word("%1 is open for a one-way path", {name})
+                      : Word("%1 is open for a two-way link", {name});
   }
   if (port.CommPort() != configData->CommPort()) {
-    return " is open, not " + PortName(configData->CommPort());
+    return Word("%1 is open, not %2", {name, PortName(configData->CommPort())});
   }
   if (port.Settings() != PortSettings()) {
-    return " is open with " + port.Settings() + ", not " + PortSettings();
+    return Word("%1 is open with %2, not %3", {name, port.Settings(), PortSettings()});
   }
   return {};
 }
@@ -39,18 +42,20 @@ bool IsDefaultOneWay() {
 }
 
 std::string Words(const SerialPort& port) {
-  if (!port.PortOpen()) return Mode() + ": " + PortName(configData->CommPort()) + " is not open";
-  const std::string name = PortName(port.CommPort());
+  if (!port.PortOpen()) {
+    return Word("%1: %2 is not open", {Mode(), PortName(configData->CommPort())});
+  }
   if (const std::string other = OtherWay(port); !other.empty()) {
-    return name + other + "; " + languageData->MainOpenKey() + " or " +
-           languageData->MainSetupKey() + " opens it anew";
+    return Word("%1; %2 or %3 opens it anew",
+                {other, languageData->MainOpenKey(), languageData->MainSetupKey()});
   }
-  std::string words = Mode() + ", " + name + ", " + port.Settings() + ": ";
+  std::string words = Mode() + ", " + PortName(port.CommPort()) + ", " + port.Settings() + ": ";
   if (CoderAnswered) {
-    words += *CoderAnswered ? "the Coder answered, " : "the Coder did not answer, ";
+    words +=
+        (*CoderAnswered ? Word("the Coder answered") : Word("the Coder did not answer")) + ", ";
   }
-  if (AddressSent) return words + "address sent";
-  words += "no address sent";
+  if (AddressSent) return words + Word("address sent");
+  words += Word("no address sent");
   const bool reached = LinkOpen && (!configData->Modem() || configData->ModemHookOn());
   if (!reached) return words;
   return words + ": " + languageData->MainConnectionKey() + ", " +
@@ -61,7 +66,8 @@ std::string Words(const SerialPort& port) {
 
 std::string LinkInWords(const SerialPort& port) {
   if (!IsDefaultOneWay()) return Words(port);
-  return Words(port) + "; one way, unless " + languageData->MainSetupKey() + " says Local or Modem";
+  return Word("%1; one way, unless %2 says Local or Modem",
+              {Words(port), languageData->MainSetupKey()});
 }
 
 }  // namespace corvalis

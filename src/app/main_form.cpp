@@ -9,6 +9,8 @@
 #include "config/config_data.h"
 #include "config/conversions.h"
 #include "config/language_data.h"
+#include "config/windows_1252.h"
+#include "config/words.h"
 #include "link/serial_management.h"
 #include "platform/platform.h"
 
@@ -233,13 +235,13 @@ void MainForm::MatchFile() { File1.Match(configData->File()); }
 void MainForm::ShowPath() {
   const std::string path = SavePath();
   std::string told;
-  if (saved_ && saved_->path == path) told = "saved " + TimeOfDay(saved_->when);
+  if (saved_ && saved_->path == path) told = Word("saved %1", {TimeOfDay(saved_->when)});
   if (changed_) {
     if (!told.empty()) told += ", ";
-    told += given_by_ == nullptr ? "changed since the start"
-                                 : "changed since the last " + given_by_->Caption();
+    told += given_by_ == nullptr ? Word("changed since the start")
+                                 : Word("changed since the last %1", {given_by_->Caption()});
   }
-  PathLabel.SetCaption(told.empty() ? path : path + "  (" + told + ")");
+  PathLabel.SetCaption(told.empty() ? path : path + "  (" + Utf8From1252(told) + ")");
 }
 
 void MainForm::Given(const Button* by) {

@@ -12,6 +12,7 @@ namespace corvalis::desktop {
 
 Program::Program() {
   ApplyStyle(*qApp);
+  QCoreApplication::installTranslator(&toolkit_words_);
   QApplication::setQuitOnLastWindowClosed(false);
   platform_.clock = &time_;
   platform_.pump = &time_;

@@ -3,8 +3,11 @@
 #include <memory>
 
 #include "app/main_form.h"
+#include "config/words.h"
 #include "desktop/qt_dialogs.h"
+#include "desktop/text.h"
 #include "desktop/views/guide.h"
+#include "desktop/widgets/look/toolkit_words.h"
 #include "desktop/widgets/windows/screen_host.h"
 #include "machine/qt_serial_port.h"
 #include "machine/qt_time.h"
@@ -25,13 +28,15 @@ class Program {
   [[nodiscard]] MainForm& Menu() const { return *menu_; }
 
  private:
+  ToolkitWords toolkit_words_;
   machine::QtTime time_;
   QtDialogs dialogs_;
   machine::QtSerialPort port_;
   ProfileStore profiles_;
   Platform platform_;
   QtScreenHost host_;
-  Guide guide_{[] { return QString(); }};  // after the host, so that it sees a key before it
+  Guide guide_{
+      [] { return FromBytes(LanguageCode()); }};  // after the host, so that it sees a key before it
   std::unique_ptr<MainForm> menu_;
 };
 

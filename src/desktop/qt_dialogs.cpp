@@ -69,7 +69,7 @@ void QtDialogs::Show(const Box& box) {
   shown->setTextFormat(Qt::PlainText);
   if (HelpAsked && !box.help_file.empty()) {
     QPushButton* help = shown->addButton(QMessageBox::Help);
-    help->setText(QStringLiteral("&Help"));
+    help->setText(Wording("&Help").Text());
     help->disconnect(SIGNAL(clicked(bool)));  // the toolkit would take it for an answer
     QObject::connect(help, &QPushButton::clicked, help, [this, shown] { HelpAsked(*shown); });
     shown->setDefaultButton(QMessageBox::Ok);

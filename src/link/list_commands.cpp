@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "config/conversions.h"
+#include "config/words.h"
 #include "link/catalogue.h"
 #include "link/run_progress.h"
 #include "platform/platform.h"
@@ -259,7 +260,7 @@ void SendAddress(std::string_view block, bool is_new) {
 
 void SendIh(std::int16_t page, std::string_view text, std::int16_t rotation) {
   const std::string characters = Padded(text, kIhCharacters);
-  RunLoop frames(kIhBlocks + 1, "frame");
+  RunLoop frames(kIhBlocks + 1, LaterWord("frame %1 of %2"));
   for (std::uint8_t block = 0; block < kIhBlocks; ++block) {
     frames.At(block);
     const std::size_t begin = std::size_t{block} * kIhBlockCharacters;
@@ -280,7 +281,7 @@ void SendIh(std::int16_t page, std::string_view text, std::int16_t rotation) {
 
 void ReadIh(std::int16_t page, std::string& text, std::int16_t& rotation) {
   std::string characters;
-  RunLoop frames(kIhBlocks + 1, "frame");
+  RunLoop frames(kIhBlocks + 1, LaterWord("frame %1 of %2"));
   for (std::uint8_t block = 0; block < kIhBlocks; ++block) {
     frames.At(block);
     LetEventsRun(0);

@@ -6,6 +6,7 @@
 #include "busy/serial_communication_form.h"
 #include "busy/transfer_bracket.h"
 #include "config/language_data.h"
+#include "config/words.h"
 
 namespace corvalis {
 
@@ -16,14 +17,14 @@ std::function<std::string()> whole;
 
 }  // namespace
 
-RunLoop::RunLoop(int count, std::string_view part) : count_(count), part_(part) {
+RunLoop::RunLoop(int count, const char* part) : count_(count), part_(part) {
   loops.push_back(this);
 }
 
 RunLoop::~RunLoop() { loops.pop_back(); }
 
-std::string RunLoop::Words() const {
-  return std::to_string(item_ + 1) + " of " + std::to_string(count_);
+std::string RunLoop::Words(const char* place) const {
+  return Word(place, {std::to_string(item_ + 1), std::to_string(count_)});
 }
 
 RunWhole::RunWhole(std::function<std::string()> words) { whole = std::move(words); }
@@ -35,7 +36,7 @@ std::string PlaceInWords(std::string_view label) {
   const RunLoop* passes = nullptr;
   const RunLoop* parts = nullptr;
   for (const RunLoop* loop : loops) {
-    if (!loop->part_.empty()) {
+    if (loop->part_ != nullptr) {
       parts = loop;
     } else {
       passes = passes == nullptr ? items : passes;
@@ -43,14 +44,14 @@ std::string PlaceInWords(std::string_view label) {
     }
   }
   std::string words;
-  const auto add = [&](const RunLoop* loop, std::string_view what) {
+  const auto add = [&](const RunLoop* loop, const char* place) {
     if (loop == nullptr || loop->count_ < 2) return;
     words += words.empty() ? std::string(label) + ": " : ", ";
-    words += std::string(what) + loop->Words();
+    words += loop->Words(place);
   };
-  add(items, "");
-  if (parts != nullptr) add(parts, std::string(parts->part_) + " ");
-  add(passes, "pass ");
+  add(items, LaterWord("%1 of %2"));
+  if (parts != nullptr) add(parts, parts->part_);
+  add(passes, LaterWord("pass %1 of %2"));
   const std::string all = whole ? whole() : "";
   return words.empty() || all.empty() ? words + all : words + "; " + all;
 }
@@ -64,10 +65,11 @@ void TellFrame(std::string_view label) {
 void TellAddressWanted() {
   SerialCommunicationForm* form = StandingTransfer();
   if (form == nullptr) return;
-  std::string hint = "The Coder wants its address first: " + languageData->MainConnectionKey() +
-                     ", " + languageData->ConnectionSendAddressKey() + ".";
+  std::string hint =
+      Word("The Coder wants its address first: %1, %2.",
+           {languageData->MainConnectionKey(), languageData->ConnectionSendAddressKey()});
   if (!form->ProgressLabel.Caption().empty()) {
-    hint += " " + languageData->MessageEscKey() + " ends the rest.";
+    hint += " " + Word("%1 ends the rest.", {languageData->MessageEscKey()});
   }
   form->HintLabel.SetCaption(hint);
 }

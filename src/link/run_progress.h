@@ -10,10 +10,11 @@ namespace corvalis {
 /// 10". To tell it costs no byte and no wait. A single frame tells nothing.
 
 /// One loop of a run, for as long as it lives. The innermost goes through items, and one around it
-/// through passes; one that has a `part` goes through the parts of an item, each called so.
+/// through passes; one that has a `part` goes through the parts of an item: a text of
+/// ours, with the number and the count in it.
 class RunLoop {
  public:
-  explicit RunLoop(int count, std::string_view part = {});
+  explicit RunLoop(int count, const char* part = nullptr);
   ~RunLoop();
   RunLoop(const RunLoop&) = delete;
   RunLoop& operator=(const RunLoop&) = delete;
@@ -24,11 +25,11 @@ class RunLoop {
  private:
   friend std::string PlaceInWords(std::string_view label);
 
-  [[nodiscard]] std::string Words() const;
+  [[nodiscard]] std::string Words(const char* place) const;
 
   int item_ = 0;
   int count_;
-  std::string_view part_;
+  const char* part_;
 };
 
 /// What several loops are parts of, for as long as it lives: `words` says how far the whole is. One

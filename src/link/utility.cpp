@@ -1,5 +1,6 @@
 #include "link/utility.h"
 
+#include "config/words.h"
 #include "link/link_box.h"
 #include "platform/platform.h"
 #include "screen/keys.h"
@@ -40,8 +41,7 @@ void RefuseBox(TextBox& box, const std::string& shown) {
 void CommitGridRow(Grid& grid) { grid.Commit(); }
 
 std::string WithUntaken(const Grid& grid, std::string name) {
-  if (grid.HasUntaken()) name += ", not taken yet";
-  return name;
+  return grid.HasUntaken() ? Word("%1, not taken yet", {name}) : name;
 }
 
 void WarnBeforeAddress() { ShowLinkBox("Before send Address", kCommunicationManagementTitle); }

@@ -10,6 +10,7 @@
 #include "config/conversions.h"
 #include "config/language_data.h"
 #include "config/programme_types.h"
+#include "config/words.h"
 #include "link/list_commands.h"
 #include "networks/network_boxes.h"
 
@@ -162,8 +163,8 @@ void EonTab::InitCaptions() {
   EonPinText.SetToolTip(texts.EonPinTip());
   EonPtyLabel.SetTexts("PTY", texts.EonPtyTip());
   EonPtyCombo.SetToolTip(texts.EonPtyTip());
-  EonTpCheck.SetCaption("TP, traffic programme");
-  EonTaCheck.SetCaption("TA, traffic announcement");
+  EonTpCheck.SetCaption(Word("TP, traffic programme"));
+  EonTaCheck.SetCaption(Word("TA, traffic announcement"));
   EonAfALabel.SetCaption(texts.EonAfAKey());
   for (TextBox& box : EonAfAText) box.SetToolTip(texts.EonEonAfATip());
   EonAfBLabel.SetCaption(texts.EonAfBKey());

@@ -9,6 +9,8 @@
 #include "config/conversions.h"
 #include "config/joined_values.h"
 #include "config/language_data.h"
+#include "config/windows_1252.h"
+#include "config/words.h"
 #include "platform/platform.h"
 
 namespace corvalis {
@@ -147,10 +149,10 @@ void IhTab::WriteFile() {
   const bool written = ihData->WriteFile(page_);
   ShowFiles();
   ShowPath();
-  const char* const how = written                            ? "  (written)"
-                          : ihData->NamesStationsFile(page_) ? "  (not written: the station's own)"
-                                                             : "  (not written)";
-  PathLabel.SetCaption(PathLabel.Caption() + how);
+  const std::string how = written                            ? Word("written")
+                          : ihData->NamesStationsFile(page_) ? Word("not written: the station's own")
+                                                             : Word("not written");
+  PathLabel.SetCaption(PathLabel.Caption() + "  (" + Utf8From1252(how) + ")");
   LookIntoFile();
 }
 
@@ -186,9 +188,10 @@ void IhTab::ShowPage() {
 }
 
 void IhTab::ShowCount() {
-  CountLabel.SetCaption(std::to_string(RichTextBox1.Text().size()) + " of " +
-                        std::to_string(kIhCharacters) +
-                        (ihData->Page(page_) == in_file_ ? "" : ", not in its file"));
+  std::string count =
+      Word("%1 of %2", {std::to_string(RichTextBox1.Text().size()), std::to_string(kIhCharacters)});
+  if (ihData->Page(page_) != in_file_) count += ", " + Word("not in its file");
+  CountLabel.SetCaption(count);
 }
 
 // A file may lie far away: it is not looked at while somebody types.

@@ -1,6 +1,7 @@
 #include "networks/tdc_ih_form.h"
 
 #include "config/config_data.h"
+#include "config/words.h"
 #include "link/utility.h"
 
 namespace corvalis {
@@ -14,6 +15,7 @@ TdcIhForm::TdcIhForm(Window& main_menu) : main_menu_(main_menu) {
 }
 
 void TdcIhForm::Load() {
+  SSTab1.SetTabCaptions({"TDC", "IH", Word("TMC System"), "TMC"});
   tdc.InitCaptions();
   ih.InitCaptions();
   tmc_system.InitCaptions();

@@ -6,6 +6,7 @@
 
 #include "config/conversions.h"
 #include "config/language_data.h"
+#include "config/words.h"
 #include "link/utility.h"
 #include "networks/tdc0_data.h"
 #include "networks/tdc_data.h"
@@ -168,13 +169,13 @@ void TdcTab::Select(Grid& grid) {
 void TdcTab::ShowSelected() {
   const bool first = selected_ == &DBGrid1;
   const auto mark = [this](const Grid& grid, const std::string& row) -> std::string {
-    if (&grid == selected_) return WithUntaken(grid, "selected");
-    return grid.HasUntaken() ? WithUntaken(grid, "row " + row) : "";
+    if (&grid == selected_) return WithUntaken(grid, Word("selected"));
+    return grid.HasUntaken() ? WithUntaken(grid, Word("row %1", {row})) : "";
   };
   Tdc0MarkLabel.SetCaption(mark(DBGrid1, Name0(DBGrid1.Row())));
   TdcMarkLabel.SetCaption(mark(DBGrid2, Name(DBGrid2.Row())));
-  TdcSelectedLabel.SetCaption(first ? "Channel 0, " + Name0(DBGrid1.Row())
-                                    : "Channel " + Name(DBGrid2.Row()));
+  TdcSelectedLabel.SetCaption(first ? Word("Channel 0, %1", {Name0(DBGrid1.Row())})
+                                    : Word("Channel %1", {Name(DBGrid2.Row())}));
 }
 
 void TdcTab::InitCaptions() {

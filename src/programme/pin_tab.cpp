@@ -172,7 +172,7 @@ void PinTab::ChooseType() {
 void PinTab::InitCaptions() {
   const LanguageData& texts = *languageData;
   DBGrid4.SetHeadings(
-      {"PIN", Word("Day"), Word("Time"), Word("Type"), Word("Code"), Word("Issued")});
+      {"PIN", Word("Day"), Word("Time of day"), Word("Type"), Word("Code"), Word("Issued")});
   Command6.SetTexts(texts.PinReadKey(), texts.PinReadTip());
   Command23.SetTexts(texts.PinReadAllKey(), texts.PinReadAllTip());
   Command8.SetTexts(texts.PinSendOneKey(), texts.PinSendOneTip());

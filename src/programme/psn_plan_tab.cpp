@@ -194,9 +194,9 @@ void PsnPlanTab::ShowSelected() { PlanSelectedLabel.SetCaption(RowName(PsnPlanDB
 
 void PsnPlanTab::InitCaptions() {
   const LanguageData& texts = *languageData;
-  PsnPlanDBGrid.SetHeadings({Word("Row"), Word("Time"), Word("Date"), Word("Mon"), Word("Tue"),
-                             Word("Wed"), Word("Thu"), Word("Fri"), Word("Sat"), Word("Sun"),
-                             Word("Page"), Word("Enable")});
+  PsnPlanDBGrid.SetHeadings({Word("Row"), Word("Time of day"), Word("Date"), Word("Mon"),
+                             Word("Tue"), Word("Wed"), Word("Thu"), Word("Fri"), Word("Sat"),
+                             Word("Sun"), Word("Page"), Word("Enable")});
   ReadPlanCommand.SetTexts(texts.PsnPlanReadOneKey(), texts.PsnPlanReadOneTip());
   ReadAllPlanCommand.SetTexts(texts.PsnPlanReadAllKey(), texts.PsnPlanReadAllTip());
   SendPlanCommand.SetTexts(texts.PsnPlanSendOneListKey(), texts.PsnPlanSendOneListTip());

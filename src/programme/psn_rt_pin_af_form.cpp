@@ -1,6 +1,7 @@
 #include "programme/psn_rt_pin_af_form.h"
 
 #include "config/config_data.h"
+#include "config/words.h"
 #include "link/utility.h"
 
 namespace corvalis {
@@ -21,6 +22,8 @@ PsnRtPinAfForm::PsnRtPinAfForm(Window& main_menu) : main_menu_(main_menu) {
 }
 
 void PsnRtPinAfForm::Load() {
+  SSTab1.SetTabCaptions(
+      {"PSN", Word("PSN PLAN"), "RT", "PIN", Word("AF Method A"), Word("AF Method B"), "PTYN"});
   psn.InitCaptions();
   plan.InitCaptions();
   rt.InitCaptions();

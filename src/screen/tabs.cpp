@@ -11,6 +11,11 @@ Tabs::Tabs(Window& window, std::string name, const std::vector<std::string>& cap
   for (const std::string& caption : captions) tabs_.push_back({.caption = caption});
 }
 
+void Tabs::SetTabCaptions(const std::vector<std::string>& captions) {
+  for (std::size_t i = 0; i < tabs_.size(); ++i) tabs_[i].caption = captions.at(i);
+  Redraw();
+}
+
 void Tabs::SetTab(int tab) {
   if (!At(tab).visible || front_ == tab) return;
   front_ = tab;

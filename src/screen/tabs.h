@@ -18,6 +18,9 @@ class Tabs : public Control {
   [[nodiscard]] int Count() const { return static_cast<int>(tabs_.size()); }
   [[nodiscard]] const std::string& TabCaption(int tab) const { return At(tab).caption; }
 
+  /// Gives all tabs other captions, as a screen takes its language.
+  void SetTabCaptions(const std::vector<std::string>& captions);
+
   [[nodiscard]] int Tab() const { return front_; }
   /// Brings a tab to the front; raises `Click` if that is another one. A hidden one can't come to
   /// the front: all stays as it is.

@@ -6,6 +6,7 @@
 #include "config/config_data.h"
 #include "config/conversions.h"
 #include "config/language_data.h"
+#include "config/words.h"
 #include "link/serial_management.h"
 #include "link/station_commands.h"
 #include "link/transfer.h"
@@ -41,7 +42,6 @@ void SendGroup(int group) {
 }  // namespace
 
 EditGroupsForm::EditGroupsForm(Window& main_menu) : main_menu_(main_menu) {
-  window.SetCaption("EDIT GROUPS");
   for (int group = 0; group < kGroups; ++group) {
     Check1[group].Click = [this, group] { Tick(group); };
     Text1[group].SetLocked(true);
@@ -61,6 +61,7 @@ EditGroupsForm::EditGroupsForm(Window& main_menu) : main_menu_(main_menu) {
 
 void EditGroupsForm::InitCaptions() {
   const LanguageData& texts = *languageData;
+  window.SetCaption(Word("EDIT GROUPS"));
   for (int group = 0; group < kGroups; ++group) {
     const std::string& tip = (texts.*kGroupTips[static_cast<std::size_t>(group)])();
     // The names of the standard are the same in every language.
@@ -89,7 +90,7 @@ void EditGroupsForm::Load() {
 
 void EditGroupsForm::Select(int group) {
   selected_ = group;
-  SelectedLabel.SetCaption("Group " + GroupName(group));
+  SelectedLabel.SetCaption(Word("Group %1", {GroupName(group)}));
 }
 
 void EditGroupsForm::Tick(int group) {

@@ -5,6 +5,7 @@
 #include "config/config_data.h"
 #include "config/language_data.h"
 #include "config/programme_types.h"
+#include "config/words.h"
 #include "link/station_commands.h"
 #include "link/transfer.h"
 #include "platform/platform.h"
@@ -72,7 +73,7 @@ void TaPtyMsForm::StorePty() {
 // the Coder gets neither.
 void TaPtyMsForm::SendPtyLive() {
   if (!IsProgrammeType(configData->Pty())) {
-    Machine().dialogs->Show({.text = "Select a programme type from the list first.",
+    Machine().dialogs->Show({.text = Word("Select a programme type from the list first."),
                              .title = window.Caption(),
                              .style = BoxStyle::kWarning,
                              .help_file = {}});

@@ -79,7 +79,7 @@ TEST_F(BusyScreens, ARunSaysHowFarItIs) {
         "PI: 2 of 2, pass 2 of 2"}},
       {[&] {
          RunItems(2, [&](int /*page*/) {
-           RunLoop frames(2, "frame");
+           RunLoop frames(2, "frame %1 of %2");
            frames.At(1);
            frame(0);
          });

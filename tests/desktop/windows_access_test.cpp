@@ -11,7 +11,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QProcess>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTabBar>
 #include <QTableView>
 #include <QTest>
@@ -51,20 +53,18 @@ class WindowsAccessTest : public RunningProgram {
  protected:
   ~WindowsAccessTest() override { QApplication::setFont(font_); }
 
-  // Hands each window to `look`, page by page, in both languages.
+  // Hands each window to `look`, page by page, in all languages that there are.
   void ForEachPage(const std::function<void(QWidget&)>& look) {
-    std::ifstream german(std::string(kExamples) + "/German.ini", std::ios::binary);
-    const std::string texts(std::istreambuf_iterator<char>(german), {});
-    ASSERT_FALSE(texts.empty());
-    for (const char* rest :
-         {"",
-          "AF Method A=Off\n[Language]\nDefault=1\nName0=English\nFileName0=English.ini\n"
-          "Name1=Deutsch\nFileName1=German.ini\n"}) {
-      SCOPED_TRACE(rest);
-      WriteFile("German.ini", texts);
-      StartWithCoder({"--open"}, std::string(kGroupsFile) + rest);
+    for (const char* language : {"English", "German", "French", "Italian"}) {
+      SCOPED_TRACE(language);
+      std::ifstream file(std::string(kExamples) + "/" + language + ".ini", std::ios::binary);
+      StartIn({std::istreambuf_iterator<char>(file), {}});
       LookThrough(look);
     }
+  }
+  void StartIn(const std::string& language_file) {
+    WriteFile("Language.ini", language_file);
+    StartWithCoder({"--open"}, kGroupsFile);
   }
   void LookThrough(const std::function<void(QWidget&)>& look) {
     const auto look_at = [&look](const QString& name) {
@@ -74,6 +74,7 @@ class WindowsAccessTest : public RunningProgram {
     };
     look_at(kMain);
     for (const auto& [button, window] : {std::pair(QStringLiteral("TaPtyMsButton"), kOnAir),
+                                         std::pair(QStringLiteral("PsnRtPinAfButton"), kTexts),
                                          std::pair(QStringLiteral("PsnRtPinAfButton"), kTexts),
                                          std::pair(QStringLiteral("CtTpDiPiButton"), kStation),
                                          std::pair(QStringLiteral("ConnectionButton"), kConnection),
@@ -95,6 +96,7 @@ class WindowsAccessTest : public RunningProgram {
         EXPECT_EQ(during_transfer, nullptr);
       }
       hand.Close(window);
+      if (window == kTexts) configData->SetAfMethodA(!configData->AfMethodA());
     }
   }
 
@@ -127,6 +129,77 @@ TEST_F(WindowsAccessTest, EveryControlHasAName) {
     }
   });
   EXPECT_GT(controls, 150);
+}
+
+// A language file in which everything that the program looks up stands between two marks.
+std::string MarkedFile() {
+  std::string file;
+  std::string last;
+  const auto add = [&file](const std::string& key) { file += key + "=\xAB" + key + "\xBB\n"; };
+  for (const auto& [section, key] : {
+#define CORVALIS_TEXT(section, key, getter, preset) \
+  std::pair<std::string, std::string>(section, key),
+#include "config/language_texts.inc"
+#undef CORVALIS_TEXT
+       }) {
+    if (std::exchange(last, section) != section) file += "[" + section + "]\n";
+    add(key);
+  }
+  QProcess words;
+  words.start(QString::fromUtf8(kExamples) + QStringLiteral("/../tests/words.sh"), {"--list"});
+  EXPECT_TRUE(words.waitForFinished());
+  file += "[Words]\n";
+  for (const QByteArray& word : words.readAllStandardOutput().split('\n')) {
+    if (!word.isEmpty()) add(word.toStdString());
+  }
+  return file;
+}
+
+// What is left of a text without what has been looked up and what is the same in every language:
+// the abbreviations of the standard, and the names and fixed texts of the system.
+QString Left(QString text) {
+  static const QRegularExpression marked(QStringLiteral("\u00AB[^\u00AB\u00BB]*\u00BB"));
+  static const QRegularExpression fixed(
+      QStringLiteral("\\b(AF|CT|DI|ECC|EON|IH|LI|LIC|MS|M/S|PI|PIN|PSN|PTY|PTYN|RT|TA|TDC|TMC|TP|"
+                     "COM \\d|MHz|kHz|Addr|Command|On|Tmc Nr|Location|Event|Duration|Direction|"
+                     "Extent|Diversion|Repetition|TRANSPARENT DATA CHANNEL|Satellite|Local|Modem|"
+                     "Tone|Pulse|Hook|Hang up|Main Menu|CORVALIS|KOR|Serial Communication)\\b"));
+  while (text.contains(marked)) text.remove(marked);
+  return text.remove(fixed).remove(QRegularExpression(QStringLiteral("[^A-Za-z]")));
+}
+
+TEST_F(WindowsAccessTest, EveryTextOfOursIsLookedUp) {
+  StartIn(MarkedFile());
+  std::set<std::string> left;
+  LookThrough([&left](QWidget& window) {
+    const auto take = [&left](const QWidget& widget, const QString& text) {
+      if (Left(text).size() < 2) return;
+      left.insert(widget.window()->objectName().toStdString() + " " +
+                  widget.objectName().toStdString() + ": " + text.toStdString());
+    };
+    take(window, window.windowTitle());
+    for (auto* widget : window.findChildren<QWidget*>()) {
+      if (!widget->isVisible() || widget->objectName() == u"PathLabel" ||
+          widget->objectName().startsWith(u"qt_"))
+        continue;
+      take(*widget, widget->toolTip());
+      take(*widget, Said(*widget, QAccessible::Name));
+      take(*widget, Said(*widget, QAccessible::Description));
+      if (const auto* button = qobject_cast<QAbstractButton*>(widget)) {
+        take(*widget, desktop::PlainCaption(button->text()));
+      } else if (const auto* group = qobject_cast<QGroupBox*>(widget)) {
+        take(*widget, desktop::PlainCaption(group->title()));
+      } else if (const auto* bar = qobject_cast<QTabBar*>(widget)) {
+        for (int i = 0; i < bar->count(); ++i)
+          take(*widget, desktop::PlainCaption(bar->tabText(i)));
+      } else if (const auto* table = qobject_cast<QTableView*>(widget)) {
+        for (int i = 0; i < table->model()->columnCount(); ++i) {
+          take(*widget, table->model()->headerData(i, Qt::Horizontal).toString());
+        }
+      }
+    }
+  });
+  EXPECT_EQ(left, std::set<std::string>{});
 }
 
 TEST_F(WindowsAccessTest, EveryStateIsInWords) {

@@ -29,7 +29,7 @@ ProgressLine::ProgressLine(Label& label, QWidget* parent) : QLabel(parent) {
   setTextFormat(Qt::PlainText);
   SetInk(*this, colours::kQuietText);
   // What is told once a second at most is the name; without one the toolkit would tell each text.
-  setAccessibleName(QStringLiteral("Progress"));
+  setAccessibleName(Wording("Progress").Text());
   pause_.setSingleShot(true);
   pause_.setInterval(kToldMs);
   connect(&pause_, &QTimer::timeout, this, [this] { Tell(); });

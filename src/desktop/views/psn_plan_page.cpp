@@ -6,7 +6,7 @@
 namespace corvalis::desktop {
 
 PsnPlanPage::PsnPlanPage(PsnPlanTab& tab, QWidget* parent) : QWidget(parent) {
-  auto* grid = new GridWidget(tab.PsnPlanDBGrid, this, Wording("PSN plan"));
+  auto* grid = new GridWidget(tab.PsnPlanDBGrid, this, Wording("PSN PLAN"));
   ListPage(this, grid,
            {&tab.ReadPlanCommand, &tab.ReadAllPlanCommand, &tab.SendPlanCommand,
             &tab.SendAllPlanCommand, &tab.SendBurstPlanCommand},

@@ -8,6 +8,7 @@
 #include <QToolButton>
 #include <utility>
 
+#include "desktop/text.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/windows/binding.h"
 
@@ -88,7 +89,7 @@ void CalendarWidget::Draw() {
   if (selectedDate() != date) setSelectedDate(date);
   setCurrentPage(date.year(), date.month());
   // The days alone say neither month nor year.
-  const QString name = QStringLiteral("Date: ") + locale().toString(date, QLocale::LongFormat);
+  const QString name = Wording("Date: %1", locale().toString(date, QLocale::LongFormat)).Text();
   for (QWidget* part : {static_cast<QWidget*>(this), static_cast<QWidget*>(days_)}) {
     part->setAccessibleName(name);
   }

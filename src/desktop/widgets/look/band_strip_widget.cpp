@@ -1,5 +1,6 @@
 #include "desktop/widgets/look/band_strip_widget.h"
 
+#include <QLocale>
 #include <QPainter>
 #include <QStringList>
 #include <algorithm>
@@ -115,7 +116,7 @@ void BandStripWidget::PaintMarks(QPainter& painter, const QRectF& band) const {
 
 void BandStripWidget::PaintText(QPainter& painter, const BandMark& mark, double bottom,
                                 std::vector<QRectF>& taken) const {
-  const QString text = FromBytes(mark.text);
+  const QString text = Written(mark);
   const QFont used = mark.main ? Bold(font()) : font();
   const double wide = QFontMetricsF(used).horizontalAdvance(text) + kTight;
   for (int line = 1; line <= kTextLines; ++line) {
@@ -132,21 +133,25 @@ void BandStripWidget::PaintText(QPainter& painter, const BandMark& mark, double 
   }
 }
 
+QString BandStripWidget::Written(const BandMark& mark) const {
+  return FromBytes(mark.text).replace(u'.', locale().decimalPoint());
+}
+
 QString BandStripWidget::OtherBands() const {
   QStringList texts;
   for (const std::string& text : strip_.Beside()) texts << FromBytes(text);
   return texts.isEmpty() ? QString()
-                         : QStringLiteral("LF, MF: ") + texts.join(QStringLiteral(", "));
+                         : Wording("LF, MF: %1", texts.join(QStringLiteral(", "))).Text();
 }
 
 QString BandStripWidget::Words() const {
   QStringList words;
   for (const BandMark& mark : strip_.Marks()) {
-    words << (mark.main ? QStringLiteral("main frequency ") : QString()) + FromBytes(mark.text) +
-                 QStringLiteral(" MHz");
+    const QString frequency = Written(mark) + QStringLiteral(" MHz");
+    words << (mark.main ? Wording("Main frequency %1", frequency).Text() : frequency);
   }
   if (const QString others = OtherBands(); !others.isEmpty()) words << others;
-  return words.isEmpty() ? QStringLiteral("No frequency") : words.join(QStringLiteral(", "));
+  return words.isEmpty() ? Wording("No frequency").Text() : words.join(QStringLiteral(", "));
 }
 
 }  // namespace corvalis::desktop

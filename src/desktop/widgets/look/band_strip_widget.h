@@ -30,6 +30,8 @@ class BandStripWidget : public QWidget {
   /// has none, the mark speaks for itself.
   void PaintText(QPainter& painter, const BandMark& mark, double bottom,
                  std::vector<QRectF>& taken) const;
+  /// The frequency as the language writes it; the boxes have the point of the files.
+  [[nodiscard]] QString Written(const BandMark& mark) const;
   [[nodiscard]] QString OtherBands() const;
   [[nodiscard]] QString Words() const;
 

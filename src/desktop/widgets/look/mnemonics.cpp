@@ -133,9 +133,12 @@ std::vector<Place> PlacesOf(const QWidget& window) {
   return places;
 }
 
+/// How many captions have a letter.
+using Demand = std::map<QChar, int>;
+
 /// Where in a caption a mnemonic may stand: the first letters of its words, then its other
-/// letters. A number is known by its first digit alone.
-std::vector<qsizetype> Choices(const QString& caption) {
+/// letters, those in less demand first. A number is known by its first digit alone.
+std::vector<qsizetype> Choices(const QString& caption, const Demand& demand) {
   std::vector<qsizetype> first;
   std::vector<qsizetype> other;
   for (qsizetype i = 0; i < caption.size(); ++i) {
@@ -146,6 +149,12 @@ std::vector<qsizetype> Choices(const QString& caption) {
     (begins ? first : other).push_back(i);
     if (i == 0 && letter.isDigit()) return first;
   }
+  const auto wanted = [&](qsizetype at) {
+    const auto found = demand.find(caption[at].toUpper());
+    return found == demand.end() ? 0 : found->second;
+  };
+  std::stable_sort(other.begin(), other.end(),
+                   [&](qsizetype a, qsizetype b) { return wanted(a) < wanted(b); });
   first.insert(first.end(), other.begin(), other.end());
   return first;
 }
@@ -154,12 +163,13 @@ std::vector<qsizetype> Choices(const QString& caption) {
 /// owner can take another.
 class Deal {
  public:
-  explicit Deal(std::vector<QChar> taken) : taken_(std::move(taken)) {}
+  Deal(std::vector<QChar> taken, const Demand& demand)
+      : taken_(std::move(taken)), demand_(demand) {}
 
   void Serve(const std::vector<const Place*>& places) {
     std::vector<const Place*> left;
     for (const Place* place : places) {
-      const auto choices = Choices(place->caption);
+      const auto choices = Choices(place->caption, demand_);
       const auto free = std::find_if(choices.begin(), choices.end(), [&](qsizetype at) {
         return Free(place->caption[at]) && !owners_.contains(place->caption[at].toUpper());
       });
@@ -186,7 +196,7 @@ class Deal {
   }
 
   bool Find(const Place& place, std::vector<QChar>& asked) {
-    for (const qsizetype at : Choices(place.caption)) {
+    for (const qsizetype at : Choices(place.caption, demand_)) {
       const QChar letter = place.caption[at].toUpper();
       if (!Free(letter) || std::find(asked.begin(), asked.end(), letter) != asked.end()) continue;
       asked.push_back(letter);
@@ -199,6 +209,7 @@ class Deal {
   }
 
   std::vector<QChar> taken_;
+  const Demand& demand_;
   std::map<QChar, std::pair<const Place*, qsizetype>> owners_;
 };
 
@@ -269,6 +280,12 @@ void ShowCaption(QWidget& widget, const QString& caption) {
   AskForMnemonics(widget);
 }
 
+void ShowTabCaption(QTabBar& bar, int tab, const QString& caption) {
+  if (PlainCaption(bar.tabText(tab)) == caption) return;
+  bar.setTabText(tab, EscapedCaption(caption));
+  AskForMnemonics(bar);
+}
+
 void ShowOrHide(QWidget& widget, bool visible) {
   if (widget.isHidden() != visible) return;
   widget.setVisible(visible);
@@ -294,8 +311,15 @@ void GiveMnemonics(const QWidget& window) {
   for (const Place& place : places) pages[PageOf(place.widget)].push_back(&place);
   std::map<const Place*, qsizetype> marks;
   std::vector<QChar> taken;  // what can be seen with every page comes first, as null does
+  // What is seen with every page leaves to the pages what many of their captions could take.
+  const Demand none;
+  Demand demand;
+  for (const Place& place : places) {
+    if (PageOf(place.widget) == nullptr) continue;
+    for (const qsizetype at : Choices(place.caption, none)) ++demand[place.caption[at].toUpper()];
+  }
   for (const auto& [page, on_it] : pages) {
-    Deal deal(taken);
+    Deal deal(taken, page == nullptr ? demand : none);
     deal.Serve(on_it);
     for (const auto& [letter, owner] : deal.Owners()) {
       marks[owner.first] = owner.second;

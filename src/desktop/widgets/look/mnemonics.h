@@ -3,6 +3,7 @@
 #include <QString>
 
 class QKeyEvent;
+class QTabBar;
 class QWidget;
 
 namespace corvalis::desktop {
@@ -16,6 +17,9 @@ namespace corvalis::desktop {
 /// Shows `caption` on a button, a check box, a label or a group, as it stands, and has the window
 /// give out its mnemonics anew (a `MnemonicsEvent` to it) if the caption is another one.
 void ShowCaption(QWidget& widget, const QString& caption);
+
+/// The same on a tab of `bar`.
+void ShowTabCaption(QTabBar& bar, int tab, const QString& caption);
 
 /// Shows or hides `widget`, and has the window give out its mnemonics anew.
 void ShowOrHide(QWidget& widget, bool visible);

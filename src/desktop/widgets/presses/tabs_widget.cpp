@@ -18,8 +18,10 @@ TabsBar::TabsBar(Tabs& tabs, QWidget* parent) : QTabBar(parent), tabs_(tabs) {
   setFocusPolicy(Qt::StrongFocus);
   setExpanding(false);
   setDrawBase(true);
-  for (int tab = 0; tab < tabs.Count(); ++tab)
-    addTab(EscapedCaption(FromBytes(tabs.TabCaption(tab))));
+  for (int tab = 0; tab < tabs.Count(); ++tab) {
+    addTab({});
+    ShowTabCaption(*this, tab, FromBytes(tabs.TabCaption(tab)));
+  }
   connect(this, &QTabBar::currentChanged, this, [this](int tab) {
     tabs_.Choose(tab);
     Draw();
@@ -29,6 +31,7 @@ TabsBar::TabsBar(Tabs& tabs, QWidget* parent) : QTabBar(parent), tabs_(tabs) {
 void TabsBar::Draw() {
   const QSignalBlocker silent(this);
   for (int tab = 0; tab < tabs_.Count(); ++tab) {
+    ShowTabCaption(*this, tab, FromBytes(tabs_.TabCaption(tab)));
     if (isTabVisible(tab) != tabs_.TabVisible(tab)) setTabVisible(tab, tabs_.TabVisible(tab));
     if (isTabEnabled(tab) != tabs_.TabEnabled(tab)) setTabEnabled(tab, tabs_.TabEnabled(tab));
   }

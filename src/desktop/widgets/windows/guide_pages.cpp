@@ -13,6 +13,8 @@
 #include <algorithm>
 #include <utility>
 
+#include "desktop/text.h"
+
 namespace corvalis::desktop {
 
 namespace {
@@ -61,11 +63,12 @@ void SizePictures(QTextDocument& page, double sheet) {
 }  // namespace
 
 QString PageThatIsNotThere(const QString& path) {
-  return QStringLiteral(
-             "# This page is not there\n\nThe file %1 can't be read.\n\n"
-             "The guide comes with the program. Install the program again, or put the "
-             "folder of the guide back in its place.\n")
-      .arg(path);
+  return QStringLiteral("# %1\n\n%2\n\n%3\n")
+      .arg(Wording("This page is not there").Text(),
+           Wording("The file %1 can't be read.", path).Text(),
+           Wording("The guide comes with the program. Install the program again, or put the "
+                   "folder of the guide back in its place.")
+               .Text());
 }
 
 GuidePages::GuidePages(QString folder, const QString& language)

@@ -24,6 +24,10 @@
 #include <initializer_list>
 #include <utility>
 
+#include "config/words.h"
+#include "desktop/text.h"
+#include "desktop/widgets/look/language.h"
+#include "desktop/widgets/look/mnemonics.h"
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/windows/front_window.h"
 
@@ -42,7 +46,7 @@ const QString kContents = QStringLiteral("index.md");
 class GuidePage : public QTextBrowser {
  public:
   explicit GuidePage(QWidget* parent) : QTextBrowser(parent) {
-    setAccessibleName(QStringLiteral("Page of the guide"));
+    CallByWord(*this, Wording("Page of the guide"));
     setFrameShape(QFrame::NoFrame);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);  // pictures know their room beforehand
     document()->setDocumentMargin(kApart);
@@ -79,20 +83,26 @@ GuideWindow::GuideWindow(QString folder, std::function<QString()> language)
       count_(new QLabel(this)),
       list_(new QListWidget(this)) {
   setObjectName(QStringLiteral("GuideWindow"));
-  auto* contents = new QPushButton(QStringLiteral("&Contents"), this);
-  auto* back = new QPushButton(QStringLiteral("&Back"), this);
-  auto* label = new QLabel(QStringLiteral("&Search"), this);
-  auto* print = new QPushButton(QStringLiteral("&Print..."), this);
-  auto* close = new QPushButton(QStringLiteral("C&lose"), this);
+  auto* contents = new QPushButton(this);
+  ShowWord(*contents, Wording("Contents"));
+  auto* back = new QPushButton(this);
+  ShowWord(*back, Wording("Back"));
+  auto* label = new QLabel(this);
+  ShowWord(*label, Wording("Search"));
+  auto* print = new QPushButton(this);
+  ShowWord(*print, Wording("Print..."));
+  auto* close = new QPushButton(this);
+  ShowWord(*close, Wording("Close"));
+  FollowLanguage(*this, [this] { GiveMnemonics(*this); });
   back->setEnabled(false);
   label->setBuddy(search_);
   search_->setObjectName(QStringLiteral("GuideSearch"));
-  search_->setAccessibleName(QStringLiteral("Search in all pages"));
+  CallByWord(*search_, Wording("Search in all pages"));
   search_->setClearButtonEnabled(true);
   search_->setMinimumWidth(kSearchWidth);
   search_->installEventFilter(this);
   list_->setObjectName(QStringLiteral("GuidePlaces"));
-  list_->setAccessibleName(QStringLiteral("Places found"));
+  CallByWord(*list_, Wording("Places found"));
   list_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   list_->setVisible(false);
   list_->setFixedHeight(kPlaceLines * kControlHeight);
@@ -161,7 +171,7 @@ void GuideWindow::ShowPage(const QString& file) {
 
 void GuideWindow::Dress(const QString& file) {
   file_ = file;
-  setWindowTitle(QStringLiteral("Guide: ") + page_->document()->begin().text());
+  setWindowTitle(Wording("Guide: %1", page_->document()->begin().text()).Text());
   QTextBlockFormat apart;
   apart.setTopMargin(kApart);
   for (QTextBlock block = page_->document()->begin(); block.isValid(); block = block.next()) {
@@ -209,8 +219,8 @@ void GuideWindow::Search() {
   }
   list_->setVisible(!places_.empty());
   count_->setText(words.size() < 2  ? QString()
-                  : places_.empty() ? QStringLiteral("not found")
-                                    : QStringLiteral("%1 places").arg(places_.size()));
+                  : places_.empty() ? Wording("not found").Text()
+                                    : Wording("%1 places", QString::number(places_.size())).Text());
   MarkPlaces();
 }
 
@@ -218,7 +228,8 @@ void GuideWindow::ShowPlace(int row) {
   if (row < 0) return;
   const GuidePlace place = places_[static_cast<std::size_t>(row)];
   if (place.file != file_) ShowPage(place.file);
-  count_->setText(QStringLiteral("%1 of %2").arg(row + 1).arg(places_.size()));
+  count_->setText(
+      FromBytes(Word("%1 of %2", {std::to_string(row + 1), std::to_string(places_.size())})));
   QTextCursor cursor(page_->document());
   cursor.setPosition(place.position);
   cursor.setPosition(place.position + static_cast<int>(search_->text().simplified().size()),
