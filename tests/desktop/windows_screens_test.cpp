@@ -2,13 +2,16 @@
 // cell, and what an operator may do in the middle of it.
 
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QLineEdit>
+#include <QLocale>
 #include <QTabBar>
 #include <QTableView>
 #include <QTest>
 
 #include "desktop/running_program.h"
+#include "desktop/widgets/look/mnemonics.h"
 #include "networks/eon_data.h"
 
 namespace corvalis::test {
@@ -82,6 +85,41 @@ TEST_F(WindowsScreensTest, AShortNumberWarnsOnce) {
   EXPECT_EQ(Boxes(), once);
   EXPECT_EQ(OnScreen(kNetworks), nullptr);
   EXPECT_EQ(eonData->Pin(0), 12);
+}
+
+// What was shown before the language changed follows it: windows that stand and that are hidden.
+TEST_F(WindowsScreensTest, ALanguageIsFollowedAtOnce) {
+  WriteFile("Other.ini", "[Words]\nLocale=pt_BR\nDrive=Unidade\nModem=Linha\nText=Texto\n");
+  StartWithCoder({"--open"}, std::string(kLocalFile) +
+                                 "[Language]\nName0=English\nFileName0=English.ini\n"
+                                 "Name1=Other\nFileName1=Other.ini\n");
+  const auto shows = [this](const QString& window, const QString& word) {
+    QStringList texts;
+    for (const auto* part : hand.Window(window).findChildren<QWidget*>()) {
+      texts << desktop::PlainCaption(part->property("text").toString())
+            << part->property("title").toString();
+    }
+    return texts.contains(word);
+  };
+  for (const char* button : {"CtTpDiPiButton", "PsnRtPinAfButton"}) {
+    hand.Click(kMain, button);
+    hand.Close(button == std::string("CtTpDiPiButton") ? kStation : kTexts);
+  }
+  hand.Click(kMain, "RS232CButton");
+  hand.Choose(kSetup, "LanguageCombo", "Other");
+  EXPECT_TRUE(shows(kSetup, "Linha"));
+  hand.Close(kSetup);
+  EXPECT_TRUE(shows(kMain, "Unidade"));
+  hand.Click(kMain, "PsnRtPinAfButton");
+  const auto& names = dynamic_cast<QTableView&>(hand.Control(kTexts, "DBGrid1"));
+  EXPECT_EQ(names.model()->headerData(2, Qt::Horizontal).toString(), "Texto");
+  hand.Close(kTexts);
+  hand.Click(kMain, "CtTpDiPiButton");
+  const auto& calendar = dynamic_cast<QCalendarWidget&>(hand.Control(kStation, "Calendar1"));
+  EXPECT_EQ(calendar.firstDayOfWeek(), Qt::Sunday);
+  EXPECT_EQ(QLocale().name(), "pt_BR");  // for windows that are still to come
+  EXPECT_TRUE(calendar.accessibleName().contains(
+      QLocale("pt_BR").dayName(calendar.selectedDate().dayOfWeek())));
 }
 
 TEST_F(WindowsScreensTest, ATypeIsChosenFromTheListOverItsCell) {
