@@ -166,7 +166,6 @@ void PinTab::ChooseType() {
   if (following_ || Combo1.Index() == ListBox::kNone) return;
   DBGrid4.PutEdit(kType, Combo1.Entry(Combo1.Index()));
   DBGrid4.SetFocus();
-  Combo1.SetVisible(false);
 }
 
 void PinTab::InitCaptions() {

@@ -163,6 +163,7 @@ TEST_F(TmcTabsTest, WhatIsBeingTypedIsSent) {
   EXPECT_EQ(Held(0x22, 1), "000FFFF10100");
 
   OpenScreen(std::string(kSatellite) + "[TMC]\nMaxListNum=3\n");
+  EXPECT_EQ(grid().Row(), 0);  // another list
   AddressSent = true;
   Strike(2, kEvent, "9");
   form->tmc.SendAllBurstTmcCommand.Press();

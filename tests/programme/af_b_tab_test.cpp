@@ -54,6 +54,7 @@ TEST_F(AfTabsTest, ListsAreFoundByNumberByStepsAndByDescription) {
   Step(tab.VScroll1, -1);
   EXPECT_EQ(at(), "02/");
   EXPECT_EQ(ShownB(2), "100.0 099.0 ");
+  EXPECT_EQ(tab.AfBBandStrip.Marks().size(), 2U);
   Step(tab.VScroll1, +1);
   EXPECT_EQ(at(), "00/");
   for (const auto& [typed, shown] :
