@@ -54,6 +54,15 @@ class GuideTest : public RunningProgram {
   }
 };
 
+// Each heading's depth: a page has the same parts in every language.
+QString Parts(const QString& text) {
+  QString depths;
+  for (const QString& line : text.split(u'\n')) {
+    if (line.startsWith(u'#')) depths += QString::number(line.indexOf(u' '));
+  }
+  return depths;
+}
+
 TEST(GuidePagesTest, EveryLinkAndPictureIsThereAndEveryPageIsReachedInEachLanguage) {
   static const QRegularExpression link(QStringLiteral("\\]\\(([^)]+)\\)"));
   for (const QString& language : kLanguages) {
@@ -65,6 +74,8 @@ TEST(GuidePagesTest, EveryLinkAndPictureIsThereAndEveryPageIsReachedInEachLangua
       const QString path = pages.PathOf(page);
       const QString text = PageText(path);
       EXPECT_TRUE(text.startsWith(u"# "));
+      EXPECT_EQ(path.contains(u"/guide/de/"), language == u"de");
+      EXPECT_EQ(Parts(text), Parts(PageText(Pages({}).PathOf(page))));
       for (auto found = link.globalMatch(text); found.hasNext();) {
         const QString to = found.next().captured(1);
         EXPECT_TRUE(QFileInfo(path).dir().exists(to)) << to.toStdString();
