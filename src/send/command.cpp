@@ -35,30 +35,38 @@ struct Form {
   bool readable = true;
 };
 
-bool TakeOptions(WordReader& words, Command& command, TextRules& rules) {
-  while (!words.AtEnd()) {
+// How a text is to be taken; they stand on either side of it.
+bool IsTextOption(std::string_view word, const Command& command) {
+  return word == "--replace" || word == "--cut" ||
+         (word == "--time" && command.item != Item::kPtyn);
+}
+
+bool TakeTextOptions(WordReader& words, Command& command, TextRules& rules) {
+  while (IsTextOption(words.Peek(), command)) {
     const std::string_view option = words.Next();
     if (option == "--replace") {
       rules.replace = true;
     } else if (option == "--cut") {
       rules.cut = true;
-    } else if (option == "--time" && command.item != Item::kPtyn) {
+    } else {
       int time = 0;
       if (!words.Number("the time behind --time", 0, kLongestTime, time)) return false;
       command.time = time;
-    } else {
-      return words.Fail("\"" + std::string(option) +
-                        "\" is too much; a text of several words has "
-                        "to stand in quotes");
     }
   }
   return true;
 }
 
 bool TakeText(WordReader& words, Command& command, TextRules rules, int width) {
+  if (!TakeTextOptions(words, command, rules)) return false;
   if (words.AtEnd()) return words.Fail("the text is missing");
   const std::string_view text = words.Next();
-  if (!TakeOptions(words, command, rules)) return false;
+  if (!TakeTextOptions(words, command, rules)) return false;
+  if (!words.AtEnd()) {
+    return words.Fail("\"" + std::string(words.Peek()) +
+                      "\" is too much; a text of several words has "
+                      "to stand in quotes");
+  }
   CarriedText carried = Carry(text, width, rules);
   if (!carried.error.empty()) return words.Fail(carried.error);
   command.text = std::move(carried.bytes);

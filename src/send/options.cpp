@@ -171,9 +171,8 @@ std::string HelpText() {
   return text + "\ncommands:\n" + CommandsInWords() +
          "  read ITEM | read all\n"
          "\n"
-         "Behind a text may stand --time N, --replace and --cut. RT=, TEXT=, PS=, TA=, TP=, PTY= "
-         "and\n"
-         "MS= are taken as play-out systems write them.\n"
+         "Before or behind a text may stand --time N, --replace and --cut. RT=, TEXT=, PS=, TA=,\n"
+         "TP=, PTY= and MS= are taken as play-out systems write them.\n"
          "\n"
          "exit codes: 0 acknowledged, 1 refused or the link failed, 2 bad use, 3 no line\n";
 }

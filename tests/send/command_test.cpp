@@ -22,6 +22,7 @@ TEST(SendCommand, SaysWhatIsWrongWithALine) {
       {"rt", "the row is a number from 0 to 255"},
       {"rt 256 x", "the row is a number from 0 to 255"},
       {"rt 1", "the text is missing"},
+      {"rt 1 --time 15 --cut", "the text is missing"},
       {"rt 1 Now playing",
        "\"playing\" is too much; a text of several words has to stand in quotes"},
       {"rt 1 x --time 100", "the time behind --time is a number from 0 to 99"},

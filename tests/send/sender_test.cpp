@@ -28,6 +28,7 @@ const Written kWritten[] = {
     {"rt 1 \"Now: x\"", CommandCode::kRt, 1, "15Now: x", 3},
     {"rt 7 y", CommandCode::kRt, 7, "30y", 3},
     {"rt 7 y --time 9", CommandCode::kRt, 7, "09y", 3},
+    {"rt 7 --time 9 \"one two\" --cut", CommandCode::kRt, 7, "09one two", 3},
     {"rt 200 \"caf\xC3\xA9\"", CommandCode::kRt, 200, "15caf\xE9", 3},
     {"RT=It's \"x\" # 1", CommandCode::kRt, 0, "15It's \"x\" # 1", 3},
     {"ps 3 NEWS", CommandCode::kPsn, 3, "04NEWS", 3},
