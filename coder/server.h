@@ -12,7 +12,7 @@
 #include "coder/line.h"
 #include "coder/modem.h"
 #include "coder/options.h"
-#include "coder/pseudo_terminal.h"
+#include "platform/pseudo_terminal.h"
 #include "coder/transmitter.h"
 
 namespace corvalis::coder {

@@ -20,7 +20,7 @@ declare -A may=(
   [radio]="air radio station programme networks link busy config screen platform"
   [machine]="machine config platform"
   [send]="air send machine app station programme networks link busy config screen platform"
-  [coder]="air coder link/frame.h"
+  [coder]="air coder link/frame.h platform/pseudo_terminal.h"
 )
 
 failed=0

@@ -1,4 +1,4 @@
-#include "coder/pseudo_terminal.h"
+#include "platform/pseudo_terminal.h"
 
 #include <fcntl.h>
 #include <sys/inotify.h>
@@ -14,7 +14,7 @@
 #include <system_error>
 #include <utility>
 
-namespace corvalis::coder {
+namespace corvalis {
 
 namespace {
 
@@ -78,7 +78,7 @@ void PseudoTerminal::MakeLink() const {
     // read_symlink fails on anything that is no link
     const std::string old = fs::read_symlink(link, error).string();
     if (error || !old.starts_with("/dev/pts/")) {
-      throw std::runtime_error(link_ + " is there and is not a link of a Coder; it stays as it is");
+      throw std::runtime_error(link_ + " is there and does not lead to a line of this kind; it stays as it is");
     }
   }
   if (link.has_parent_path()) fs::create_directories(link.parent_path(), error);
@@ -127,4 +127,4 @@ PseudoTerminal::Settings PseudoTerminal::CurrentSettings() const {
   return settings;
 }
 
-}  // namespace corvalis::coder
+}  // namespace corvalis

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace corvalis::coder {
+namespace corvalis {
 
 /// A line that another program opens like a serial port. It keeps the terminal's other side open
 /// itself, so that programs may come and go and the settings stay.
@@ -52,4 +52,4 @@ class PseudoTerminal {
   int watch_ = -1;
 };
 
-}  // namespace corvalis::coder
+}  // namespace corvalis
