@@ -12,8 +12,8 @@
 #include "coder/line.h"
 #include "coder/modem.h"
 #include "coder/options.h"
-#include "platform/pseudo_terminal.h"
 #include "coder/transmitter.h"
+#include "platform/pseudo_terminal.h"
 
 namespace corvalis::coder {
 

@@ -78,7 +78,8 @@ void PseudoTerminal::MakeLink() const {
     // read_symlink fails on anything that is no link
     const std::string old = fs::read_symlink(link, error).string();
     if (error || !old.starts_with("/dev/pts/")) {
-      throw std::runtime_error(link_ + " is there and does not lead to a line of this kind; it stays as it is");
+      throw std::runtime_error(
+          link_ + " is there and does not lead to a line of this kind; it stays as it is");
     }
   }
   if (link.has_parent_path()) fs::create_directories(link.parent_path(), error);

@@ -1,6 +1,5 @@
 #include <arpa/inet.h>
 #include <fcntl.h>
-#include <grp.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -11,6 +10,7 @@
 #include <cstring>
 #include <utility>
 
+#include "send/group.h"
 #include "send/socket_server.h"
 
 namespace corvalis::send {
@@ -32,17 +32,6 @@ bool IsLeftOver(const std::string& path, const sockaddr_un& address) {
       errno == ECONNREFUSED;
   close(probe);
   return refused;
-}
-
-bool GiveToGroup(const std::string& path, const std::string& group, std::string& error) {
-  const ::group* entry = getgrnam(group.c_str());
-  if (entry == nullptr) {
-    error = "there is no group " + group;
-    return false;
-  }
-  if (chown(path.c_str(), static_cast<uid_t>(-1), entry->gr_gid) == 0) return true;
-  error = path + " can't be given to the group " + group + ": " + SystemWords();
-  return false;
 }
 
 }  // namespace
@@ -76,7 +65,7 @@ ListeningSocket ListeningSocket::AtPath(const std::string& path, const std::stri
   umask(before);
   if (bound) {
     made.path_ = path;
-    if (!group.empty()) GiveToGroup(path, group, error);
+    if (!group.empty()) error = GiveToGroup(path, group);
   }
   if (error.empty() && listen(made.descriptor_, kBacklog) != 0) error = path + ": " + SystemWords();
   return error.empty() ? std::move(made) : ListeningSocket(-1);

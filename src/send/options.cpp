@@ -89,10 +89,14 @@ constexpr std::array kOptions = {
            }},
     Option{"--listen", "PATH", "the path of a socket", "be a service on a Unix socket",
            [](Options& o, std::string_view v) { return TakeText(v, o.listen); }},
-    Option{"--group", "GROUP", "the name of a group", "give that socket to a group",
+    Option{"--group", "GROUP", "the name of a group",
+           "give the socket and the shared line to a group",
            [](Options& o, std::string_view v) { return TakeText(v, o.group); }},
     Option{"--listen-tcp", "127.0.0.1:PORT", "127.0.0.1:PORT, as it serves this machine alone",
            "be a service on the loopback", TakeLoopback},
+    Option{"--share", "PATH", "the path of a link",
+           "offer the line to the desktop program as a port",
+           [](Options& o, std::string_view v) { return TakeText(v, o.share); }},
     Option{"--allow-raw", "", "", "take frames of clients; they can lock a Coder away",
            [](Options& o, std::string_view) { return o.allow_raw = true; }},
     Option{"--follow", "FILE", "a path", "send the first line of a file whenever it is another",
@@ -141,6 +145,9 @@ std::string ParseOptions(std::span<const char* const> words, Options& options) {
   options.command.assign(words.begin() + static_cast<std::ptrdiff_t>(at), words.end());
   if (options.help || options.version) return {};
   if (options.follow.empty() != options.follow_as.empty()) return "--follow and --as go together";
+  if (!options.share.empty() && (!options.Serves() || options.dry)) {
+    return "--share goes with a service that writes to the line";
+  }
   if (options.Serves() != options.command.empty()) {
     return options.Serves() ? "a service takes no command" : "the command is missing";
   }

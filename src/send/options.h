@@ -21,6 +21,7 @@ struct Options {
   std::string listen = {};              ///< path of a Unix socket; empty: none
   std::string group = {};               ///< of that socket; empty: the user's own
   std::optional<int> listen_port = {};  ///< of the loopback, 1 to 65535
+  std::string share = {};               ///< path of the desktop's port; empty: none
   bool allow_raw = false;               ///< from clients
   std::string follow = {};              ///< path of a file; empty: none
   std::string follow_as = {};           ///< the command whose text its line is

@@ -14,6 +14,7 @@
 #include "send/dry_port.h"
 #include "send/one_shot.h"
 #include "send/service.h"
+#include "send/shared_line.h"
 
 namespace corvalis::send {
 
@@ -42,11 +43,14 @@ class Services {
           options.file.substr(name, options.file.size() - name - kExtension.size());
     }
     InstallPlatform(&platform_);
-    line = std::make_unique<LineOwner>(options.dry ? static_cast<SerialPort&>(dry_) : real_);
+    SerialPort* own = options.dry ? static_cast<SerialPort*>(&dry_) : &real_;
+    if (!options.share.empty()) own = (shared = std::make_unique<SharedLine>(real_)).get();
+    line = std::make_unique<LineOwner>(*own);
     platform_.port = line.get();
   }
   ~Services() {
     line.reset();
+    shared.reset();
     InstallPlatform(nullptr);
   }
   Services(const Services&) = delete;
@@ -57,6 +61,7 @@ class Services {
   }
 
   KeptDialogs dialogs;
+  std::unique_ptr<SharedLine> shared;  // null unless the desktop program is beside this
   std::unique_ptr<LineOwner> line;
 
  private:
@@ -80,7 +85,9 @@ int RunProgram(const Options& options) {
   Station station({.id = options.id, .burst = options.burst, .port = options.port});
   Sender sender(station, *services.line, services.dialogs, options.dry);
   sender.Note = [](const std::string& words) { std::cerr << "corvalis-send: " << words << "\n"; };
-  if (options.Serves()) return RunService(options, station, *services.line, sender);
+  if (options.Serves()) {
+    return RunService(options, station, *services.line, sender, services.shared.get());
+  }
   OneShot one_shot(sender, options.rules, {.json = options.json, .verbose = options.verbose},
                    std::cout, std::cerr);
   if (options.command == std::vector<std::string>{"-"}) return one_shot.RunLines(std::cin);

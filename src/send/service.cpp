@@ -7,11 +7,15 @@
 #include <QTimer>
 #include <chrono>
 #include <csignal>
+#include <filesystem>
 #include <iostream>
 #include <optional>
+#include <stdexcept>
 
+#include "config/config_data.h"
 #include "link/serial_management.h"
 #include "platform/platform.h"
+#include "send/desktop_port.h"
 #include "send/dispatcher.h"
 #include "send/follower.h"
 #include "send/socket_server.h"
@@ -68,15 +72,44 @@ std::string OpenSockets(const Options& options, SocketServer& server) {
   return {};
 }
 
+// Why the line can't be shared with the desktop; empty if it can.
+std::string NotShareable(const Options& options) {
+  namespace fs = std::filesystem;
+  if (configData->Modem()) return "--share is not for a station behind a modem";
+  if (configData->Satellite()) {
+    return "--share needs a Coder that answers; over a one-way link nothing tells when the other "
+           "program has written all";
+  }
+  const auto normal = [](const fs::path& path) {
+    std::error_code error;
+    const fs::path whole = fs::absolute(path, error);
+    return fs::weakly_canonical(whole.parent_path(), error) / whole.filename();
+  };
+  const fs::path own = options.device.empty() ? fs::path(Machine().settings_folder) /
+                                                    ("com" + std::to_string(configData->CommPort()))
+                                              : fs::path(options.device);
+  if (normal(own) != normal(options.share)) return {};
+  return options.share + " is the line of this service; --port gives it the device itself";
+}
+
 }  // namespace
 
-int RunService(const Options& options, Station& station, LineOwner& line, Sender& sender) {
+int RunService(const Options& options, Station& station, LineOwner& line, Sender& sender,
+               SharedLine* shared) {
   const EndSignals end_signals;
   Dispatcher dispatcher(station, line, sender);
   dispatcher.Note = Tell;
   SocketServer server(dispatcher,
                       {.rules = options.rules, .json = options.json, .raw = options.allow_raw});
-  if (const std::string error = OpenSockets(options, server); !error.empty()) {
+  std::string error = shared == nullptr ? "" : NotShareable(options);
+  std::optional<DesktopPort> desktop;
+  try {
+    if (error.empty()) error = OpenSockets(options, server);
+    if (error.empty() && shared != nullptr) desktop.emplace(*shared, options.share, options.group);
+  } catch (const std::runtime_error& refused) {
+    error = refused.what();
+  }
+  if (!error.empty()) {
     Tell(error);
     return ExitCode(Outcome::Kind::kUnfit);
   }
@@ -102,6 +135,7 @@ int RunService(const Options& options, Station& station, LineOwner& line, Sender
   }
   TellServiceManager("STOPPING=1");
   dispatcher.Work();
+  EscPressed = true;  // the desktop's exchange isn't waited for
   return 0;
 }
 

@@ -1,6 +1,8 @@
 // The service as a process, at a socket.
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <poll.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -110,6 +112,67 @@ TEST_F(ServiceTest, FollowsAFile) {
   write(Path("now"), "Three");
   coder.WaitForLine("RT 1 <- 15Three");
   EXPECT_EQ(End(SIGTERM), 0);
+}
+
+// So many bytes from a line; fewer once it is gone.
+std::string Take(int line, std::size_t count) {
+  std::string bytes;
+  for (pollfd polled{line, POLLIN, 0}; bytes.size() < count && poll(&polled, 1, 10'000) > 0;) {
+    char byte = 0;
+    if (read(line, &byte, 1) != 1) break;
+    bytes += byte;
+  }
+  return bytes;
+}
+
+TEST_F(ServiceTest, SharesTheLineWithAnotherProgram) {
+  CoderProcess coder({"--link", Path("line").c_str(), "--print", "--dump"});
+  Start({"--share", Path("shared").c_str()});
+  // Opens, writes, and ends; `meanwhile` is before the answers are taken.
+  int line = -1;
+  const auto exchange = [&](const std::string& bytes, std::size_t count, auto meanwhile) {
+    line = open(Path("shared").c_str(), O_RDWR | O_NOCTTY);
+    EXPECT_EQ(write(line, bytes.data(), bytes.size()), static_cast<ssize_t>(bytes.size()));
+    meanwhile();
+    std::string answers = Take(line, count);
+    close(line);
+    return answers;
+  };
+  const std::string enq = "\5";
+  std::string burst = enq + "\2\10" + std::string(1, '\0') + "?????\3\66";
+  for (int i = 0; i < 10; ++i) burst += "\2\15" + std::string(1, '\0') + "\3\14";
+  const std::string answers = exchange(burst, 82, [&] {
+    EXPECT_EQ(Ask(Path("socket"), "rt 1 x\nread rt 1\n"), "ok\nrt 1 \"x\" --time 15\nok\n");
+  });
+  EXPECT_EQ(answers.substr(0, 5), "\6\6\6\2\15");
+  EXPECT_EQ(answers.size(), 82U);
+  EXPECT_EQ(exchange(enq, 2,
+                     [&] {
+                       EXPECT_EQ(Take(line, 1), "\6");
+                       End(SIGKILL);
+                     }),
+            "")
+      << "gone with the service";
+  // What a killed service has left is taken over, what is something else is not.
+  Start({"--share", Path("shared").c_str()});
+  EXPECT_EQ(exchange(enq, 1, [] {}), "\6");
+  EXPECT_EQ(End(SIGTERM), 0);
+  QFile one_way(folder.filePath("one_way.rds"));
+  ASSERT_TRUE(one_way.open(QIODevice::WriteOnly));
+  one_way.write("[Serial Setup]\r\nSatellite=On\r\n");
+  one_way.close();
+  const QString station = QString(kExamples) + "/station.rds";
+  for (const auto& [file, share, words] :
+       {std::tuple{station, one_way.fileName(), "it stays as it is"},
+        {one_way.fileName(), folder.filePath("shared"), "needs a Coder that answers"},
+        {station, folder.filePath("line"), "is the line of this service"}}) {
+    QProcess process;
+    process.start(CORVALIS_SEND_PROGRAM, {"--file", file, "--port", folder.filePath("line"),
+                                          "--follow", "x", "--as", "rt 1", "--share", share});
+    ASSERT_TRUE(process.waitForFinished());
+    EXPECT_EQ(process.exitCode(), 2);
+    EXPECT_TRUE(process.readAllStandardError().contains(words)) << words;
+  }
 }
 
 }  // namespace
