@@ -243,7 +243,11 @@ void RunPages(Progress& progress) {
   for (int page = 0; page < psnPageData->MaxPsnPageNum(); ++page) {
     RunPage(progress, Place(page));
     if (LinkError == kErrorAborted) return;
-    if (LinkError != kLinkOk && progress.Run() == ConfigurationRun::kRead) break;
+    if (LinkError != kLinkOk && progress.Run() == ConfigurationRun::kRead) {
+      const int left = psnPageData->MaxPsnPageNum() - page - 1;
+      progress.Add(CommandCode::kPsnPage, left * psnPageData->MaxPsnNum());  // over too
+      break;
+    }
   }
   if (!PlanTravels(progress.Run())) return;
   RunList(

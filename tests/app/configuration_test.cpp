@@ -125,9 +125,12 @@ TEST_F(ConnectionTest, ThePagesGoOnInAWayOfTheirOwn) {
   EXPECT_EQ(Codes(), (Runs{{kPage, 1}, {kPlan, 1}}));
   EXPECT_EQ(Boxes().size(), 2U);
   Refuse(first_row);
+  std::string last;
+  port.Wrote = [&last] { last = StandingTransfer()->ProgressLabel.Caption(); };
   form->Command1.Press();
   EXPECT_EQ(Codes(), (Runs{{kPage, 1}, {kPlan, 2}, {kPi, 1}}));
   EXPECT_EQ(Boxes().size(), 1U);
+  EXPECT_EQ(last.substr(0, 6), "9 of 9");  // what was left out is over
 }
 
 // Whatever happens to the line at some item of some step: it is said once, the rest is left, and

@@ -48,6 +48,10 @@ TEST_F(WidgetsTest, WhatIsTypedIntoAComboBoxSelectsNoEntry) {
   QTest::keyClick(view_->combo, Qt::Key_Left);
   QTest::keyClicks(view_->combo, "c");
   EXPECT_EQ(screen_.combo.Entry(1), "acb");
+  QApplication::clipboard()->setText(QStringLiteral("\u0416d"));  // what the code page lacks
+  view_->combo->lineEdit()->paste();
+  QTest::keyClicks(view_->combo, "e");
+  EXPECT_EQ(screen_.combo.Entry(1), "acdeb");
   QTest::keyClick(view_->combo, Qt::Key_Down);
   EXPECT_EQ(screen_.combo.Index(), 2);
 }

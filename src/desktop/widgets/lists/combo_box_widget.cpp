@@ -19,10 +19,20 @@ ComboBoxWidget::ComboBoxWidget(ComboBox& combo, QWidget* parent)
   // The base would choose the entry that has the text typed, at Enter and when the focus leaves.
   disconnect(lineEdit(), &QLineEdit::returnPressed, this, nullptr);
   disconnect(lineEdit(), &QLineEdit::editingFinished, this, nullptr);
-  connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) {
-    combo_.TypeText(ToBytes(text));
-    Draw();
-  });
+  connect(lineEdit(), &QLineEdit::textEdited, this, [this](const QString& text) { Take(text); });
+  Draw();
+}
+
+void ComboBoxWidget::Take(const QString& text) {
+  const std::string known = KnownBytes(text);
+  const qsizetype dropped = text.size() - FromBytes(known).size();
+  if (dropped > 0) {
+    const int caret = lineEdit()->cursorPosition() - static_cast<int>(dropped);
+    const QSignalBlocker silent(lineEdit());
+    lineEdit()->setText(FromBytes(known));
+    lineEdit()->setCursorPosition(caret);  // they came in front of it
+  }
+  combo_.TypeText(known);
   Draw();
 }
 

@@ -16,6 +16,8 @@ class ComboBoxWidget : public DropDownWidget {
   void Draw() override;
 
  private:
+  void Take(const QString& text);
+
   ComboBox& combo_;
 };
 
