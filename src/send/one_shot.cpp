@@ -2,6 +2,7 @@
 
 #include <istream>
 #include <ostream>
+#include <utility>
 
 #include "send/answers.h"
 
@@ -44,7 +45,11 @@ void OneShot::Tell(std::string_view line, int number, bool terse, const Outcome&
     err_ << outcome.words << std::endl;
   }
   if (telling_.json) {
-    out_ << AsJson(line, number, outcome) << std::endl;
+    Outcome told = outcome;
+    if (telling_.frames != nullptr) {
+      told.values.emplace_back("frames", std::exchange(*telling_.frames, {}));
+    }
+    out_ << AsJson(line, number, told) << std::endl;
   } else if (!outcome.read.empty()) {
     out_ << outcome.read << std::endl;
   } else if (terse) {

@@ -16,7 +16,8 @@ class OneShot {
  public:
   struct Telling {
     bool json = false;
-    bool verbose = false;  ///< also what went well
+    bool verbose = false;           ///< also what went well
+    std::string* frames = nullptr;  ///< of a dry run: taken into the objects
   };
   /// `out` gets what was read and the objects, `err` what failed.
   OneShot(Sender& sender, TextRules rules, Telling telling, std::ostream& out, std::ostream& err)

@@ -36,7 +36,10 @@ bool TakeNumber(std::string_view value, int low, int high, std::optional<std::in
   return number && *number >= low && *number <= high;
 }
 
+// The last one counts, whichever it is.
 bool TakePort(Options& options, std::string_view value) {
+  options.device.clear();
+  options.port.reset();
   const std::string name = UpperCase(value);
   if (name.find('/') != std::string::npos || !name.starts_with("COM")) {
     return TakeText(value, options.device);

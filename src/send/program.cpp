@@ -27,7 +27,13 @@ class Services {
  public:
   explicit Services(const Options& options) {
     if (!options.device.empty()) real_.UseDevice(options.device);
-    dry_.Wrote = [](std::span<const std::uint8_t> bytes) { std::cout << AsHex(bytes) << "\n"; };
+    dry_.Wrote = [this, json = options.json](std::span<const std::uint8_t> bytes) {
+      if (!json) {
+        std::cout << AsHex(bytes) << "\n";
+      } else {
+        dry_frames.append(dry_frames.empty() ? "" : ", ").append(AsHex(bytes));
+      }
+    };
     platform_.clock = &time_;
     platform_.pump = &time_;
     platform_.dialogs = &dialogs;
@@ -61,6 +67,7 @@ class Services {
   }
 
   KeptDialogs dialogs;
+  std::string dry_frames;              // of a dry run, for the next object
   std::unique_ptr<SharedLine> shared;  // null unless the desktop program is beside this
   std::unique_ptr<LineOwner> line;
 
@@ -88,7 +95,10 @@ int RunProgram(const Options& options) {
   if (options.Serves()) {
     return RunService(options, station, *services.line, sender, services.shared.get());
   }
-  OneShot one_shot(sender, options.rules, {.json = options.json, .verbose = options.verbose},
+  OneShot one_shot(sender, options.rules,
+                   {.json = options.json,
+                    .verbose = options.verbose,
+                    .frames = options.dry ? &services.dry_frames : nullptr},
                    std::cout, std::cerr);
   if (options.command == std::vector<std::string>{"-"}) return one_shot.RunLines(std::cin);
   return one_shot.RunWords(options.command);

@@ -232,7 +232,10 @@ TEST_F(SendTest, ADryRunShowsEveryFrame) {
   dry.Wrote = [&](std::span<const std::uint8_t>) { ++frames; };
   owner = std::make_unique<send::LineOwner>(dry);
   sender = std::make_unique<send::Sender>(*station, *owner, kept, true);
-  EXPECT_EQ(Send("ta on").kind, Kind::kDone);
+  std::string shown = "05";
+  std::ostringstream out;
+  send::OneShot(*sender, {}, {.json = true, .frames = &shown}, out, out).RunWords({"ta", "on"});
+  EXPECT_EQ(out.str(), "{\"command\":\"ta on\",\"ok\":true,\"frames\":\"05\"}\n");
   EXPECT_EQ(frames, 3);
   EXPECT_EQ(Send("send af").kind, Kind::kDone);
   EXPECT_EQ(frames, 3 + 1 + 1 + 99);
