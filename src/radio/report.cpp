@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
-#include <cstdio>
 #include <filesystem>
 #include <map>
 #include <string_view>
@@ -127,21 +126,6 @@ std::string Places(const std::vector<Span>& spans) {
     if (span.length > 1) text += "-" + std::to_string(span.begin + span.length);
   }
   return text;
-}
-
-std::string ClockText(const air::ClockTime& clock) {
-  const auto day = std::chrono::floor<std::chrono::days>(clock.Local());
-  const std::chrono::year_month_day date{day};
-  return Digits(static_cast<int>(static_cast<unsigned>(date.day())), 2) + "." +
-         Digits(static_cast<int>(static_cast<unsigned>(date.month())), 2) + "." +
-         Digits(static_cast<int>(date.year()), 4) + " " + TimeText(clock.Local() - day) + " (" +
-         SignedHours(clock.offset_half_hours) + ")";
-}
-
-std::string OneDecimal(double value) {
-  std::array<char, 32> text{};
-  std::snprintf(text.data(), text.size(), "%.1f", value);
-  return text.data();
 }
 
 }  // namespace

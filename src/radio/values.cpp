@@ -1,6 +1,8 @@
 #include "radio/values.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdio>
 #include <span>
 #include <utility>
 
@@ -27,6 +29,37 @@ std::string Hex(std::uint32_t value, int digits) {
 }  // namespace
 
 std::string InWords(std::string_view english) { return std::string(english); }
+
+std::string InWords(std::string_view english, std::initializer_list<std::string> values) {
+  std::string text = InWords(english);
+  for (std::size_t at = text.find('%'); at != std::string::npos; at = text.find('%', at)) {
+    const std::size_t place =
+        at + 1 < text.size() ? static_cast<unsigned char>(text[at + 1]) - '1' : values.size();
+    if (place >= values.size()) {
+      ++at;
+      continue;
+    }
+    const std::string& value = values.begin()[place];
+    text.replace(at, 2, value);
+    at += value.size();
+  }
+  return text;
+}
+
+std::string ClockText(const air::ClockTime& clock) {
+  const auto day = std::chrono::floor<std::chrono::days>(clock.Local());
+  const std::chrono::year_month_day date{day};
+  return Digits(static_cast<int>(static_cast<unsigned>(date.day())), 2) + "." +
+         Digits(static_cast<int>(static_cast<unsigned>(date.month())), 2) + "." +
+         Digits(static_cast<int>(date.year()), 4) + " " + TimeText(clock.Local() - day) + " (" +
+         SignedHours(clock.offset_half_hours) + ")";
+}
+
+std::string OneDecimal(double value) {
+  std::array<char, 32> text{};
+  std::snprintf(text.data(), text.size(), "%.1f", value);
+  return text.data();
+}
 
 Value Plain(std::string shown) {
   Value value{.key = shown, .shown = {}};

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <string>
 #include <string_view>
 
@@ -13,6 +14,13 @@ namespace corvalis::radio {
 
 /// A text that we add, in the language of this moment, in UTF-8.
 [[nodiscard]] std::string InWords(std::string_view english);
+/// The same with values in it, in UTF-8, the first in place of "%1", and so on up to "%9".
+[[nodiscard]] std::string InWords(std::string_view english,
+                                  std::initializer_list<std::string> values);
+/// "11.4".
+[[nodiscard]] std::string OneDecimal(double value);
+/// "24.11.2026 14:03 (+01.0)": local time, as radios show it.
+[[nodiscard]] std::string ClockText(const air::ClockTime& clock);
 
 [[nodiscard]] Value Plain(std::string shown);
 /// Bytes of the air, as a radio shows them.

@@ -1,14 +1,31 @@
 #include "desktop/radio/show_radio.h"
 
+#include <QApplication>
+#include <QIcon>
 #include <iostream>
 
+#include "desktop/radio/radio_window.h"
+#include "desktop/widgets/look/style.h"
 #include "radio/program.h"
 
 namespace corvalis::desktop {
 
-int ShowRadio(const radio::Options& /*options*/, int& /*argc*/, char** /*argv*/) {
-  std::cerr << "corvalis-radio: this build has no window; use --report\n";
-  return radio::kBadUse;
+int ShowRadio(const radio::Options& options, int& argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("corvalis-radio"));
+  QGuiApplication::setDesktopFileName(QStringLiteral("corvalis-radio"));
+  QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("corvalis")));
+  ApplyStyle(application);
+  RadioWindow window;
+  for (const std::string& wrong :
+       {options.compare.empty() ? std::string() : window.OpenStation(options.compare),
+        options.source.empty() ? std::string() : window.OpenSource(options.source)}) {
+    if (wrong.empty()) continue;
+    std::cerr << "corvalis-radio: " << wrong << "\n";
+    return radio::kBadUse;
+  }
+  window.show();
+  return QApplication::exec();
 }
 
 }  // namespace corvalis::desktop
