@@ -116,7 +116,8 @@ void SharedLine::Receive() {
   const bool running = exchange_.Running();
   exchange_.Take(bytes, Now());
   if (running && !exchange_.Running()) Ended();
-  if (asking_ == &desktop_ && ToDesktop) ToDesktop(bytes);
+  // Who has written more meanwhile would take this for the answer to that.
+  if (asking_ == &desktop_ && waiting_.empty() && ToDesktop) ToDesktop(bytes);
   if (asking_ == &service_) {
     input_.insert(input_.end(), bytes.begin(), bytes.end());
     if (CommEventRaised) CommEventRaised();

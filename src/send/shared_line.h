@@ -15,7 +15,9 @@ namespace corvalis::send {
 /// it. What either writes goes out in whole exchanges, and the answers go to whoever asked. Where
 /// both want the line, they take turns. Before an exchange the Coder is brought into the addressing
 /// that its side believes in, which an ENQ of that side drops and an acknowledged address sets; so
-/// neither notices the other. A side that has sent neither yet takes the Coder as it is.
+/// neither notices the other. An answer that the desktop no longer waits for, as it has written
+/// more meanwhile (a burst, or behind an ESC), is dropped. A side that has sent neither yet takes
+/// the Coder as it is.
 ///
 /// For a Coder that answers only: over a one-way link nothing tells when an exchange is over.
 class SharedLine : public SerialPort {
