@@ -7,7 +7,7 @@ cd "$(dirname "$0")/.."
 
 list() {
   find src -name '*.cpp' -o -name '*.h' | LC_ALL=C sort | xargs perl -0777 -ne '
-    while (/(?<![.\w])(?:Word|Wording|LaterWord)\(\s*((?:"(?:[^"\\]|\\.)*"\s*)+)/g) {
+    while (/(?<![.\w])(?:Word|Wording|LaterWord|InWords)\(\s*((?:"(?:[^"\\]|\\.)*"\s*)+)/g) {
       my $word = $1;
       $word =~ s/"\s*"//g;
       $word =~ s/^"|"\s*$//g;

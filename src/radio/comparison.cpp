@@ -90,9 +90,9 @@ Lacking LackingIn(const Entry& other, const Entry& entry) {
 void CompareLists(const Entry& entry, const Entry& heard, bool came_clear, Row& row) {
   const Lacking missing = LackingIn(heard, entry);
   const Lacking more = LackingIn(entry, heard);
-  if (!missing.shown.empty()) row.remark = InWords("without") + " " + missing.shown;
+  if (!missing.shown.empty()) row.remark = InWords("without %1", {missing.shown});
   if (!more.shown.empty()) {
-    row.remark += (row.remark.empty() ? "" : "; ") + InWords("beside it") + " " + more.shown;
+    row.remark += (row.remark.empty() ? "" : "; ") + InWords("beside it %1", {more.shown});
   }
   if (missing.shown.empty() && more.shown.empty()) {
     row.verdict = Verdict::kAgrees;

@@ -4,6 +4,7 @@
 #include <cstddef>
 
 #include "config/conversions.h"
+#include "config/words.h"
 #include "radio/values.h"
 #include "station/groups_data.h"
 
@@ -31,19 +32,19 @@ struct Called {
 constexpr std::array kCalled = {
     Called{"PI"},
     Called{"ECC"},
-    Called{"Language", Form::kWord},
+    Called{LaterWord("Language"), Form::kWord},
     Called{"TP"},
     Called{"TA"},
     Called{"M/S"},
-    Called{"Stereo", Form::kWord},
-    Called{"Artificial head", Form::kWord},
-    Called{"Compressed", Form::kWord},
-    Called{"Dynamic PTY", Form::kWord},
+    Called{LaterWord("Stereo"), Form::kWord},
+    Called{LaterWord("Artificial head"), Form::kWord},
+    Called{LaterWord("Compressed"), Form::kWord},
+    Called{LaterWord("Dynamic PTY"), Form::kWord},
     Called{"PTY"},
     Called{"PTYN"},
     Called{"PS", Form::kName},
     Called{"RT", Form::kRow},
-    Called{"CT offset", Form::kWord},
+    Called{LaterWord("CT offset"), Form::kWord},
     Called{"PIN"},
     Called{"AF", Form::kList},
     Called{"LA"},
@@ -62,9 +63,9 @@ constexpr std::array kCalled = {
     Called{"IH", Form::kIndex},
     Called{"TMC LTN"},
     Called{"TMC SID"},
-    Called{"TMC scopes", Form::kWord},
+    Called{LaterWord("TMC scopes"), Form::kWord},
     Called{"TMC", Form::kRow},
-    Called{"Group", Form::kGroup},
+    Called{LaterWord("Group"), Form::kGroup},
 };
 static_assert(kCalled.size() == static_cast<std::size_t>(Item::kGroup) + 1);
 

@@ -29,7 +29,7 @@ std::string InWords(Hearing hearing) {
     case Hearing::kHeard:
       break;
   }
-  return radio::InWords("heard");
+  return radio::InWords("heard whole");
 }
 
 std::string TimeOfDay(DateTime when) {

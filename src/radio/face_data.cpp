@@ -122,7 +122,7 @@ void ShowTraffic(const air::Reception& heard, Face& face) {
     Add(system, InWords("service %1", {std::to_string(service.value.service)}));
   }
   if (system.empty()) system = InWords("being heard");
-  face.data.push_back({.what = InWords("TMC system"), .bytes = {}, .text = system});
+  face.data.push_back({.what = InWords("TMC System"), .bytes = {}, .text = system});
   for (const auto& entry : Latest(heard.traffic.messages, kLastMessages)) {
     face.data.push_back(
         {.what = InWords("TMC message"), .bytes = {}, .text = MessageValue(entry.value).shown});

@@ -10,7 +10,7 @@ namespace corvalis::radio {
 
 namespace {
 
-constexpr double kStalls = 3;  // seconds without a group
+constexpr int kStalls = 3;  // seconds without a group
 
 }  // namespace
 
@@ -41,7 +41,7 @@ bool RadioForm::Listen(double steady) {
 
 std::string RadioForm::SourceInWords() const {
   const GroupSource& source = tuner_.Source();
-  std::string groups = std::to_string(tuner_.Groups()) + " " + InWords("groups");
+  const std::string groups = std::to_string(tuner_.Groups());
   switch (source.Now()) {
     case GroupSource::State::kClosed:
       return InWords("no source");
@@ -50,13 +50,13 @@ std::string RadioForm::SourceInWords() const {
     case GroupSource::State::kFailed:
       return source.Failure();
     case GroupSource::State::kEnded:
-      return groups + ", " + InWords("the source has ended");
+      return InWords("%1 groups, the source has ended", {groups});
     case GroupSource::State::kComing:
       break;
   }
-  if (steady_ - came_ < kStalls) return groups;
-  return groups + ", " + InWords("nothing for so many seconds:") + " " +
-         std::to_string(static_cast<int>(steady_ - came_));
+  const int silent = static_cast<int>(steady_ - came_);
+  if (silent < kStalls) return InWords("%1 groups", {groups});
+  return InWords("%1 groups, nothing for %2 seconds", {groups, std::to_string(silent)});
 }
 
 bool RadioForm::Compare(DateTime now) {

@@ -9,6 +9,7 @@
 #include <utility>
 
 #include "config/conversions.h"
+#include "config/words.h"
 #include "platform/plain_file.h"
 #include "radio/entries.h"
 #include "radio/values.h"
@@ -162,13 +163,13 @@ std::string Summary(const std::vector<Row>& rows) {
   std::map<Verdict, int> counts;
   for (const Row& row : rows) ++counts[row.verdict];
   std::string text;
-  for (const auto& [verdict, words] : {std::pair(Verdict::kAgrees, "agree"),
-                                       {Verdict::kDiffers, "differ"},
-                                       {Verdict::kNotHeard, "not heard yet"},
-                                       {Verdict::kNotPrepared, "not prepared"},
-                                       {Verdict::kSilent, "silent"}}) {
+  for (const auto& [verdict, words] : {std::pair(Verdict::kAgrees, LaterWord("%1 agree")),
+                                       {Verdict::kDiffers, LaterWord("%1 differ")},
+                                       {Verdict::kNotHeard, LaterWord("%1 not heard yet")},
+                                       {Verdict::kNotPrepared, LaterWord("%1 not prepared")},
+                                       {Verdict::kSilent, LaterWord("%1 silent")}}) {
     if (counts[verdict] == 0) continue;
-    text += (text.empty() ? "" : ", ") + std::to_string(counts[verdict]) + " " + InWords(words);
+    text += (text.empty() ? "" : ", ") + InWords(words, {std::to_string(counts[verdict])});
   }
   return text.empty() ? InWords("nothing to compare") : text;
 }
@@ -207,8 +208,8 @@ std::string HeardText(const air::Reception& heard) {
 
 std::string HeardSummary(const air::Reception& heard) {
   const air::GroupCounts& all = heard.groups.all;
-  return std::to_string(all.groups) + " " + InWords("groups") + ", " +
-         OneDecimal(all.MissingPercent()) + " % " + InWords("of the blocks missing");
+  return InWords("%1 groups, %2 % of the blocks missing",
+                 {std::to_string(all.groups), OneDecimal(all.MissingPercent())});
 }
 
 std::string SaveReport(const std::vector<Row>& rows, const std::string& path) {

@@ -92,7 +92,7 @@ std::string WhySilent(const Entry& entry, const Prepared& prepared) {
     if (prepared.On(group)) return {};
     off += (off.empty() ? "" : ", ") + GroupName(group);
   }
-  return off.empty() ? off : off + " " + InWords("off");
+  return off.empty() ? off : InWords("%1 off", {off});
 }
 
 std::vector<Row> CompareTurns(Item item, const std::vector<Entry>& entries,

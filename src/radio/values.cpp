@@ -9,6 +9,8 @@
 #include "air/characters.h"
 #include "config/conversions.h"
 #include "config/programme_types.h"
+#include "config/windows_1252.h"
+#include "config/words.h"
 #include "station/country_table.h"
 #include "station/language_codes.h"
 
@@ -28,7 +30,7 @@ std::string Hex(std::uint32_t value, int digits) {
 
 }  // namespace
 
-std::string InWords(std::string_view english) { return std::string(english); }
+std::string InWords(std::string_view english) { return Utf8From1252(Word(english)); }
 
 std::string InWords(std::string_view english, std::initializer_list<std::string> values) {
   std::string text = InWords(english);
@@ -73,10 +75,12 @@ Value TextValue(std::string bytes) {
   return {.key = std::move(bytes), .shown = std::move(shown)};
 }
 
-Value OnOffValue(bool on) { return {.key = on ? "1" : "0", .shown = InWords(on ? "on" : "off")}; }
+Value OnOffValue(bool on) {
+  return {.key = on ? "1" : "0", .shown = on ? InWords("on") : InWords("off")};
+}
 
 Value MusicValue(bool music) {
-  return {.key = music ? "1" : "0", .shown = InWords(music ? "music" : "speech")};
+  return {.key = music ? "1" : "0", .shown = music ? InWords("music") : InWords("speech")};
 }
 
 Value HexValue(std::uint32_t value, int digits) { return Plain(Hex(value, digits)); }
@@ -129,10 +133,10 @@ Value SubchannelValue(std::uint32_t bits) {
 Value ScopesValue(const air::TrafficTable& table) {
   std::string text;
   std::string key;
-  for (const auto& [on, word] : {std::pair(table.international, "international"),
-                                 {table.national, "national"},
-                                 {table.regional, "regional"},
-                                 {table.urban, "urban"}}) {
+  for (const auto& [on, word] : {std::pair(table.international, LaterWord("international")),
+                                 {table.national, LaterWord("national")},
+                                 {table.regional, LaterWord("regional")},
+                                 {table.urban, LaterWord("urban")}}) {
     key += on ? '1' : '0';
     if (on) Add(text, InWords(word));
   }
@@ -140,11 +144,10 @@ Value ScopesValue(const air::TrafficTable& table) {
 }
 
 Value MessageValue(const air::Group8A& message) {
-  std::string text = InWords("event") + " " + std::to_string(message.event);
-  Add(text, InWords("location") + " " + std::to_string(message.location));
-  Add(text, InWords("extent") + " " + std::to_string(message.extent));
-  Add(text, InWords("direction") + (message.direction ? " -" : " +"));
-  Add(text, InWords("duration") + " " + std::to_string(message.duration));
+  std::string text = InWords("event %1, location %2, extent %3, direction %4, duration %5",
+                             {std::to_string(message.event), std::to_string(message.location),
+                              std::to_string(message.extent), message.direction ? "-" : "+",
+                              std::to_string(message.duration)});
   if (message.diversion) Add(text, InWords("diversion"));
   return Plain(text);
 }

@@ -11,8 +11,10 @@
 
 #include "air/hex_text.h"
 #include "air/receiver.h"
+#include "config/language_data.h"
 #include "link/serial_management.h"
 #include "radio/facts.h"
+#include "radio/language.h"
 #include "radio/program.h"
 #include "radio/report.h"
 #include "support/sent_station.h"
@@ -279,6 +281,24 @@ TEST_F(ComparisonTest, ReadingAFileLeavesItAndItsFolderAsTheyWere) {
   EXPECT_EQ(port.operations, Names());
   EXPECT_EQ(configData, record);
   EXPECT_TRUE(LinkOpen) << "as it was";
+}
+
+TEST_F(ComparisonTest, SpeaksTheLanguageOfTheStationFile) {
+  const std::string folder_of_it = Place("german");
+  std::filesystem::create_directory(folder_of_it);
+  std::filesystem::copy(std::string(kExamples) + "/German.ini", folder_of_it + "/German.ini");
+  Change("Default=0", "Default=1");
+  WriteFile(folder_of_it + "/station.rds", file_);
+  const std::string before = ReadFile(folder_of_it + "/German.ini");
+  LanguageData* const loaded = languageData;
+  TakeLanguage(folder_of_it + "/station.rds");
+  const std::vector<Row> rows = Rows(file_);
+  const std::string told = ReportText({rows.at(7)});
+  languageData = loaded;
+  EXPECT_EQ(told.substr(0, 6), "Posten") << told;
+  EXPECT_NE(told.find("noch nicht geh\u00F6rt  aus\n"), std::string::npos) << told;
+  EXPECT_EQ(rows.at(7).name, "Kunstkopf");
+  EXPECT_EQ(ReadFile(folder_of_it + "/German.ini"), before);
 }
 
 TEST(RadioOptions, RefuseBadUseInASentence) {

@@ -106,7 +106,7 @@ QWidget* FacePage::Facts(QWidget* parent) {
 
 QWidget* FacePage::Texts(QWidget* parent) {
   auto* group = new QGroupBox(InWords("The last texts"), parent);
-  texts_ = new CopyTable(group->title(), {InWords("Time"), InWords("Text")}, kTextRows, group);
+  texts_ = new CopyTable(group->title(), {InWords("Heard at"), InWords("Text")}, kTextRows, group);
   texts_->setObjectName(QStringLiteral("RadioTexts"));
   Inside(group)->addWidget(texts_);
   return group;

@@ -6,6 +6,7 @@
 
 #include "desktop/radio/radio_window.h"
 #include "desktop/widgets/look/style.h"
+#include "radio/language.h"
 #include "radio/program.h"
 
 namespace corvalis::desktop {
@@ -16,6 +17,8 @@ int ShowRadio(const radio::Options& options, int& argc, char** argv) {
   QGuiApplication::setDesktopFileName(QStringLiteral("corvalis-radio"));
   QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("corvalis")));
   ApplyStyle(application);
+  // Of the file that the program is started with; one that is opened later changes no captions.
+  if (!options.compare.empty()) radio::TakeLanguage(options.compare);
   RadioWindow window;
   for (const std::string& wrong :
        {options.compare.empty() ? std::string() : window.OpenStation(options.compare),
