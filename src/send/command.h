@@ -52,7 +52,7 @@ struct Command {
   std::optional<int> time;  ///< rotation time, 0 to 99; none: as the file has it
   TmcNumbers tmc;
   std::vector<std::uint8_t> frame;  ///< command, index and body of `kRaw`
-  std::vector<std::string> lists;   ///< of `kList`; empty: those that the file selects
+  std::vector<std::string> lists;   ///< of `kList`; empty: as the file selects
   bool terse = false;               ///< in the way of a play-out system, and answered so
   std::string line;                 ///< as it came
 

@@ -12,17 +12,26 @@ namespace corvalis::send {
 struct ListName {
   std::string_view name;
   void (ConfigData::*select)(bool selected);
+  bool (ConfigData::*selected)() const;
+  bool (ConfigData::*enabled)() const = nullptr;  ///< the Coder knows it; null: each does
 };
 
 inline constexpr std::array kLists = {
-    ListName{"psn", &ConfigData::SetPresetPsn}, ListName{"rt", &ConfigData::SetPresetRt},
-    ListName{"pin", &ConfigData::SetPresetPin}, ListName{"af", &ConfigData::SetPresetAf},
-    ListName{"tdc", &ConfigData::SetPresetTdc}, ListName{"pi", &ConfigData::SetPresetPi},
-    ListName{"ct", &ConfigData::SetPresetCt},   ListName{"tp", &ConfigData::SetPresetTp},
-    ListName{"di", &ConfigData::SetPresetDi},   ListName{"ecc", &ConfigData::SetPresetEcc},
-    ListName{"lic", &ConfigData::SetPresetLic}, ListName{"li", &ConfigData::SetPresetLi},
-    ListName{"eon", &ConfigData::SetPresetEon}, ListName{"ptyn", &ConfigData::SetPresetPtyn},
-    ListName{"tmc", &ConfigData::SetPresetTmc},
+    ListName{"psn", &ConfigData::SetPresetPsn, &ConfigData::PresetPsn},
+    ListName{"rt", &ConfigData::SetPresetRt, &ConfigData::PresetRt},
+    ListName{"pin", &ConfigData::SetPresetPin, &ConfigData::PresetPin},
+    ListName{"af", &ConfigData::SetPresetAf, &ConfigData::PresetAf},
+    ListName{"tdc", &ConfigData::SetPresetTdc, &ConfigData::PresetTdc},
+    ListName{"pi", &ConfigData::SetPresetPi, &ConfigData::PresetPi},
+    ListName{"ct", &ConfigData::SetPresetCt, &ConfigData::PresetCt},
+    ListName{"tp", &ConfigData::SetPresetTp, &ConfigData::PresetTp},
+    ListName{"di", &ConfigData::SetPresetDi, &ConfigData::PresetDi},
+    ListName{"ecc", &ConfigData::SetPresetEcc, &ConfigData::PresetEcc, &ConfigData::EccEnable},
+    ListName{"lic", &ConfigData::SetPresetLic, &ConfigData::PresetLic, &ConfigData::LicEnable},
+    ListName{"li", &ConfigData::SetPresetLi, &ConfigData::PresetLi, &ConfigData::EonEnable},
+    ListName{"eon", &ConfigData::SetPresetEon, &ConfigData::PresetEon, &ConfigData::EonEnable},
+    ListName{"ptyn", &ConfigData::SetPresetPtyn, &ConfigData::PresetPtyn, &ConfigData::PtynEnable},
+    ListName{"tmc", &ConfigData::SetPresetTmc, &ConfigData::PresetTmc, &ConfigData::TmcEnable},
 };
 
 }  // namespace corvalis::send

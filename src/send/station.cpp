@@ -128,10 +128,13 @@ void Station::LoadForItems() {
 
 void Station::Select(const std::vector<std::string>& lists) {
   selected_ = *configData;
-  if (lists.empty()) return;
-  configData->SetPresetIh(false);
+  const auto selected = [](const ListName& list) { return (configData->*list.selected)(); };
+  if (lists.empty() && (configData->PresetIh() || std::ranges::any_of(kLists, selected))) return;
+  configData->SetPresetIh(lists.empty());
   for (const ListName& list : kLists) {
-    (configData->*list.select)(std::ranges::find(lists, list.name) != lists.end());
+    const bool known = list.enabled == nullptr || (configData->*list.enabled)();
+    const bool named = std::ranges::find(lists, list.name) != lists.end();
+    (configData->*list.select)(named || (lists.empty() && known));
   }
 }
 

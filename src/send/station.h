@@ -42,8 +42,9 @@ class Station {
   /// Loads what these need now; else they do it when they are asked first.
   static void LoadForItems();
 
-  /// Makes a run over the whole configuration carry these lists, those that the file selects if
-  /// there are none, and nothing else; until the next `Unselect`.
+  /// Makes a run over the whole configuration carry these lists and nothing else, until the next
+  /// `Unselect`. If there are none: those that the file selects, and if it selects nothing, all
+  /// that the Coder knows.
   void Select(const std::vector<std::string>& lists);
   void Unselect();
   /// All classes load themselves; those that travel in a run ask the Coder for their sizes if

@@ -184,8 +184,6 @@ TEST_F(SendTest, ListsGoInTheSizeOfTheCoderAndLeaveTheSelectionAlone) {
   sender->Note = [&](const std::string& words) { notes.push_back(words); };
   EXPECT_EQ(Send("send rt,tp").kind, Kind::kDone);
   EXPECT_EQ(port.written.size(), 2U + 1 + 8 + 1);
-  EXPECT_EQ(Send("send all").kind, Kind::kDone);
-  EXPECT_EQ(port.written.size(), 2U + 1 + 8 + 1);  // the file selects nothing
   EXPECT_TRUE(notes.empty());
   EXPECT_EQ(Send("send af").kind, Kind::kDone);
   ASSERT_EQ(notes.size(), 1U);
@@ -202,6 +200,16 @@ TEST_F(SendTest, AWholeStationIsReadAsAFile) {
   EXPECT_NE(read.find("\nRt01=15;x" + std::string(63, ' ') + ";\n"), std::string::npos);
   EXPECT_EQ(read.find("PresetAddress"), std::string::npos);
   EXPECT_EQ(read.find("Serial Setup"), std::string::npos);
+}
+
+TEST_F(SendTest, AllIsEverythingIfTheFileSelectsNothing) {
+  Start(std::string("[RDS Setup]\r\nTMC Enable=On\r\nECC Enable=Off\r\n") + kTwoWay);
+  EXPECT_EQ(Send("send all").kind, Kind::kDone);
+  for (const std::uint8_t code : {coder::kPi, coder::kRt, coder::kTmcSystem}) {
+    EXPECT_TRUE(the_coder->Written(code)) << int{code};
+  }
+  EXPECT_FALSE(the_coder->Written(coder::kEcc));
+  EXPECT_FALSE(configData->PresetRt());
 }
 
 TEST_F(SendTest, LinesAreToldByNumberAndTheFirstFailureCounts) {
