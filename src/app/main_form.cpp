@@ -207,13 +207,11 @@ std::string MainForm::SavePath() const {
 }
 
 void MainForm::ShowFolder() {
-  // Choosing a place would go to its top, and take the record along.
-  const std::string drive = configData->Drive();
+  // Choosing a place goes to its top, and takes the record along.
   const std::string path = configData->Path();
   Drive1.Refresh();
   Drive1.SetDrive(path);
   if (Dir1.SetPath(path)) {
-    configData->SetDrive(drive);
     configData->SetPath(path);
   } else if (!Dir1.Path().empty()) {
     // There is no such folder. Save is to write where the panel is then, not into nowhere.
