@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds, and starts the simulated Coder and the program on a copy of the
-# sample station. The copy stays, with what was saved in it, until --fresh makes it new. Without a
-# display it shows the same windows on a virtual screen, drives them through a short tour and leaves
-# a picture of each in build/tour/.
+# Installs what is missing, builds, and starts the simulated Coder, the program and the radio on a copy
+# of the sample station. The copy stays, with what was saved in it, until --fresh makes it new. Without
+# a display it shows the same windows on a virtual screen, drives them through a short tour and leaves
+# a picture of each in build/tour/; then it tells what a radio made of what was sent.
 set -u
 cd "$(dirname "${BASH_SOURCE[0]}")" || exit 1
 
@@ -22,13 +22,19 @@ done
 
 . .ci/setup.sh
 install_packages
-build_preset release corvalis corvalis-tour corvalis-coder
+build_preset release corvalis corvalis-tour corvalis-coder corvalis-radio
 
 coder=""
+radio=""
 passing=""
 cleanup() {
-  [ -n "$coder" ] && kill "$coder" 2>/dev/null && wait "$coder" 2>/dev/null
+  [ -n "$radio" ] && kill "$radio" 2>/dev/null && wait "$radio" 2>/dev/null
+  end_coder
   [ -n "$passing" ] && rm -rf "$passing"
+}
+end_coder() {
+  [ -n "$coder" ] && kill "$coder" 2>/dev/null && wait "$coder" 2>/dev/null
+  coder=""
 }
 trap cleanup EXIT
 trap 'exit 130' INT
@@ -68,6 +74,20 @@ start_coder() {
   done
 }
 
+# What a radio makes of ten minutes of what the Coder held in the end: pictures, and the report.
+show_radio() {
+  local station=$XDG_DATA_HOME/corvalis/$1 air=$passing/air.txt memory=$passing/memory.txt
+  end_coder  # it prints what it holds
+  tac "$log" | sed '/^memory$/q' | tac >"$memory"
+  build/release/coder/corvalis-coder --count "$counts" --memory "$memory" --air "$air" --air-speed 0 \
+    --air-groups 6840 >/dev/null </dev/null || return
+  xvfb-run -a -s "-screen 0 1920x1200x24" \
+    build/release/src/desktop/corvalis-tour --radio build/tour "$station" "$air" || return
+  echo "What a radio makes of ten minutes of it:"
+  build/release/src/desktop/corvalis-radio --compare "$station" --report "$air"
+  [ $? -lt 3 ]  # that the two differ is told, and no fault
+}
+
 if [ -n "${DISPLAY-}${WAYLAND_DISPLAY-}" ]; then
   home=${XDG_DATA_HOME:-~/.local/share}/corvalis-demonstration
   mkdir -p "$home" || fail "The folder $home can't be made."
@@ -79,7 +99,11 @@ if [ -n "${DISPLAY-}${WAYLAND_DISPLAY-}" ]; then
   log=$home/coder.log
   prepare "$home"
   echo "The demonstration lives in $home; what you save there stays (--fresh: start again)."
-  start_coder
+  air=$home/air
+  rm -f "$air" && mkfifo "$air" || fail "The FIFO $air can't be made."
+  start_coder --air "$air"
+  build/release/src/desktop/corvalis-radio --compare "$XDG_DATA_HOME/corvalis/corvalis.rds" "$air" 9>&- &
+  radio=$!
   build/release/src/desktop/corvalis 9>&-
 else
   [ -n "$fresh" ] && echo "The tour always begins with the sample station; --fresh changes nothing."
@@ -88,9 +112,13 @@ else
   log=$passing/coder.log
   prepare "$passing"
   # Short lists where the program has to wait after each item.
-  start_coder --count plan=5,rt=10,af=10
+  counts=plan=5,rt=10,af=10
+  start_coder --count "$counts"
   rm -rf build/tour
   mkdir -p build/tour
   xvfb-run -a -s "-screen 0 1920x1200x24" \
     build/release/src/desktop/corvalis-tour build/tour "$log" "$coder"
+  result=$?
+  show_radio tour.rds || result=1
+  exit $result
 fi

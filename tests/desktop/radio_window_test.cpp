@@ -13,8 +13,10 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include "config/language_data.h"
 #include "machine/qt_time.h"
 #include "platform/platform.h"
+#include "radio/language.h"
 #include "support/places.h"
 
 namespace corvalis::test {
@@ -92,6 +94,28 @@ TEST_F(RadioWindowTest, ShowsWhatIsHeardAndNamesTheOneThingThatDiffers) {
   EXPECT_EQ(differing, QStringList(QStringLiteral("PTY")));
   QTest::keyClick(&window, Qt::Key_Escape);
   EXPECT_FALSE(window.isVisible());
+}
+
+TEST_F(RadioWindowTest, SpeaksTheLanguageOfTheStationFileAndOnlyReadsIt) {
+  const QByteArray words = "[Words]\r\nnot heard yet=noch nicht empfangen\r\n";
+  const auto write = [this](const char* name, const QByteArray& text) {
+    QFile file(QString::fromStdString(Place(name)));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+  };
+  write("German.ini", words);
+  write("station.rds",
+        "[PI]\r\n[Language]\r\nDefault=0\r\nName0=Deutsch\r\nFileName0=German.ini\r\n");
+  radio::TakeLanguage(Place("station.rds"));
+  {
+    const desktop::RadioWindow window;
+    const auto* lamp = window.findChild<QLabel*>(QStringLiteral("RadioLamp2"));
+    EXPECT_EQ(lamp->text(), QStringLiteral("TA\nnoch nicht empfangen"));
+  }
+  languageData = nullptr;
+  QFile file(QString::fromStdString(Place("German.ini")));
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  EXPECT_EQ(file.readAll(), words);
 }
 
 }  // namespace

@@ -19,7 +19,8 @@ constexpr Length kWidestColumn{340};
 CopyTable::CopyTable(const QString& name, const QStringList& headings, int rows, QWidget* parent)
     : QTableWidget(0, static_cast<int>(headings.size()), parent),
       rows_in_view_(rows),
-      widest_(static_cast<std::size_t>(headings.size())) {
+      widest_(static_cast<std::size_t>(headings.size())),
+      limits_(widest_.size(), kWidestColumn) {
   setAccessibleName(name);
   setHorizontalHeaderLabels(headings);
   setEditTriggers(NoEditTriggers);
@@ -76,13 +77,16 @@ void CopyTable::Show(const std::vector<QStringList>& rows, const std::vector<boo
 
 void CopyTable::FitColumns() {
   for (int column = 0; column + 1 < columnCount(); ++column) {
-    const int heading =
-        QFontMetrics(Bold(font())).horizontalAdvance(horizontalHeaderItem(column)->text()) +
-        2 * kNear;
-    setColumnWidth(
-        column,
-        std::min<int>(kWidestColumn, std::max(heading, widest_[static_cast<std::size_t>(column)])));
+    const auto at = static_cast<std::size_t>(column);
+    const QString title = horizontalHeaderItem(column)->text();
+    const int heading = QFontMetrics(Bold(font())).horizontalAdvance(title) + 2 * kNear;
+    setColumnWidth(column, std::max(heading, std::min(limits_[at], widest_[at])));
   }
+}
+
+void CopyTable::Limit(int column, int width) {
+  limits_.at(static_cast<std::size_t>(column)) = width;
+  FitColumns();
 }
 
 QSize CopyTable::sizeHint() const {

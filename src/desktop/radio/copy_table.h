@@ -15,6 +15,9 @@ class CopyTable : public QTableWidget {
   /// What is chosen and where it is scrolled to stays. A row of `loud` stands out.
   void Show(const std::vector<QStringList>& rows, const std::vector<bool>& loud = {});
 
+  /// A column gets no wider on its own.
+  void Limit(int column, int width);
+
   [[nodiscard]] QSize sizeHint() const override;
   [[nodiscard]] QSize minimumSizeHint() const override;
 
@@ -25,7 +28,8 @@ class CopyTable : public QTableWidget {
   void FitColumns();
 
   int rows_in_view_;
-  std::vector<int> widest_;
+  std::vector<int> widest_;  // of what has stood in each column
+  std::vector<int> limits_;
 };
 
 }  // namespace corvalis::desktop

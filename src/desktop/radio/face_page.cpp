@@ -28,6 +28,8 @@ constexpr int kTextRows = 8;
 constexpr int kMethodRows = 2;
 constexpr int kNetworkRows = 4;
 constexpr int kDataRows = 4;
+constexpr int kBytesColumn = 1;
+constexpr Length kBytesWidth{110};
 
 QString FromUtf8(const std::string& text) { return QString::fromStdString(text); }
 
@@ -52,7 +54,7 @@ FacePage::FacePage(QWidget* parent) : QScrollArea(parent) {
   setFocusPolicy(Qt::NoFocus);
   auto* page = new QWidget(this);
   auto* both = new QHBoxLayout(page);
-  both->setContentsMargins(0, kGap, 0, kGap);
+  both->setContentsMargins(0, kGap, kNear, kGap);
   both->setSpacing(kApart);
   auto* left = new QVBoxLayout;
   left->setSpacing(kGap);
@@ -147,8 +149,9 @@ QWidget* FacePage::Groups(QWidget* parent) {
 
 QWidget* FacePage::Data(QWidget* parent) {
   auto* group = new QGroupBox(InWords("Traffic messages, channels and in-house pages"), parent);
-  data_ = new CopyTable(group->title(), {InWords("What"), InWords("Text"), InWords("Bytes")},
+  data_ = new CopyTable(group->title(), {InWords("What"), InWords("Bytes"), InWords("Text")},
                         kDataRows, group);
+  data_->Limit(kBytesColumn, kBytesWidth);
   Inside(group)->addWidget(data_);
   return group;
 }
@@ -183,6 +186,7 @@ void FacePage::ShowLamps(const radio::Face& face) {
   for (std::size_t i = lamps_.size(); i < face.lamps.size(); ++i) {
     const int at = static_cast<int>(i);
     lamps_.push_back(new LampItem(FromUtf8(face.lamps[i].name), lamps_layout_->parentWidget()));
+    lamps_.back()->setObjectName(QStringLiteral("RadioLamp%1").arg(at + 1));
     lamps_layout_->addWidget(lamps_.back(), at / kLampsInLine, at % kLampsInLine);
   }
   for (std::size_t i = 0; i < lamps_.size(); ++i) lamps_[i]->Show(face.lamps[i]);
@@ -229,7 +233,7 @@ void FacePage::ShowTables(const radio::Face& face) {
   networks_->Show(rows, loud);
   rows.clear();
   for (const auto& data : face.data) {
-    rows.push_back({FromUtf8(data.what), FromUtf8(data.text), FromUtf8(data.bytes)});
+    rows.push_back({FromUtf8(data.what), FromUtf8(data.bytes), FromUtf8(data.text)});
   }
   data_->Show(rows);
 }

@@ -4,7 +4,9 @@
 #include <QIcon>
 #include <iostream>
 
+#include "config/words.h"
 #include "desktop/radio/radio_window.h"
+#include "desktop/views/guide.h"
 #include "desktop/widgets/look/style.h"
 #include "radio/language.h"
 #include "radio/program.h"
@@ -19,6 +21,7 @@ int ShowRadio(const radio::Options& options, int& argc, char** argv) {
   ApplyStyle(application);
   // Of the file that the program is started with; one that is opened later changes no captions.
   if (!options.compare.empty()) radio::TakeLanguage(options.compare);
+  const Guide guide([] { return QString::fromStdString(LanguageCode()); });
   RadioWindow window;
   for (const std::string& wrong :
        {options.compare.empty() ? std::string() : window.OpenStation(options.compare),

@@ -33,6 +33,7 @@ const Page* PageOf(const QString& form) {
        {"PSN", "PSN PLAN", "RT", "PIN", "AF Method A", "AF Method B", "PTYN"}},
       {"EonLiForm", "networks.md", {"EON", "LI", "TA EON"}},
       {"TdcIhForm", "channels.md", {"TDC", "IH", "TMC System", "TMC"}},
+      {"RadioWindow", "radio.md", {}},
   };
   for (const Page& page : pages) {
     if (form == QLatin1String(page.form)) return &page;
