@@ -62,47 +62,72 @@ inline constexpr std::string_view kAccentless =
     "AaAaAaCcCcCcCcDdDdEeEeEeEeEeGgGgGgGgHhHhIiIiIiIiIiIiJjKkkLlLlLlL"
     "lLlNnNnNnnNnOoOoOoOoRrRrRrSsSsSsSsTtTtTtUuUuUuUuUuUuWwYyYZzZzZzs";
 
-/// Other characters that radios do not have, and the one that comes nearest, in ASCII.
+/// Other characters, most of which radios do not have, and the one that comes nearest, in ASCII.
 struct PlainCharacter {
   char16_t character;
   char plain;
 };
 inline constexpr std::array kPlainCharacters = {
     // Of ASCII itself, where radios have something else in the place.
-    PlainCharacter{u'^', '\''}, PlainCharacter{u'`', '\''}, PlainCharacter{u'~', '-'},
+    PlainCharacter{u'^', '\''},
+    PlainCharacter{u'`', '\''},
+    PlainCharacter{u'~', '-'},
     // Latin-1 and what Windows-1252 has beside it.
-    PlainCharacter{0x00A0, ' '},                               // no-break space
-    PlainCharacter{0x00A2, 'c'},                               // cent
-    PlainCharacter{0x00A5, 'Y'},                               // yen
-    PlainCharacter{0x00A6, '|'},                               // broken bar
-    PlainCharacter{0x00A8, '"'},                               // diaeresis
-    PlainCharacter{0x00AB, '"'},                               // angle quotation marks
-    PlainCharacter{0x00AC, '-'},                               // not
-    PlainCharacter{0x00AE, 'R'},                               // registered
-    PlainCharacter{0x00B4, '\''},                              // acute accent
-    PlainCharacter{0x00B6, 'P'},                               // pilcrow
-    PlainCharacter{0x00B7, '.'},                               // middle dot
-    PlainCharacter{0x00B8, ','},                               // cedilla
-    PlainCharacter{0x00BB, '"'}, PlainCharacter{0x00D7, 'x'},  // multiplication
-    PlainCharacter{0x00FF, 'y'}, PlainCharacter{0x0192, 'f'},
+    PlainCharacter{0x00A0, ' '},   // no-break space
+    PlainCharacter{0x00A2, 'c'},   // cent
+    PlainCharacter{0x00A5, 'Y'},   // yen
+    PlainCharacter{0x00A6, '|'},   // broken bar
+    PlainCharacter{0x00A8, '"'},   // diaeresis
+    PlainCharacter{0x00AB, '"'},   // angle quotation marks
+    PlainCharacter{0x00AC, '-'},   // not
+    PlainCharacter{0x00AE, 'R'},   // registered
+    PlainCharacter{0x00B4, '\''},  // acute accent
+    PlainCharacter{0x00B6, 'P'},   // pilcrow
+    PlainCharacter{0x00B7, '.'},   // middle dot
+    PlainCharacter{0x00B8, ','},   // cedilla
+    PlainCharacter{0x00BB, '"'},
+    PlainCharacter{0x00D7, 'x'},  // multiplication
+    PlainCharacter{0x00FF, 'y'},
+    PlainCharacter{0x0192, 'f'},
     PlainCharacter{0x0218, 'S'},  // comma below
-    PlainCharacter{0x0219, 's'}, PlainCharacter{0x021A, 'T'}, PlainCharacter{0x021B, 't'},
+    PlainCharacter{0x0219, 's'},
+    PlainCharacter{0x021A, 'T'},
+    PlainCharacter{0x021B, 't'},
     PlainCharacter{0x02C6, '\''},  // circumflex
     PlainCharacter{0x02DC, '-'},   // small tilde
     PlainCharacter{0x1E9E, 'S'},   // capital sharp s
     PlainCharacter{0x2010, '-'},   // hyphens and dashes
-    PlainCharacter{0x2011, '-'}, PlainCharacter{0x2012, '-'}, PlainCharacter{0x2013, '-'},
-    PlainCharacter{0x2014, '-'}, PlainCharacter{0x2018, '\''},  // quotation marks
-    PlainCharacter{0x2019, '\''}, PlainCharacter{0x201A, '\''}, PlainCharacter{0x201B, '\''},
-    PlainCharacter{0x201C, '"'}, PlainCharacter{0x201D, '"'}, PlainCharacter{0x201E, '"'},
-    PlainCharacter{0x2020, '+'},                               // daggers
-    PlainCharacter{0x2021, '+'}, PlainCharacter{0x2022, '*'},  // bullet
-    PlainCharacter{0x2026, '.'},                               // ellipsis
-    PlainCharacter{0x202F, ' '},                               // narrow no-break space
-    PlainCharacter{0x2032, '\''}, PlainCharacter{0x2033, '"'},
-    PlainCharacter{0x2039, '\''},                               // angle quotation marks
-    PlainCharacter{0x203A, '\''}, PlainCharacter{0x2122, 'T'},  // trade mark
-    PlainCharacter{0x2212, '-'},                                // minus
+    PlainCharacter{0x2011, '-'},
+    PlainCharacter{0x2012, '-'},
+    PlainCharacter{0x2013, '-'},
+    PlainCharacter{0x2014, '-'},
+    PlainCharacter{0x2018, '\''},  // quotation marks
+    PlainCharacter{0x2019, '\''},
+    PlainCharacter{0x201A, '\''},
+    PlainCharacter{0x201B, '\''},
+    PlainCharacter{0x201C, '"'},
+    PlainCharacter{0x201D, '"'},
+    PlainCharacter{0x201E, '"'},
+    PlainCharacter{0x2020, '+'},  // daggers
+    PlainCharacter{0x2021, '+'},
+    PlainCharacter{0x2022, '*'},  // bullet
+    PlainCharacter{0x2026, '.'},  // ellipsis
+    PlainCharacter{0x202F, ' '},  // narrow no-break space
+    PlainCharacter{0x2032, '\''},
+    PlainCharacter{0x2033, '"'},
+    PlainCharacter{0x2039, '\''},  // angle quotation marks
+    PlainCharacter{0x203A, '\''},
+    PlainCharacter{0x2122, 'T'},  // trade mark
+    PlainCharacter{0x2212, '-'},  // minus
+    // What radios have, and Windows-1252 does not.
+    PlainCharacter{0x03B1, 'a'},
+    PlainCharacter{0x03C0, 'p'},  // alpha, pi
+    PlainCharacter{0x2015, '-'},
+    PlainCharacter{0x2016, '|'},  // bar, double line
+    PlainCharacter{0x2190, '<'},
+    PlainCharacter{0x2191, '^'},  // arrows
+    PlainCharacter{0x2192, '>'},
+    PlainCharacter{0x2193, 'v'},
 };
 
 }  // namespace corvalis::air

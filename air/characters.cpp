@@ -10,7 +10,7 @@ namespace corvalis::air {
 namespace {
 
 constexpr char32_t kSoftHyphenCharacter = 0x00AD;
-constexpr std::uint8_t kUnknown = '?';
+constexpr char kUnknown = '?';
 
 }  // namespace
 
@@ -37,13 +37,16 @@ std::optional<std::uint8_t> RadioByte(char32_t character) {
 }
 
 std::uint8_t PlainRadioByte(char32_t character) {
-  if (const auto byte = RadioByte(character)) return *byte;
+  return RadioByte(character).value_or(static_cast<std::uint8_t>(PlainCharacterFor(character)));
+}
+
+char PlainCharacterFor(char32_t character) {
   if (character >= kFirstAccented && character < kFirstAccented + kAccentless.size()) {
-    return static_cast<std::uint8_t>(kAccentless[character - kFirstAccented]);
+    return kAccentless[character - kFirstAccented];
   }
   const auto* const found =
       std::ranges::find(kPlainCharacters, character, &PlainCharacter::character);
-  return found == kPlainCharacters.end() ? kUnknown : static_cast<std::uint8_t>(found->plain);
+  return found == kPlainCharacters.end() ? kUnknown : found->plain;
 }
 
 std::vector<std::uint8_t> RadioBytes(std::string_view utf8) {

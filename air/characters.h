@@ -29,6 +29,8 @@ inline constexpr std::uint8_t kSoftHyphen = 0x1F;
 /// The same, and for a character that radios do not have the plain one that comes nearest: the
 /// letter without its accent, the straight quotation mark; "?" where there is none.
 [[nodiscard]] std::uint8_t PlainRadioByte(char32_t character);
+/// That plain one, in ASCII, also for a character that radios have.
+[[nodiscard]] char PlainCharacterFor(char32_t character);
 /// The bytes of a text in UTF-8, one for each character. What is no UTF-8 becomes "?".
 [[nodiscard]] std::vector<std::uint8_t> RadioBytes(std::string_view utf8);
 

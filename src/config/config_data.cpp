@@ -81,7 +81,12 @@ struct ConfigData::Keys {
     std::string_view section;
     std::string_view name;
     Value value;
-    bool written = true;
+    enum class Written {
+      kAlways,
+      kNever,
+      kIfKnown,  ///< if it is switched on, or the file has the key
+    };
+    Written written = Written::kAlways;
   };
 
   static std::span<const Key> All();
@@ -156,7 +161,7 @@ std::span<const ConfigData::Keys::Key> ConfigData::Keys::All() {
       {"Serial Setup", "Modem", Switch{&C::modem_, false}},
       {"Serial Setup", "ModemTone", Switch{&C::modem_tone_, true}},
       {"Serial Setup", "ModemTel", Text{&C::modem_tel_, "800,12345678"}},
-      {"RDS Setup", "PI", LongDecimal{&C::pi_, 0}, /*written=*/false},
+      {"RDS Setup", "PI", LongDecimal{&C::pi_, 0}, Key::Written::kNever},
       {"RDS Setup", "AF Method A", Switch{&C::af_method_a_, true}},
       {"RDS Setup", "PSN Pages Enable", Switch{&C::psn_pages_enable_, true}},
       {"RDS Setup", "PSN Plan Enable", Switch{&C::psn_plan_enable_, true}},
@@ -167,6 +172,8 @@ std::span<const ConfigData::Keys::Key> ConfigData::Keys::All() {
       {"RDS Setup", "TMC Enable", Switch{&C::tmc_enable_, true}},
       {"RDS Setup", "Groups Enable", Switch{&C::groups_enable_, false}},
       {"RDS Setup", "Groups B Enable", Switch{&C::groups_b_enable_, false}},
+      {"RDS Setup", "Radio Characters", Switch{&C::radio_characters_, false},
+       Key::Written::kIfKnown},
       {"RDS Setup", "TP", Switch{&C::tp_, false}},
       {"RDS Setup", "TA", Switch{&C::ta_, false}},
       {"RDS Setup", "Music", Switch{&C::music_, true}},
@@ -248,7 +255,11 @@ void ConfigData::GetIni() {
 
 void ConfigData::SetIni() {
   for (const Keys::Key& key : Keys::All()) {
-    if (key.written) WriteIniKey(key.section, key.name, Keys::Give(*this, key.value));
+    if (key.written == Keys::Key::Written::kNever) continue;
+    const std::string value = Keys::Give(*this, key.value);
+    const bool unknown = key.written == Keys::Key::Written::kIfKnown && value != OnOff(true) &&
+                         Machine().profiles->Read(FullFileName(), key.section, key.name).empty();
+    if (!unknown) WriteIniKey(key.section, key.name, value);
   }
   SetLanguages();
 }

@@ -103,6 +103,9 @@ class ConfigData {
   [[nodiscard]] bool LicEnable() const { return lic_enable_; }
   [[nodiscard]] bool PtynEnable() const { return ptyn_enable_; }
   [[nodiscard]] bool TmcEnable() const { return tmc_enable_; }
+  /// True: the Coder puts the bytes of texts on the air as they come, so that they have to be those
+  /// of the radios' own table (see link/radio_text.h).
+  [[nodiscard]] bool RadioCharacters() const { return radio_characters_; }
   /// A plan needs pages: false without them.
   [[nodiscard]] bool PsnPlanEnable() const { return psn_plan_enable_ && psn_pages_enable_; }
   [[nodiscard]] bool PsnPagesEnable() const { return psn_pages_enable_; }
@@ -254,6 +257,7 @@ class ConfigData {
   bool lic_enable_ = true;
   bool ptyn_enable_ = true;
   bool tmc_enable_ = true;
+  bool radio_characters_ = false;
   bool ta_ = false;
   bool tp_ = false;
   bool music_ = true;

@@ -4,14 +4,14 @@
 
 namespace corvalis {
 
+char32_t CharacterOf1252(std::uint8_t byte) {
+  const auto special = static_cast<std::size_t>(byte - kFirstSpecial1252);
+  return special < kSpecial1252.size() ? kSpecial1252[special] : byte;
+}
+
 std::string Utf8From1252(std::string_view text) {
   std::string utf8;
-  for (const char c : text) {
-    const int byte = static_cast<unsigned char>(c);
-    const auto special = static_cast<std::size_t>(byte - kFirstSpecial1252);
-    const int code = special < kSpecial1252.size() ? kSpecial1252[special] : byte;
-    air::AppendUtf8(utf8, static_cast<char32_t>(code));
-  }
+  for (const char c : text) air::AppendUtf8(utf8, CharacterOf1252(static_cast<std::uint8_t>(c)));
   return utf8;
 }
 

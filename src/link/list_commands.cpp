@@ -5,6 +5,7 @@
 #include "config/conversions.h"
 #include "config/words.h"
 #include "link/catalogue.h"
+#include "link/radio_text.h"
 #include "link/run_progress.h"
 #include "platform/platform.h"
 
@@ -31,12 +32,12 @@ constexpr float kIhPause = 0.2F;
 
 // A rotation time and a text.
 void WriteText(BodyWriter& body, std::uint8_t rotation, std::string_view text, int characters) {
-  body.Dec2(rotation).Text(text, characters);
+  body.Dec2(rotation).Text(ToCoder(text), characters);
 }
 
 void ReadText(BodyReader& body, std::uint8_t& rotation, std::string& text, int characters) {
   rotation = Narrow<std::uint8_t>(body.Dec2()).value_or(rotation);
-  text = body.Text(characters);
+  text = FromCoder(body.Text(characters));
 }
 
 // A digit of the plan: written into the low bits of "0", read from the low four bits of any byte.
@@ -53,6 +54,12 @@ void SendPayload(CommandCode code, std::uint8_t index, std::string_view label,
 void ReadPayload(CommandCode code, std::uint8_t index, std::string_view label, std::string& payload,
                  int bytes) {
   ReadItem(code, index, label, [&](BodyReader& body) { payload = body.Text(bytes); });
+}
+
+// The payload of another network, whose first field is its name.
+std::string WithName(std::string_view payload, std::string (*translated)(std::string_view)) {
+  const std::string name = translated(payload.substr(0, kPsnCharacters));
+  return std::string(payload).replace(0, name.size(), name);
 }
 
 // All of a count's body are its digits.
@@ -213,10 +220,11 @@ void ReadAf(std::uint8_t list, air::AfCodes& codes) {
 }
 
 void SendEon(std::uint8_t list, std::string_view payload) {
-  SendPayload(CommandCode::kEon, list, "EON", payload, kEonPayload);
+  SendPayload(CommandCode::kEon, list, "EON", WithName(payload, ToCoder), kEonPayload);
 }
 void ReadEon(std::uint8_t list, std::string& payload) {
-  ReadPayload(CommandCode::kEon, list, "EON", payload, kEonPayload);
+  ReadItem(CommandCode::kEon, list, "EON",
+           [&](BodyReader& body) { payload = WithName(body.Text(kEonPayload), FromCoder); });
 }
 
 void SendEonTa(std::uint8_t list, bool on) {
@@ -227,11 +235,11 @@ void ReadEonTa(std::uint8_t list, bool& on) {
 }
 
 void SendPtyn(std::string_view text, std::uint8_t index) {
-  SendPayload(CommandCode::kPtyn, index % kPtynIndexes, "PTYN", text, kPtynCharacters);
+  SendPayload(CommandCode::kPtyn, index % kPtynIndexes, "PTYN", ToCoder(text), kPtynCharacters);
 }
 void ReadPtyn(std::string& text, std::uint8_t index) {
   ReadItem(CommandCode::kPtyn, index % kPtynIndexes, "PTYN", [&](BodyReader& body) {
-    text = body.Text(kPtynCharacters);
+    text = FromCoder(body.Text(kPtynCharacters));
     text += static_cast<char>(kEnd);
   });
 }
@@ -259,7 +267,7 @@ void SendAddress(std::string_view block, bool is_new) {
 }
 
 void SendIh(std::int16_t page, std::string_view text, std::int16_t rotation) {
-  const std::string characters = Padded(text, kIhCharacters);
+  const std::string characters = Padded(ToCoder(text), kIhCharacters);
   RunLoop frames(kIhBlocks + 1, LaterWord("frame %1 of %2"));
   for (std::uint8_t block = 0; block < kIhBlocks; ++block) {
     frames.At(block);
@@ -300,7 +308,7 @@ void ReadIh(std::int16_t page, std::string& text, std::int16_t& rotation) {
              [&](BodyWriter& body) { WriteIhPage(body, page).Text("", kIhRotationDigits); });
   ReadItem(request, kIhShortLastIndex + 1, kIh, [&](BodyReader& body) {
     body.Raw(kIhPageDigits);
-    text = characters;
+    text = FromCoder(characters);
     rotation = IhRotation(body.Text(kIhRotationDigits));
   });
 }

@@ -40,8 +40,13 @@ void RefuseBox(TextBox& box, const std::string& shown) {
 
 void CommitGridRow(Grid& grid) { grid.Commit(); }
 
-std::string WithUntaken(const Grid& grid, std::string name) {
+std::string WithUntaken(const Grid& grid, const std::string& name) {
   return grid.HasUntaken() ? Word("%1, not taken yet", {name}) : name;
+}
+
+std::string TypedText(Grid& grid, int column) {
+  const bool typed = grid.Opened() && grid.Column() == column;
+  return typed ? grid.Editor().Text() : grid.Shown(grid.Row(), column);
 }
 
 void WarnBeforeAddress() { ShowLinkBox("Before send Address", kCommunicationManagementTitle); }

@@ -29,7 +29,10 @@ void CommitGridRow(Grid& grid);
 
 /// A row's name and, where the grid shows what the data does not have yet, that: a SEND that does
 /// not store the row first goes out without it.
-[[nodiscard]] std::string WithUntaken(const Grid& grid, std::string name);
+[[nodiscard]] std::string WithUntaken(const Grid& grid, const std::string& name);
+
+/// What the current row has in a column of texts, as far as it has been typed.
+[[nodiscard]] std::string TypedText(Grid& grid, int column);
 
 /// Tells the operator that a one-way link needs the Coder to be addressed first.
 void WarnBeforeAddress();

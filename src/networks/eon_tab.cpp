@@ -64,6 +64,7 @@ EonTab::EonTab(Window& window)
   SetFrequencyRules();
   EonPsnText.Change = [this] {
     EonPsnText.CutTo(kPsnCharacters);
+    EonPsnRadioLabel.SetCaption(EonPsnText.Text());
     if (!refreshing_) eonData->SetPsn(EonPsnText.Text(), Current());
   };
   const auto hold_hex = [this](TextBox& box, void (EonData::*set)(std::int32_t, std::int16_t)) {

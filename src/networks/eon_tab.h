@@ -37,6 +37,8 @@ class EonTab {
   CheckBox EonEnableCheck{window_, "EonEnableCheck"};
   Label EonPsnLabel{window_, "EonPsnLabel"};
   TextBox EonPsnText{window_, "EonPsnText"};
+  /// The name, for whoever says what radios show of it.
+  Label EonPsnRadioLabel{window_, "EonPsnRadioLabel"};
   Label EonPiLabel{window_, "EonPiLabel"};
   TextBox EonPiText{window_, "EonPiText"};
   Label EonPinLabel{window_, "EonPinLabel"};

@@ -57,6 +57,7 @@ PsnTab::PsnTab(Window& window)
                {{.count = [] { return std::min(psnData->MaxPsnNum(), ActivePsn::Rows()); },
                  .read = ActivePsn::GetOneRds,
                  .send = ActivePsn::SetOneRds,
+                 .refresh = [this] { ShowSelected(); },
                  .grid = &DBGrid1}}) {
   SetGridRules();
   SetScrollRules();
@@ -118,6 +119,7 @@ void PsnTab::CheckRotation(int row) {
 
 void PsnTab::ShowSelected() {
   PsnSelectedLabel.SetCaption(WithUntaken(DBGrid1, RowName(DBGrid1.Row())));
+  PsnRadioLabel.SetCaption(TypedText(DBGrid1, kText));
 }
 
 void PsnTab::SetScrollRules() {
@@ -200,6 +202,7 @@ void PsnTab::ApplyScrollText() {
   }
   DBGrid1.Refresh();
   DBGrid1.SetFirstRow(from);
+  ShowSelected();
 }
 
 void PsnTab::SetPageRules() {
@@ -231,6 +234,7 @@ void PsnTab::TurnPage(int step) {
 void PsnTab::ShowPage() {
   PageNumberText.SetText(Digits(psnPageData->CurrentPage(), 1));
   DBGrid1.Refresh();
+  ShowSelected();
 }
 
 void PsnTab::ReadActive() {

@@ -30,6 +30,8 @@ class PsnTab {
   Grid DBGrid1;
   /// Names the row that sending one and reading one are about.
   Label PsnSelectedLabel{window_, "PsnSelectedLabel"};
+  /// The name in it, for whoever says what radios show of it.
+  Label PsnRadioLabel{window_, "PsnRadioLabel"};
 
   // The scrolling text: the text, its first and last row, their time, and the button that fills
   // them.

@@ -36,7 +36,10 @@ PtynTab::PtynTab(Window& window)
     ptynData->SetCurrentPtyn(Index(PtyCombo.Index()));
     ShowName();
   };
-  PtynText.Change = [this] { FitName(); };
+  PtynText.Change = [this] {
+    FitName();
+    PtynRadioLabel.SetCaption(PtynText.Text());
+  };
   PtynText.LostFocus = [this] { ptynData->SetPtyn(PtynText.Text(), ptynData->CurrentPtyn()); };
 }
 

@@ -27,6 +27,8 @@ class PtynTab {
   ListBox PtyCombo{window_, "PtyCombo"};
   Label PtynLabel{window_, "PtynLabel"};
   TextBox PtynText{window_, "PtynText"};
+  /// The name, for whoever says what radios show of it.
+  Label PtynRadioLabel{window_, "PtynRadioLabel"};
   Button ReadPtynCommand{window_, "ReadPtynCommand"};
   Button ReadPtynAllCommand{window_, "ReadPtynAllCommand"};
   Button SendPtynCommand{window_, "SendPtynCommand"};

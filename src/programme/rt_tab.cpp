@@ -73,8 +73,8 @@ RtTab::RtTab(Window& window)
 void RtTab::ShowSelected() {
   const int row = DBGrid3.Row();
   RtSelectedLabel.SetCaption(WithUntaken(DBGrid3, RowName(row)));
-  const bool typed = DBGrid3.Opened() && DBGrid3.Column() == kText;
-  const std::string text = typed ? DBGrid3.Editor().Text() : DBGrid3.Shown(row, kText);
+  const std::string text = TypedText(DBGrid3, kText);
+  RtRadioLabel.SetCaption(text);
   RtCountLabel.SetCaption(std::to_string(text.find_last_not_of(' ') + 1) + " / " +
                           std::to_string(kRtCharacters));
 }

@@ -27,6 +27,8 @@ class RtTab {
   Label RtSelectedLabel{window_, "RtSelectedLabel"};
   /// How many of its places the text of that row takes.
   Label RtCountLabel{window_, "RtCountLabel"};
+  /// That text, for whoever says what radios show of it.
+  Label RtRadioLabel{window_, "RtRadioLabel"};
   Button Command9{window_, "Command9"};    ///< read one
   Button Command22{window_, "Command22"};  ///< read all
   Button Command14{window_, "Command14"};  ///< send one

@@ -13,6 +13,7 @@
 #include "config/config_data.h"
 #include "config/conversions.h"
 #include "config/ini_management.h"
+#include "link/radio_text.h"
 #include "networks/eon_data.h"
 #include "networks/ih_data.h"
 #include "networks/li_data.h"
@@ -65,7 +66,7 @@ void TakeRecord(Prepared& prepared) {
   for (std::uint8_t type = 0; type <= PtynData::MaxPtyList(); ++type) {
     const std::string& name = names.Ptyn(type);
     const bool is_one = name != "--------" && !WithoutBlanksAtEnd(name).empty();
-    if (is_one) prepared.type_names.at(type) = name;
+    if (is_one) prepared.type_names.at(type) = ToCoder(name);
   }
 }
 
@@ -79,9 +80,9 @@ void TakeNames(int page, int rows, Row row, std::vector<Prepared::Name>& names) 
   const std::size_t before = names.size();
   for (int number = 0; number < rows; ++number) {
     const auto [text, seconds] = row(number);
-    if (seconds > 0) names.push_back({page, number, text, seconds, shows(number)});
+    if (seconds > 0) names.push_back({page, number, ToCoder(text), seconds, shows(number)});
   }
-  if (names.size() == before) names.push_back({page, 0, row(0).first, 0, shows(0)});
+  if (names.size() == before) names.push_back({page, 0, ToCoder(row(0).first), 0, shows(0)});
 }
 
 void TakePages(Prepared& prepared) {
@@ -131,7 +132,8 @@ void TakeProgramme(Prepared& prepared) {
   const RtData texts;
   for (std::int16_t row = 0; row < texts.MaxRtNum(); ++row) {
     if (texts.RotationTime(row) == 0) continue;
-    prepared.texts.push_back({row, WithoutBlanksAtEnd(texts.Data(row)), texts.RotationTime(row)});
+    prepared.texts.push_back(
+        {row, WithoutBlanksAtEnd(ToCoder(texts.Data(row))), texts.RotationTime(row)});
   }
 
   const PinData items;
@@ -190,7 +192,7 @@ void TakeNetworks(Prepared& prepared) {
     if (!lists.Enable(list)) continue;
     Prepared::Network network{.list = list,
                               .pi = lists.Pi(list) & kSixteenBits,
-                              .name = lists.Psn(list),
+                              .name = ToCoder(lists.Psn(list)),
                               .tp = lists.Tp(list),
                               .ta = lists.Ta(list),
                               .pty = lists.Pty(list) % kProgrammeTypes,
@@ -240,7 +242,7 @@ void TakeChannels(Prepared& prepared) {
 
   const IhData pages;
   for (std::int16_t i = 0; i < pages.PagesCount(); ++i) {
-    const std::string text = WithoutBlanksAtEnd(pages.Page(i));
+    const std::string text = WithoutBlanksAtEnd(ToCoder(pages.Page(i)));
     std::error_code error;
     const std::filesystem::path own = pages.FullName(i);
     const bool is_there = own.is_absolute() && std::filesystem::is_regular_file(own, error);

@@ -43,7 +43,7 @@ TEST_F(ConfigDataTest, DefaultsWithoutAFile) {
             std::tuple(false, false, false, true));
   EXPECT_TRUE(c.AfMethodA() && c.PsnPagesEnable() && c.PsnPlanEnable() && c.EonEnable() &&
               c.EccEnable() && c.LicEnable() && c.PtynEnable() && c.TmcEnable());
-  EXPECT_FALSE(c.GroupsEnable() || c.GroupsBEnable());
+  EXPECT_FALSE(c.GroupsEnable() || c.GroupsBEnable() || c.RadioCharacters());
   EXPECT_EQ(std::tuple(c.Tp(), c.Ta(), c.Music(), c.Pty(), c.Pi()),
             std::tuple(false, false, true, 0, 0));
   EXPECT_EQ(std::tuple(c.PresetPassword(), c.PresetNewPassword()), std::tuple("?????", "?????"));
@@ -64,7 +64,8 @@ TEST_F(ConfigDataTest, WholeFileGoesThroughTheRecord) {
       "StopBit=1\r\nModem=On\r\nModemTone=Off\r\nModemTel=0,123 456\r\n"
       "[RDS Setup]\r\nAF Method A=Off\r\nPSN Pages Enable=On\r\nPSN Plan Enable=Off\r\n"
       "EON Enable=Off\r\nECC Enable=Off\r\nLIC Enable=Off\r\nPTYN Enable=Off\r\nTMC Enable=Off\r\n"
-      "Groups Enable=On\r\nGroups B Enable=On\r\nTP=On\r\nTA=On\r\nMusic=Off\r\nPTY=31\r\n"
+      "Groups Enable=On\r\nGroups B Enable=On\r\nRadio Characters=On\r\n"
+      "TP=On\r\nTA=On\r\nMusic=Off\r\nPTY=31\r\n"
       "PresetPsn=On\r\nPresetAf=Off\r\nPresetTp=On\r\nPresetRt=Off\r\nPresetIh=On\r\nPresetPi="
       "Off\r\n"
       "PresetCt=On\r\nPresetPin=Off\r\nPresetDi=On\r\nPresetTdc=Off\r\nPresetTmc=On\r\n"
@@ -128,6 +129,13 @@ TEST_F(ConfigDataTest, RulesBetweenFields) {
   configData->SetParity("odd");
   configData->SetParity("");
   EXPECT_EQ(configData->Parity(), "o");
+
+  const std::string radio = "Radio Characters=";  // in no file that does not know it
+  configData->SetIni();
+  EXPECT_EQ(ReadFile(ProgramFile()).find(radio), std::string::npos);
+  Load("[RDS Setup]\r\n" + radio + "no\r\n");
+  configData->SetIni();
+  EXPECT_NE(ReadFile(ProgramFile()).find(radio + "Off\r\n"), std::string::npos);
 }
 
 TEST_F(ConfigDataTest, Languages) {

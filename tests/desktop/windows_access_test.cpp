@@ -242,6 +242,16 @@ TEST_F(WindowsAccessTest, EveryStateIsInWords) {
   EXPECT_EQ(Said(hand.Control(kTexts, "Combo1"), QAccessible::Name).toStdString(), "Type");
   hand.Close(kTexts);
 
+  for (const auto& [characters, said] :
+       {std::pair("",
+                  "On a radio: CafŊê (if the Coder does not translate): é becomes Ŋ, ’ becomes ê"),
+        std::pair("Radio Characters=On\n", "Goes out as: Café': ’ becomes '")}) {
+    StartWithCoder({"--open"}, std::string(kGroupsFile) + characters + "[EON]\nPsn0=Caf\xE9\x92\n");
+    hand.Click(kMain, "EonLiButton");
+    expect(kNetworks, "EonPsnRadioLabel", said, "");
+    hand.Close(kNetworks);
+  }
+
   OpenIdentity();
   hand.StepUp(kStation, "VScroll3");
   expect(kStation, "VScroll3", "ID Number", hand.Shown(kStation, "IDNumberText"));

@@ -2,6 +2,7 @@
 
 #include "link/list_commands.h"
 
+#include <algorithm>
 #include <numeric>
 
 #include "config/config_data.h"
@@ -310,6 +311,48 @@ TEST_F(ListCommands, PageTravelsInSeventeenFrames) {
     EXPECT_EQ(port.written[16], WholeFrame(0x12, 0, "00D    "));
     EXPECT_NEAR(time.Elapsed() - begin, 16 * 0.2, 0.01);
   }
+}
+
+TEST_F(ListCommands, TranslateTextsForACoderThatDoesNot) {
+  WriteFile(ProgramFile(), std::string(kLocal) + "[RDS Setup]\r\nRadio Characters=On\r\n");
+  configData->GetIni();
+  // What radios lack, and what goes out for it; all other bytes come back.
+  const std::string lacking =
+      "^`~"
+      "\x81\x82\x83\x84\x85\x86\x87\x88\x8B\x8D\x8F\x90\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9B\x9D"
+      "\x9F"
+      "\xA0\xA2\xA5\xA6\xA8\xAB\xAC\xAE\xB4\xB6\xB7\xB8\xBB\xD7\xFF\x1F";
+  const std::string plain = R"(''-?'f".++''???''""*---T'?Y cY|""-R'P.,"xy)"
+                            "\xAD";
+  std::string back = Page();
+  for (char& c : back) {
+    const std::size_t place = lacking.find(c);
+    if (place != std::string::npos) c = plain.at(place);
+  }
+  SendIh(0, Page(), 0);
+  std::string text;
+  std::int16_t rotation = 0;
+  ReadIh(0, text, rotation);
+  EXPECT_EQ(text, back);
+
+  // A name of 8 places, at the head of whatever carries texts.
+  const Bytes sent = Text("Caf\x82\xAB\x24' ");
+  the_coder->SetSizes({255, 15, 0x1A, 0xA0, 0x1000, 0x64, 9, 12, 0x10E});
+  for (const Row& row : kRows) {
+    if (row.send == nullptr || row.values.text.empty() || row.label[0] == 'T') continue;
+    SCOPED_TRACE(row.label);
+    Values values = row.values;
+    values.text.replace(0, 8, "Caf\xE9$\xA4\x92 ");
+    row.send(values);
+    EXPECT_FALSE(std::ranges::search(port.written.back(), sent).empty());
+    row.read(values);
+    EXPECT_EQ(values.text.substr(0, 8), "Caf\xE9$\xA4' ");
+  }
+
+  // What only radios have comes back plain.
+  the_coder->SetItem(0x17, 1, Text("\xCB\xDB\xA1\xAC\x5E\xFF\x7F\x8F"));
+  ReadPtyn(text, 1);
+  EXPECT_EQ(text, "Cca<- \x7FI\x03");
 }
 
 TEST_F(ListCommands, PageOnAOneWayPathStopsAtEsc) {

@@ -32,6 +32,14 @@ class ComparisonTest : public test::SentStation {
     Change("MaxPinNum=255\r\n",
            "MaxPinNum=255\r\nPin020=15;12:02;10;Off\r\nPin021=15;08:10;10;Off\r\n");
     Change("Group13A=00;Off", "Group13A=01;On");  // it has nothing to say
+    // A Coder that translates nothing, and texts that would need it.
+    Change("EON Enable=On\r\n", "EON Enable=On\r\nRadio Characters=On\r\n");
+    Change("LAKESIDE", "LAKESID\xC9");
+    Change("OD MORNI",
+           "\xD6"
+           "D MORN\x92");
+    Change("with Nora and Tim, w", "with N\xF3ra and Tim, w");
+    Change("RIDGE FM", "RIDG\xC8 FM");
     SendAll(file_);
   }
 
@@ -105,12 +113,12 @@ TEST_F(ComparisonTest, NamesWhatWasChangedInTheFileAndNothingElse) {
       {"Compressed=Off", "Compressed=On", "Compressed differs"},
       {"Static PTY=On", "Static PTY=Off", "Dynamic PTY differs"},
       {"\nPTY=10", "\nPTY=11", "PTY differs"},
-      {"LAKESIDE", "LAKESHOR", "PTYN differs"},
+      {"LAKESID\xC9", "LAKESHOR", "PTYN differs"},
       {"PtyN10=", "PtyN11=", "PTYN not prepared"},
       {"  98.4  ", "  98.5  ", "PS 00.01 differs"},
       {"Psn00.04=04;On", "Psn00.04=04;Off", "PS not prepared"},
       {" & NEWS ;", " & NEWS ;\r\nPsn00.05=04;On;NIGHT FM;", "PS 00.05 not heard yet"},
-      {"with Nora and Tim, w", "with Nora and Tom, w", "RT 01 differs"},
+      {"with N\xF3ra and Tim, w", "with Nora and Tim, w", "RT 01 differs"},
       {"Rt05=15", "Rt05=00", "RT not prepared"},
       {"Clock Time Offset=2", "Clock Time Offset=3", "CT offset differs"},
       {"15;12:02;10", "15;12:03;10", "PIN differs"},
@@ -121,7 +129,7 @@ TEST_F(ComparisonTest, NamesWhatWasChangedInTheFileAndNothingElse) {
       {"Lsn=2A1", "Lsn=2A2", "LSN differs"},
       {"Egi=Off", "Egi=On", "LSN differs"},
       {"Pi0=542B", "Pi0=542D", "EON 00 PI differs"},
-      {"RIDGE FM", "BRIDGE F", "EON 00 PS differs"},
+      {"RIDG\xC8 FM", "RIDGE FM", "EON 00 PS differs"},
       {"Tp0=On", "Tp0=Off", "EON 00 TP differs"},
       {"Ta0=Off", "Ta0=On", "EON 00 TA differs"},
       {"Pty0=0A", "Pty0=0B", "EON 00 PTY differs"},
@@ -212,7 +220,7 @@ TEST_F(ComparisonTest, EndsWithWhatCameOfIt) {
   WriteFile(Place("air.txt"), lines);
   WriteFile(Place("short.txt"), lines.substr(0, lines.size() / 20));
   WriteFile(Place("station.rds"), file_);
-  Change("LAKESIDE", "LAKESHOR");
+  Change("LAKESID\xC9", "LAKESHOR");
   WriteFile(Place("other.rds"), file_);
   WriteFile(Place("junk.rds"), "nothing of a station\n");
   std::filesystem::create_directory(Place("empty"));

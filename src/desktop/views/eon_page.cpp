@@ -10,6 +10,7 @@
 #include "desktop/widgets/presses/check_box_widget.h"
 #include "desktop/widgets/presses/spinner_widget.h"
 #include "desktop/widgets/texts/label_widget.h"
+#include "desktop/widgets/texts/radio_line.h"
 #include "link/list_commands.h"
 
 namespace corvalis::desktop {
@@ -28,6 +29,7 @@ QWidget* Network(EonTab& tab, QWidget* parent) {
   QLineEdit* name = CodeBox(tab.EonPsnText, kPsnCharacters, group);
   name->setAlignment(Qt::AlignLeft);  // its places count
   AddField(*fields, tab.EonPsnLabel, name);
+  AddLine(*fields, new RadioLine(tab.EonPsnRadioLabel, group));
   AddField(*fields, tab.EonPiLabel, CodeBox(tab.EonPiText, kHexDigits, group));
   AddField(*fields, tab.EonPinLabel, CodeBox(tab.EonPinText, kHexDigits, group));
   AddField(*fields, tab.EonPtyLabel, new DropDownWidget(tab.EonPtyCombo, group));

@@ -7,6 +7,7 @@
 #include "desktop/widgets/look/style.h"
 #include "desktop/widgets/presses/spinner_widget.h"
 #include "desktop/widgets/texts/label_widget.h"
+#include "desktop/widgets/texts/radio_line.h"
 
 namespace corvalis::desktop {
 
@@ -57,7 +58,7 @@ PsnPage::PsnPage(PsnTab& tab, QWidget* parent) : QWidget(parent) {
   halves->addWidget(side);
   ListPage(this, list,
            {&tab.Command19, &tab.Command20, &tab.Command17, &tab.Command16, &tab.Command18}, {},
-           {SelectedRow(tab.PsnSelectedLabel, grid, this)});
+           {SelectedRow(tab.PsnSelectedLabel, grid, this), new RadioLine(tab.PsnRadioLabel, this)});
 }
 
 }  // namespace corvalis::desktop

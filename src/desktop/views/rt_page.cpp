@@ -4,6 +4,7 @@
 #include "desktop/widgets/look/language.h"
 #include "desktop/widgets/look/layout.h"
 #include "desktop/widgets/texts/label_widget.h"
+#include "desktop/widgets/texts/radio_line.h"
 
 namespace corvalis::desktop {
 
@@ -15,7 +16,7 @@ RtPage::RtPage(RtTab& tab, QWidget* parent) : QWidget(parent) {
   static_cast<QHBoxLayout*>(below->layout())->addWidget(count);
   ListPage(this, grid,
            {&tab.Command9, &tab.Command22, &tab.Command14, &tab.Command21, &tab.Command10}, {},
-           {below});
+           {below, new RadioLine(tab.RtRadioLabel, this)});
 }
 
 }  // namespace corvalis::desktop
