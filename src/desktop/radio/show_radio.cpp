@@ -8,6 +8,7 @@
 #include "desktop/radio/radio_window.h"
 #include "desktop/views/guide.h"
 #include "desktop/widgets/look/style.h"
+#include "desktop/widgets/look/toolkit_words.h"
 #include "radio/language.h"
 #include "radio/program.h"
 
@@ -21,6 +22,8 @@ int ShowRadio(const radio::Options& options, int& argc, char** argv) {
   ApplyStyle(application);
   // Of the file that the program is started with; one that is opened later changes no captions.
   if (!options.compare.empty()) radio::TakeLanguage(options.compare);
+  ToolkitWords toolkit_words;
+  QApplication::installTranslator(&toolkit_words);
   const Guide guide([] { return QString::fromStdString(LanguageCode()); });
   RadioWindow window;
   for (const std::string& wrong :
