@@ -21,6 +21,8 @@ namespace corvalis::desktop {
 
 namespace {
 
+constexpr int kLayoutDepth = 10;
+
 [[noreturn]] void Fail(const QString& what) { throw std::runtime_error(what.toStdString()); }
 
 QWidget* Visible(const QString& name) {
@@ -180,7 +182,8 @@ QString Hand::ShownCell(const QString& window, const QString& grid, int row, int
 }
 
 void Hand::Picture(const QString& window, const QString& file) const {
-  QApplication::processEvents();
+  // Layouts within layouts settle one after the other.
+  for (int depth = 0; depth < kLayoutDepth; ++depth) QApplication::processEvents();
   if (QWidget* shown = Visible(window)) Picture(*shown, file);
 }
 
