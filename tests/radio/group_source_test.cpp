@@ -22,19 +22,19 @@ class GroupSourceTest : public test::MachineTest {
   [[nodiscard]] std::string Path() const { return folder + "/groups"; }
   // How many groups come, portion by portion.
   std::size_t ReadAll() {
-    std::size_t count = 0;
+    groups_.clear();
     bool more = true;
     while (more) {
-      groups_.clear();
-      more = source_.Read(groups_);
-      EXPECT_LE(groups_.size(), GroupSource::kPortion);
-      count += groups_.size();
+      std::vector<air::HeardGroup> portion;
+      more = source_.Read(portion);
+      EXPECT_LE(portion.size(), GroupSource::kPortion);
+      groups_.insert(groups_.end(), portion.begin(), portion.end());
     }
-    return count;
+    return groups_.size();
   }
 
   GroupSource source_;
-  std::vector<air::HeardGroup> groups_;
+  std::vector<air::HeardGroup> groups_;  // that came
 };
 
 TEST_F(GroupSourceTest, ReadsAFileThatGrowsAndIsWrittenAnew) {
