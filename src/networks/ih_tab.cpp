@@ -149,9 +149,10 @@ void IhTab::WriteFile() {
   const bool written = ihData->WriteFile(page_);
   ShowFiles();
   ShowPath();
-  const std::string how = written                            ? Word("written")
-                          : ihData->NamesStationsFile(page_) ? Word("not written: the station's own")
-                                                             : Word("not written");
+  const std::string how = written ? Word("written")
+                          : ihData->NamesStationsFile(page_)
+                              ? Word("not written: the station's own")
+                              : Word("not written");
   PathLabel.SetCaption(PathLabel.Caption() + "  (" + Utf8From1252(how) + ")");
   LookIntoFile();
 }
