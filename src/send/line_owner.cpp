@@ -17,8 +17,8 @@ class LineOwner::Together {
   int& count_;
 };
 
-LineOwner::LineOwner(SerialPort& port) : port_(port) {
-  port_.CommEventRaised = [this] {
+LineOwner::LineOwner(SerialPort& port) : PortInFront(port) {
+  Behind().CommEventRaised = [this] {
     if (CommEventRaised) CommEventRaised();
   };
   CommEventRaised = OnComm;
@@ -26,7 +26,7 @@ LineOwner::LineOwner(SerialPort& port) : port_(port) {
 
 LineOwner::~LineOwner() {
   Close();
-  port_.CommEventRaised = nullptr;
+  Behind().CommEventRaised = nullptr;
 }
 
 LineOwner::State LineOwner::MakeReady() {
@@ -54,7 +54,7 @@ void LineOwner::Close() {
   ReleaseLink();
   LinkOpen = false;
   AddressSent = false;
-  static_cast<void>(port_.SetPortOpen(false));
+  static_cast<void>(Behind().SetPortOpen(false));
 }
 
 PortError LineOwner::Output(std::span<const std::uint8_t> bytes) {
@@ -62,10 +62,10 @@ PortError LineOwner::Output(std::span<const std::uint8_t> bytes) {
     const Together together(together_);
     BeforeExchange();
     // What somebody else's exchange left over is no answer to this one.
-    port_.ClearInput();
+    Behind().ClearInput();
     if (Queue* queue = ReceiveQueue()) queue->QReset();
   }
-  return port_.Output(bytes);
+  return Behind().Output(bytes);
 }
 
 }  // namespace corvalis::send

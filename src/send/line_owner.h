@@ -3,7 +3,7 @@
 #include <functional>
 #include <string>
 
-#include "platform/serial_port.h"
+#include "send/port_in_front.h"
 
 namespace corvalis::send {
 
@@ -12,7 +12,7 @@ namespace corvalis::send {
 /// there, somebody else may have the line.
 ///
 /// It is the port of the link, in front of the real one.
-class LineOwner : public SerialPort {
+class LineOwner : public PortInFront {
  public:
   /// `port` is the real one, and has to outlive this.
   explicit LineOwner(SerialPort& port);
@@ -40,29 +40,12 @@ class LineOwner : public SerialPort {
   /// exchanged within it goes straight on.
   std::function<void()> BeforeExchange;
 
-  PortError SetCommPort(int number) override { return port_.SetCommPort(number); }
-  [[nodiscard]] int CommPort() const override { return port_.CommPort(); }
-  PortError SetPortOpen(bool open) override { return port_.SetPortOpen(open); }
-  [[nodiscard]] bool PortOpen() const override { return port_.PortOpen(); }
-  PortError SetSettings(const std::string& settings) override {
-    return port_.SetSettings(settings);
-  }
-  [[nodiscard]] std::string Settings() const override { return port_.Settings(); }
-  PortError SetInputLen(int length) override { return port_.SetInputLen(length); }
-  PortError SetInputMode(int mode) override { return port_.SetInputMode(mode); }
-  PortError SetRThreshold(int bytes) override { return port_.SetRThreshold(bytes); }
-  PortError SetRTSEnable(bool on) override { return port_.SetRTSEnable(on); }
-  [[nodiscard]] int InBufferCount() const override { return port_.InBufferCount(); }
-  PortError ClearInput() override { return port_.ClearInput(); }
-  std::vector<std::uint8_t> Input() override { return port_.Input(); }
   PortError Output(std::span<const std::uint8_t> bytes) override;
-  [[nodiscard]] int CommEvent() const override { return port_.CommEvent(); }
 
  private:
   // While one of these lives, exchanges belong together.
   class Together;
 
-  SerialPort& port_;
   int together_ = 0;
 };
 

@@ -22,11 +22,11 @@ double Now() { return Machine().clock->Steady(); }
 
 }  // namespace
 
-SharedLine::SharedLine(SerialPort& port) : port_(port) {
-  port_.CommEventRaised = [this] { Receive(); };
+SharedLine::SharedLine(SerialPort& port) : PortInFront(port) {
+  Behind().CommEventRaised = [this] { Receive(); };
 }
 
-SharedLine::~SharedLine() { port_.CommEventRaised = nullptr; }
+SharedLine::~SharedLine() { Behind().CommEventRaised = nullptr; }
 
 bool SharedLine::Full() const { return waiting_.size() >= kEnough; }
 
@@ -47,7 +47,7 @@ void SharedLine::Advance() {
 
 void SharedLine::AdvanceDesktop() {
   for (;;) {
-    if (!port_.PortOpen()) {
+    if (!Behind().PortOpen()) {
       exchange_.Break();
       actual_.reset();
     }
@@ -66,7 +66,7 @@ std::size_t SharedLine::PieceOfDesktop() const {
 }
 
 void SharedLine::BeginForDesktop(std::size_t size) {
-  if (!port_.PortOpen() && !OpenForDesktop()) return DropWaiting();
+  if (!Behind().PortOpen() && !OpenForDesktop()) return DropWaiting();
   const auto end = waiting_.begin() + static_cast<std::ptrdiff_t>(size);
   const std::vector<std::uint8_t> piece(waiting_.begin(), end);
   if (!std::exchange(restored_, true)) {
@@ -92,13 +92,13 @@ std::vector<std::uint8_t> SharedLine::WantedBefore(const Side& side,
 }
 
 PortError SharedLine::Begin(Side* side, std::span<const std::uint8_t> piece) {
-  static_cast<void>(port_.ClearInput());
+  static_cast<void>(Behind().ClearInput());
   asking_ = side;
   addressing_.clear();
   if (IsEnq(piece) || IsAddress(piece)) addressing_.assign(piece.begin(), piece.end());
   exchange_.Begin(piece, Now());
   const bool advancing = std::exchange(advancing_, true);
-  PortError error = port_.Output(piece);
+  PortError error = Behind().Output(piece);
   advancing_ = advancing;
   if (error) {
     exchange_.Break();
@@ -110,8 +110,8 @@ PortError SharedLine::Begin(Side* side, std::span<const std::uint8_t> piece) {
 }
 
 void SharedLine::Receive() {
-  if (port_.CommEvent() != kCommEventReceive) return;
-  const std::vector<std::uint8_t> bytes = port_.Input();
+  if (Behind().CommEvent() != kCommEventReceive) return;
+  const std::vector<std::uint8_t> bytes = Behind().Input();
   if (bytes.empty()) return;
   const bool running = exchange_.Running();
   exchange_.Take(bytes, Now());
@@ -167,15 +167,15 @@ void SharedLine::TellDue() {
 }
 
 bool SharedLine::OpenForDesktop() {
-  return !port_.SetCommPort(configData->CommPort()) && !port_.SetPortOpen(true) &&
-         !port_.SetSettings(PortSettings()) && !port_.SetInputLen(0) &&
-         !port_.SetInputMode(kInputModeBinary) && !port_.SetRThreshold(1) &&
-         !port_.SetRTSEnable(true);
+  return !Behind().SetCommPort(configData->CommPort()) && !Behind().SetPortOpen(true) &&
+         !Behind().SetSettings(PortSettings()) && !Behind().SetInputLen(0) &&
+         !Behind().SetInputMode(kInputModeBinary) && !Behind().SetRThreshold(1) &&
+         !Behind().SetRTSEnable(true);
 }
 
 PortError SharedLine::SetPortOpen(bool open) {
-  if (!open && port_.PortOpen()) static_cast<void>(WaitForLine());
-  PortError error = port_.SetPortOpen(open);
+  if (!open && Behind().PortOpen()) static_cast<void>(WaitForLine());
+  PortError error = Behind().SetPortOpen(open);
   if (!open) {
     exchange_.Break();
     actual_.reset();
@@ -208,7 +208,7 @@ PortError SharedLine::WaitForLine() {
 }
 
 PortError SharedLine::Output(std::span<const std::uint8_t> bytes) {
-  if (!port_.PortOpen()) return port_.Output(bytes);
+  if (!Behind().PortOpen()) return Behind().Output(bytes);
   if (PortError error = WaitForLine()) return error;
   if (const auto before = WantedBefore(service_, bytes); !before.empty()) {
     favoured_ = &service_;

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/serial_port.h"
 #include "send/exchange.h"
+#include "send/port_in_front.h"
 
 namespace corvalis::send {
 
@@ -20,7 +20,7 @@ namespace corvalis::send {
 /// the Coder as it is.
 ///
 /// For a Coder that answers only: over a one-way link nothing tells when an exchange is over.
-class SharedLine : public SerialPort {
+class SharedLine : public PortInFront {
  public:
   /// `port` is the real one, and has to outlive this.
   explicit SharedLine(SerialPort& port);
@@ -42,20 +42,10 @@ class SharedLine : public SerialPort {
   /// It is called whenever something has changed.
   std::function<void(double due)> Due;
 
-  PortError SetCommPort(int number) override { return port_.SetCommPort(number); }
-  [[nodiscard]] int CommPort() const override { return port_.CommPort(); }
   /// An exchange of the desktop is over before the line is closed.
   PortError SetPortOpen(bool open) override;
-  [[nodiscard]] bool PortOpen() const override { return port_.PortOpen(); }
-  PortError SetSettings(const std::string& settings) override {
-    return port_.SetSettings(settings);
-  }
-  [[nodiscard]] std::string Settings() const override { return port_.Settings(); }
-  PortError SetInputLen(int length) override { return port_.SetInputLen(length); }
-  PortError SetInputMode(int mode) override { return port_.SetInputMode(mode); }
   /// The desktop's answers are always received.
-  PortError SetRThreshold(int /*bytes*/) override { return port_.SetRThreshold(1); }
-  PortError SetRTSEnable(bool on) override { return port_.SetRTSEnable(on); }
+  PortError SetRThreshold(int /*bytes*/) override { return Behind().SetRThreshold(1); }
   [[nodiscard]] int InBufferCount() const override { return static_cast<int>(input_.size()); }
   PortError ClearInput() override;
   std::vector<std::uint8_t> Input() override;
@@ -84,7 +74,6 @@ class SharedLine : public SerialPort {
   void DropWaiting();
   void TellDue();
 
-  SerialPort& port_;
   Exchange exchange_;                     // the one on the line
   Side* asking_ = nullptr;                // whose exchange it is; null: it is for the addressing
   std::vector<std::uint8_t> addressing_;  // its piece, if that is about the addressing

@@ -1,74 +1,11 @@
 // The main menu from start to end, with the Coder in memory.
 
-#include "app/main_form.h"
-
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <filesystem>
-
-#include "busy/wait_form.h"
-#include "config/language_data.h"
-#include "link/serial_management.h"
-#include "link/transfer.h"
-#include "networks/eon_data.h"
-#include "networks/li_data.h"
-#include "programme/af_a_data.h"
-#include "programme/af_b_data.h"
-#include "programme/psn_data.h"
-#include "programme/psn_page_data.h"
-#include "programme/ptyn_data.h"
-#include "support/test_machine.h"
+#include "app/main_form_fixture.h"
 
 namespace corvalis::test {
 namespace {
-
-// The sizes of the lists as they are asked at start and on Open.
-constexpr int kEnqFrame = 0;
-const std::vector<int> kEnqAndCounts{kEnqFrame, 0x0C, 0x14, 0x1E, 0x20, 0x14,
-                                     0x0A,      0x0B, 0x13, 0x15, 0x23};
-// New has another order.
-const std::vector<int> kCountsOfNew{0x14, 0x1E, 0x20, 0x14, 0x0A, 0x0B, 0x0C, 0x13, 0x15, 0x23};
-
-class MainFormTest : public MachineTest {
- protected:
-  MainFormTest() : line(the_coder, coder::Faults{}) { port.line = &line; }
-  ~MainFormTest() override { form.reset(); }
-
-  void Run(const std::string& file) {
-    form.reset();
-    port.SetPortOpen(false);
-    WriteFile(ProgramFile(), file);
-    form = std::make_unique<MainForm>();
-    form->Load();
-  }
-
-  void OpenFile(const std::string& name) {
-    form->Text105.SetText(name);
-    form->OpenButton.Press();
-  }
-  std::string Elsewhere() {
-    std::filesystem::create_directory(folder + "/elsewhere");
-    form->Dir1.SetPath(folder + "/elsewhere");
-    return folder + "/elsewhere";
-  }
-
-  coder::Coder the_coder{"?????", true};
-  /// The commands of the frames that have been written.
-  [[nodiscard]] std::vector<int> Codes() const {
-    std::vector<int> codes;
-    for (const Bytes& frame : port.written) {
-      codes.push_back(frame == Bytes{kEnq} ? kEnqFrame : frame.at(kCommandOffset));
-    }
-    return codes;
-  }
-
-  coder::Line line;
-  std::unique_ptr<MainForm> form;
-};
-
-constexpr const char* kLocal = "[Serial Setup]\nSatellite=Off\n";
-constexpr const char* kModem = "[Serial Setup]\nSatellite=Off\nModem=On\n";
 
 TEST_F(MainFormTest, StartOnALocalLink) {
   WriteFile(machine.settings_folder + "/Firm.ini", "[Firm]\r\nFirm=KOR\r\n");
@@ -258,108 +195,6 @@ TEST_F(MainFormTest, OverACallTheNetworksAreAskedWhateverTheModel) {
   port.Wrote = [] { EXPECT_TRUE(TheWaitForm().window.Visible()); };
   form->NewButton.Press();
   EXPECT_EQ(Codes(), kCountsOfNew);
-}
-
-TEST_F(MainFormTest, LinkInWords) {
-  const auto words = [this] { return form->LinkLabel.Caption(); };
-  const std::string leads_on = ": CONNECTION, SEND ID";
-  Run(kLocal);
-  EXPECT_EQ(words(), "Local, COM 1, 9600,N,8,2: the Coder answered, no address sent" + leads_on);
-  form->CtTpDiPiButton.Press();
-  AddressSent = true;
-  form->OpenedCtTpDiPi()->window.Close();
-  EXPECT_EQ(words(), "Local, COM 1, 9600,N,8,2: the Coder answered, address sent");
-  const std::string opens_anew = "; OPEN or SETUP opens it anew";
-  const std::tuple<const char*, std::string, std::string> cases[] = {
-      // Open on this file; and after New, on the default one.
-      {"", "Satellite, COM 1, 9600,N,8,2: no address sent" + leads_on,
-       "COM 1 is open for a one-way path" + opens_anew},
-      {"Satellite=Off\nSerialPort=2\n",
-       "Local, COM 2, 9600,N,8,2: the Coder answered, no address sent" + leads_on,
-       "COM 2 is open, not COM 1" + opens_anew},
-      {"Satellite=Off\nBaudrate=1200\n",
-       "Local, COM 1, 1200,N,8,2: the Coder answered, no address sent" + leads_on,
-       "COM 1 is open with 1200,N,8,2, not 9600,N,8,2" + opens_anew}};
-  for (const auto& [file, after_open, after_new] : cases) {
-    WriteFile(machine.program_folder + "/other.rds", std::string("[Serial Setup]\n") + file);
-    OpenFile("other.rds");
-    EXPECT_EQ(words(), after_open);
-    form->NewButton.Press();
-    EXPECT_EQ(words(), after_new);
-  }
-  port.answer = [](const Bytes&) { return Bytes{}; };
-  OpenFile("corvalis.rds");
-  EXPECT_EQ(words(), "Local, COM 1, 9600,N,8,2: the Coder did not answer, no address sent");
-  Run(kModem);
-  EXPECT_EQ(words(), "Modem, COM 1, 9600,N,8,2: no address sent");
-  configData->SetModemHookOn(true);  // a call
-  form->window.SetEnabled(false);
-  form->window.SetEnabled(true);
-  EXPECT_EQ(words(), "Modem, COM 1, 9600,N,8,2: no address sent" + leads_on);
-  port.missing[1] = "no such port";
-  OpenFile("corvalis.rds");
-  EXPECT_EQ(words(), "Modem: COM 1 is not open");
-}
-
-TEST_F(MainFormTest, OnTheFirstStartTheLinkSaysThatItIsOneWayAndHowToChooseAnother) {
-  form = std::make_unique<MainForm>();
-  form->Load();
-  const std::string leads_on = ": CONNECTION, SEND ID";
-  const std::string hint = "; one way, unless SETUP says Local or Modem";
-  EXPECT_EQ(form->LinkLabel.Caption(),
-            "Satellite, COM 1, 9600,N,8,2: no address sent" + leads_on + hint);
-  form->SaveButton.Press();
-  EXPECT_EQ(form->LinkLabel.Caption(), "Satellite, COM 1, 9600,N,8,2: no address sent" + leads_on);
-}
-
-TEST_F(MainFormTest, WhatIsNotSavedIsSaid) {
-  Run(kLocal);
-  WriteFile(machine.program_folder + "/other.rds", "[PI]\nCountry=007\nProgram Number=+\n");
-  const std::string path = machine.program_folder + "/corvalis.rds";
-  const auto told = [this](const std::string& of) {
-    return form->PathLabel.Caption().substr(of.size());
-  };
-  // What a person does on a screen, and undoes.
-  const auto change = [this](std::uint8_t country, const std::string& name) {
-    form->CtTpDiPiButton.Press();
-    configData->SetCountry(country);
-    psnPageData->SetData(0, 0, name);
-    form->OpenedCtTpDiPi()->window.Close();
-  };
-  const auto country = static_cast<std::uint8_t>(configData->Country());
-  const std::string name = psnPageData->Data(0, 0);
-  EXPECT_EQ(told(path), "");
-  change(country, "LATE");
-  EXPECT_EQ(told(path), "  (changed since the start)");
-  change(country, name);
-  EXPECT_EQ(told(path), "");
-  change(3, name);
-  form->SaveButton.Press();
-  EXPECT_EQ(told(path), "  (saved 12:00:00)");
-  change(4, name);
-  EXPECT_EQ(told(path), "  (saved 12:00:00, changed since the last SAVE)");
-  EXPECT_EQ(profiles.Read(path, "PI", "Country"), "3");  // to look has written nothing
-  port.missing[1] = "no such port";
-  OpenFile("other.rds");
-  EXPECT_EQ(told(machine.program_folder + "/other.rds"), "");
-  change(5, name);
-  EXPECT_EQ(told(machine.program_folder + "/other.rds"), "  (changed since the last OPEN)");
-  form->NewButton.Press();
-  change(6, name);
-  EXPECT_EQ(told(path), "  (saved 12:00:00, changed since the last NEW)");
-  configData->SetPath(folder + "/not there");
-  dialogs.boxes.clear();
-  form->SaveButton.Press();
-  EXPECT_TRUE(dialogs.boxes.empty());
-  EXPECT_TRUE(form->window.Enabled());
-  EXPECT_EQ(form->PathLabel.Caption(),
-            folder + "/not there/corvalis.rds  (changed since the last NEW)");
-  // A read from the Coder, while its screen stands.
-  configData->SetPath(machine.program_folder);
-  form->NewButton.Press();
-  Window screen(this, "Screen");
-  RunRead(screen, [] { configData->SetCountry(9); });
-  EXPECT_EQ(told(path), "  (saved 12:00:00, changed since the last NEW)");
 }
 
 TEST_F(MainFormTest, FilePanelFollowsTheFolder) {
